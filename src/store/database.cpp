@@ -1,0 +1,175 @@
+#include "store/database.h"
+
+#include "store/dialecte.h"
+#include "store/recordset_base.h"
+
+#include <QFile>
+
+namespace store {
+
+namespace {
+
+/// Tables without which a file is no base of this program.
+constexpr QStringView tablesAttendues[] = {
+    u"concours", u"equipes",     u"evolution",  u"scores", u"tbclass", u"tnequipes", u"tirages_pro",
+    u"societes", u"typconcours", u"catégories", u"traduc", u"langues", u"joueurs",   u"clubs",
+};
+
+/// Tables that are rebuilt from others each time they are needed: they live in memory under the same name.
+constexpr QStringView tablesDeTravail[] = {u"tbclass"};
+
+QString motDePasseDe(const QString &connexion)
+{
+    for (const QString &partie : connexion.split(u';')) {
+        if (partie.startsWith(u"pwd=", Qt::CaseInsensitive))
+            return partie.mid(4);
+    }
+    return {};
+}
+
+void verifieTables(const Schema &schema, const QString &fichier)
+{
+    for (const QStringView attendue : tablesAttendues) {
+        if (schema.table(attendue) == nullptr)
+            throw Erreur(Erreur::FichierEtranger,
+                         u"Le fichier %1 n'est pas une base de ce programme : il n'a pas de table %2."_qs.arg(fichier,
+                                                                                                         attendue));
+    }
+}
+
+void creeTablesDeTravail(BaseNative &base)
+{
+    for (const QStringView nom : tablesDeTravail) {
+        QStringList creations;
+        Instruction lecture(base, u"select sql from sqlite_master where tbl_name = '%1' and sql is not null "
+                                  u"order by type desc"_qs.arg(nom));
+        while (lecture.avance())
+            creations += lecture.valeur(0).texte();
+        lecture.rend();
+        for (const QString &creation : std::as_const(creations)) {
+            QString temporaire = creation;
+            if (temporaire.startsWith(u"create table", Qt::CaseInsensitive))
+                temporaire.replace(0, 12, u"create temp table"_qs);
+            else
+                temporaire.replace(temporaire.indexOf(u"index", 0, Qt::CaseInsensitive), 5, u"index temp."_qs);
+            base.execute(temporaire);
+        }
+    }
+}
+
+} // namespace
+
+Moteur::Moteur(const QString &fichier, const QString &motDePasse)
+    : base(fichier, motDePasse, BaseNative::Mode::LectureEcriture)
+    , schema(base)
+{
+    verifieTables(schema, base.fichier());
+    base.metEnService();
+    creeTablesDeTravail(base);
+    // One statement of the program names this word after its table, as if it were a second one: with a single row it
+    // changes nothing in the answer.
+    base.execute(u"create temp view dbOpensnapshot as select 1"_qs);
+}
+
+QString Database::fichier() const
+{
+    return moteur().base.fichier();
+}
+
+Moteur &Database::moteur() const
+{
+    if (m_moteur == nullptr)
+        throw Erreur(Erreur::Ferme, u"La base est fermée."_qs);
+    return *m_moteur;
+}
+
+Recordset Database::OpenRecordset(QStringView source, int type)
+{
+    const Schema &schema = moteur().schema;
+    const Table *table = schema.table(source.trimmed());
+    if (table != nullptr && type != dbOpenSnapshot && type != dbOpenDynaset)
+        return Recordset(std::make_unique<RecordsetTable>(m_moteur, table));
+    if (type == dbOpenTable)
+        throw Erreur(Erreur::ObjetInconnu, u"La table %1 n'existe pas."_qs.arg(source));
+    const InstructionTraduite traduite =
+        Traduit(table != nullptr ? QString(u"select * from [%1]"_qs.arg(table->nom)) : source.toString(), schema);
+    const Table *modifiable = type == dbOpenSnapshot ? nullptr : schema.table(traduite.tableUnique);
+    return Recordset(std::make_unique<RecordsetRequete>(m_moteur, traduite.sql, modifiable,
+                                                        !traduite.tableUnique.isEmpty()));
+}
+
+int Database::Execute(QStringView instruction)
+{
+    BaseNative &base = moteur().base;
+    const int avant = base.changements();
+    base.execute(Traduit(instruction, moteur().schema).sql);
+    return base.changements() - avant;
+}
+
+QStringList Database::TableDefs() const
+{
+    return moteur().schema.tables();
+}
+
+void Database::Close()
+{
+    m_moteur.reset();
+}
+
+void Database::EcritEnGroupe(const std::function<void()> &ecriture)
+{
+    BaseNative &base = moteur().base;
+    const auto termine = [&] {
+        // The engine ends a group by itself when the disk fails; there is nothing left to write then.
+        if (--m_groupes == 0 && !base.horsTransaction())
+            base.execute(u"commit"_qs);
+    };
+    if (m_groupes == 0)
+        base.execute(u"begin immediate"_qs);
+    ++m_groupes;
+    try {
+        ecriture();
+    } catch (...) {
+        termine();
+        throw;
+    }
+    termine();
+}
+
+BaseNative &Database::native()
+{
+    return moteur().base;
+}
+
+Database Workspace::OpenDatabase(const QString &nom, bool, bool lectureSeule, const QString &connexion) const
+{
+    if (lectureSeule)
+        throw Erreur(Erreur::LectureSeule, u"La base s'ouvre toujours en écriture."_qs);
+    return Database(std::make_shared<Moteur>(nom, motDePasseDe(connexion)));
+}
+
+Workspace &DBEngine::Workspaces(int numero)
+{
+    return m_workspaces.at(std::size_t(numero));
+}
+
+void DBEngine::CompactDatabase(const QString &source, const QString &cible, const QString &connexion)
+{
+    if (QFile::exists(cible))
+        throw Erreur(Erreur::DossierProtege, u"Le fichier %1 existe déjà."_qs.arg(cible));
+    const QString motDePasse = motDePasseDe(connexion);
+    BaseNative ancienne(source, motDePasse, BaseNative::Mode::LectureEcriture);
+    Instruction attache(ancienne, u"attach ? as cible key ?"_qs);
+    attache.lie(1, cible);
+    attache.lie(2, motDePasse);
+    attache.avance();
+    ancienne.execute(u"select sqlcipher_export('cible')"_qs);
+    for (const QStringView marque : {u"application_id", u"user_version"}) {
+        const QString valeur = ancienne.valeurUnique(u"pragma %1"_qs.arg(marque)).texte();
+        ancienne.executeScript(u"pragma cible.%1 = %2"_qs.arg(marque, valeur));
+    }
+    attache.rend();
+    ancienne.execute(u"detach cible"_qs);
+}
+
+} // namespace store
