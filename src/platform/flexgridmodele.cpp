@@ -18,33 +18,29 @@ QColor encreSur(const QColor &fond)
     return clarte > 0.179 ? Qt::black : Qt::white;
 }
 
-int signeDe(double difference)
+/// What one cell weighs in a sort, worked out once per row: reading a number out of a text is slow.
+struct Cle
 {
-    return difference < 0 ? -1 : difference > 0 ? 1 : 0;
+    bool estNombre;
+    double nombre;
+    QString texte;
+};
+
+Cle cleDe(const QString &texte, FlexGridModele::Nature nature)
+{
+    using Nature = FlexGridModele::Nature;
+    const bool estNombre = nature == Nature::Numerique || (nature == Nature::Generique && store::EstNumerique(texte));
+    return {estNombre, estNombre ? store::Val(texte) : 0, texte};
 }
 
 // Numbers come before texts: comparing a number with a text as texts would make circles (20 < 100 < 1a < 20).
-int compareGenerique(const QString &a, const QString &b, const FlexGridModele::Comparaison &compare)
+int compareCles(const Cle &a, const Cle &b, const FlexGridModele::Comparaison &compare)
 {
-    const bool aNombre = store::EstNumerique(a);
-    const bool bNombre = store::EstNumerique(b);
-    if (aNombre != bNombre)
-        return aNombre ? -1 : 1;
-    return aNombre ? signeDe(store::Val(a) - store::Val(b)) : compare(a, b);
-}
-
-int compareCellules(const QString &a, const QString &b, FlexGridModele::Nature nature,
-                    const FlexGridModele::Comparaison &compare)
-{
-    switch (nature) {
-    case FlexGridModele::Nature::Generique:
-        return compareGenerique(a, b, compare);
-    case FlexGridModele::Nature::Numerique:
-        return signeDe(store::Val(a) - store::Val(b));
-    case FlexGridModele::Nature::Texte:
-        break;
-    }
-    return compare(a, b);
+    if (a.estNombre != b.estNombre)
+        return a.estNombre ? -1 : 1;
+    if (!a.estNombre)
+        return compare(a.texte, b.texte);
+    return a.nombre < b.nombre ? -1 : a.nombre > b.nombre ? 1 : 0;
 }
 
 } // namespace
@@ -160,16 +156,31 @@ void FlexGridModele::vide()
 
 void FlexGridModele::trie(const Tri &tri, const Comparaison &compare)
 {
+    struct Rangee
+    {
+        std::vector<Cle> cles;
+        Ligne ligne;
+    };
     ouvre();
-    const auto avant = [&](const Ligne &a, const Ligne &b) {
-        for (int c = tri.premiereColonne; c <= tri.derniereColonne; ++c) {
-            const int ordre = compareCellules(a[size_t(c)].texte, b[size_t(c)].texte, tri.nature, compare);
+    const auto debut = m_lignes.begin() + tri.premiereLigne;
+    const auto fin = m_lignes.begin() + tri.derniereLigne + 1;
+    std::vector<Rangee> rangees;
+    rangees.reserve(size_t(fin - debut));
+    for (auto ligne = debut; ligne != fin; ++ligne) {
+        std::vector<Cle> cles;
+        for (int c = tri.premiereColonne; c <= tri.derniereColonne; ++c)
+            cles.push_back(cleDe((*ligne)[size_t(c)].texte, tri.nature));
+        rangees.push_back({std::move(cles), std::move(*ligne)});
+    }
+    std::stable_sort(rangees.begin(), rangees.end(), [&](const Rangee &a, const Rangee &b) {
+        for (size_t c = 0; c < a.cles.size(); ++c) {
+            const int ordre = compareCles(a.cles[c], b.cles[c], compare);
             if (ordre != 0)
                 return tri.decroissant ? ordre > 0 : ordre < 0;
         }
         return false;
-    };
-    std::stable_sort(m_lignes.begin() + tri.premiereLigne, m_lignes.begin() + tri.derniereLigne + 1, avant);
+    });
+    std::transform(rangees.begin(), rangees.end(), debut, [](Rangee &rangee) { return std::move(rangee.ligne); });
 }
 
 int FlexGridModele::rowCount(const QModelIndex &parent) const
