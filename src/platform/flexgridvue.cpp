@@ -5,7 +5,6 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
-#include <QScrollBar>
 
 #include <algorithm>
 
@@ -31,11 +30,8 @@ void FlexGrid::synchronise()
         return;
     m_aMontrer = false;
     if (m_modele->enAttente()) {
-        const int defilement = verticalScrollBar()->value();
         m_modele->publie();
         appliqueLargeurs();
-        executeDelayedItemsLayout();
-        verticalScrollBar()->setValue(defilement);
     }
     montreSelection();
 }
