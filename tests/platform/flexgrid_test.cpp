@@ -300,7 +300,7 @@ TEST(FlexGrid, ModelKeepsItsPromisesToTheView)
         grille.setSort(FlexGrid::TexteDecroissant);
         grille.setTextMatrix(2, 3, QStringLiteral("x"));
         grille.setCols(2);
-        grille.repaint();
+        grille.grab();
         EXPECT_EQ(grille.verticalHeader()->count(), 4) << "a picture taken at once shows the rows of now";
         grille.setTextMatrix(0, 0, QStringLiteral("Titre"));
         grille.AddItem(QStringLiteral("dernier"));
