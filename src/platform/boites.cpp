@@ -1,0 +1,69 @@
+#include "platform/boites.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace {
+
+QString titreOuProgramme(const QString &titre)
+{
+    return titre.isEmpty() ? u"VarloTour"_qs : titre;
+}
+
+QMessageBox::Icon image(int drapeaux)
+{
+    switch (drapeaux & 0x70) {
+    case vbCritical:
+        return QMessageBox::Critical;
+    case vbQuestion:
+        return QMessageBox::Question;
+    case vbExclamation:
+        return QMessageBox::Warning;
+    case vbInformation:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+} // namespace
+
+ReponseBoite BoitesQt::MsgBox(const QString &texte, int drapeaux, const QString &titre)
+{
+    compte();
+    QMessageBox boite(QApplication::activeWindow());
+    boite.setWindowTitle(titreOuProgramme(titre));
+    boite.setText(texte);
+    boite.setTextFormat(Qt::PlainText);
+    boite.setIcon(image(drapeaux));
+    const int boutons = drapeaux & 0x7;
+    if (boutons == vbYesNo || boutons == vbYesNoCancel) {
+        boite.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        boite.setDefaultButton(QMessageBox::Yes);
+        boite.setEscapeButton(QMessageBox::No);
+    }
+    if (boutons == vbYesNoCancel) {
+        boite.addButton(QMessageBox::Cancel);
+        boite.setEscapeButton(QMessageBox::Cancel);
+    }
+    switch (boite.exec()) {
+    case QMessageBox::Yes:
+        return ReponseBoite::Oui;
+    case QMessageBox::No:
+        return ReponseBoite::Non;
+    case QMessageBox::Cancel:
+        return ReponseBoite::Annuler;
+    default:
+        return ReponseBoite::OK;
+    }
+}
+
+std::optional<QString> BoitesQt::InputBox(const QString &texte, const QString &titre)
+{
+    compte();
+    bool valide = false;
+    const QString saisi = QInputDialog::getText(QApplication::activeWindow(), titreOuProgramme(titre), texte,
+                                                QLineEdit::Normal, QString(), &valide);
+    return valide ? std::optional(saisi) : std::nullopt;
+}

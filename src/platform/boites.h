@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+/// Buttons and picture of a message box, added up.
+enum DrapeauBoite {
+    vbOKOnly = 0,
+    vbYesNoCancel = 3,
+    vbYesNo = 4,
+    vbCritical = 16,
+    vbQuestion = 32,
+    vbExclamation = 48,
+    vbInformation = 64,
+};
+
+enum class ReponseBoite { OK = 1, Annuler = 2, Oui = 6, Non = 7 };
+
+/// The one gateway for everything that stops the operator until it is answered.
+class Boites
+{
+public:
+    virtual ~Boites() = default;
+    /// Shows \p texte with the buttons and the picture of \p drapeaux, under the program's name when \p titre is empty.
+    /// Closing the box counts as its most harmless button.
+    virtual ReponseBoite MsgBox(const QString &texte, int drapeaux = vbOKOnly, const QString &titre = {}) = 0;
+    /// Asks for a line of text; nothing when the operator cancels.
+    virtual std::optional<QString> InputBox(const QString &texte, const QString &titre) = 0;
+
+    /// Boxes shown so far: whoever moves the focus can tell whether the operator was stopped meanwhile.
+    int nombre() const { return m_nombre; }
+
+protected:
+    void compte() { ++m_nombre; }
+
+private:
+    int m_nombre = 0;
+};
+
+/// The boxes of the desktop.
+class BoitesQt : public Boites
+{
+public:
+    ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
+    std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+};

@@ -1,0 +1,285 @@
+#include "platform/formulaire.h"
+
+#include "platform/formulaires.h"
+#include "platform/twips.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QWindow>
+
+#include <stdexcept>
+
+namespace {
+
+int codeTouche(const QKeyEvent &evenement)
+{
+    switch (evenement.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Touche::Entree;
+    case Qt::Key_Escape:
+        return Touche::Echap;
+    case Qt::Key_Right:
+        return Touche::Droite;
+    default:
+        return evenement.key() < 128 ? evenement.key() : -1;
+    }
+}
+
+int etatMaj(Qt::KeyboardModifiers touches)
+{
+    return (touches.testFlag(Qt::ShiftModifier) ? Maj::Majuscule : 0)
+        + (touches.testFlag(Qt::ControlModifier) ? Maj::Controle : 0)
+        + (touches.testFlag(Qt::AltModifier) ? Maj::Alternative : 0);
+}
+
+int codeBouton(Qt::MouseButton bouton)
+{
+    return bouton == Qt::LeftButton ? Bouton::Gauche : bouton == Qt::RightButton ? Bouton::Droit : 4;
+}
+
+/// The control that an event is about: the combo when it happens in the combo's own editor.
+QWidget *controleDe(QObject *objet)
+{
+    auto *widget = qobject_cast<QWidget *>(objet);
+    if (widget != nullptr && qobject_cast<QComboBox *>(widget->parentWidget()) != nullptr)
+        return widget->parentWidget();
+    return widget;
+}
+
+} // namespace
+
+void DoEvents()
+{
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void SetFocus(QWidget *controle)
+{
+    QWidget *fenetre = controle->window();
+    if (fenetre->isVisible() && !fenetre->isActiveWindow())
+        fenetre->activateWindow();
+    controle->setFocus(Qt::OtherFocusReason);
+}
+
+Formulaire::Formulaire(const Contexte &contexte, QWidget *parent)
+    : QWidget(parent, Qt::Window)
+    , m_contexte(contexte)
+{
+}
+
+int Formulaire::Left() const
+{
+    return enTwips(x());
+}
+
+int Formulaire::Top() const
+{
+    return enTwips(y());
+}
+
+int Formulaire::Width() const
+{
+    return enTwips(frameGeometry().width());
+}
+
+int Formulaire::Height() const
+{
+    return enTwips(frameGeometry().height());
+}
+
+void Formulaire::Move(int gauche, int haut)
+{
+    move(enPixels(gauche), enPixels(haut));
+}
+
+void Formulaire::Move(int gauche, int haut, int largeur, int hauteur)
+{
+    const QSize cadre = frameGeometry().size() - size();
+    Move(gauche, haut);
+    resize(enPixels(largeur) - cadre.width(), enPixels(hauteur) - cadre.height());
+}
+
+QLineEdit *Formulaire::champTexte(const QString &nom) const
+{
+    return findChild<QLineEdit *>(nom);
+}
+
+void Execute(Boites &boites, const std::function<void()> &traitement)
+{
+    try {
+        traitement();
+    } catch (const store::Erreur &erreur) {
+        boites.MsgBox(u"Erreur %1 : %2"_qs.arg(erreur.numero()).arg(erreur.phrase()), vbCritical);
+    } catch (const std::exception &erreur) {
+        boites.MsgBox(u"Erreur du programme : "_qs + QString::fromUtf8(erreur.what()), vbCritical);
+    }
+}
+
+bool PasseErreur(const std::function<void()> &instruction)
+{
+    try {
+        instruction();
+    } catch (const store::Erreur &) {
+        return false;
+    }
+    return true;
+}
+
+void Formulaire::execute(const std::function<void()> &traitement)
+{
+    Execute(m_contexte.boites, traitement);
+}
+
+void Formulaire::recoitFocus(QWidget *controle)
+{
+    if (const Traitement traitement = m_gotFocus.value(controle))
+        execute(traitement);
+}
+
+void Formulaire::perdFocus(QWidget *controle)
+{
+    if (const Traitement traitement = m_lostFocus.value(controle))
+        execute(traitement);
+}
+
+void Formulaire::surClick(QAbstractButton *bouton, Traitement traitement)
+{
+    connect(bouton, &QAbstractButton::clicked, this, [this, bouton, traitement = std::move(traitement)] {
+        // The second half of a double click can still reach a button that the first one has hidden.
+        if (bouton->isVisible() || !isVisible())
+            execute(traitement);
+    });
+}
+
+void Formulaire::surClick(QAction *action, Traitement traitement)
+{
+    connect(action, &QAction::triggered, this,
+            [this, traitement = std::move(traitement)] { execute(traitement); });
+}
+
+void Formulaire::surChoix(QComboBox *combo, Traitement traitement)
+{
+    connect(combo, &QComboBox::activated, this, [this, traitement = std::move(traitement)] { execute(traitement); });
+}
+
+void Formulaire::surKeyDown(QWidget *controle, TraitementTouche traitement)
+{
+    m_touches.insert(controle, std::move(traitement));
+}
+
+void Formulaire::surGotFocus(QWidget *controle, Traitement traitement)
+{
+    m_gotFocus.insert(controle, std::move(traitement));
+}
+
+void Formulaire::surLostFocus(QWidget *controle, Traitement traitement)
+{
+    m_lostFocus.insert(controle, std::move(traitement));
+}
+
+void Formulaire::surMouseDown(QWidget *controle, TraitementSouris traitement)
+{
+    m_souris.insert(controle, std::move(traitement));
+}
+
+void Formulaire::surDblClick(QWidget *controle, Traitement traitement)
+{
+    m_doubleClics.insert(controle, std::move(traitement));
+}
+
+void Formulaire::prepareControles()
+{
+    const auto controles = findChildren<QWidget *>();
+    for (QWidget *controle : controles) {
+        controle->installEventFilter(this);
+        if (auto *combo = qobject_cast<QComboBox *>(controle)) {
+            combo->setInsertPolicy(QComboBox::NoInsert);
+            combo->setCompleter(nullptr);
+        }
+    }
+}
+
+bool Formulaire::toucheSurControle(QWidget *controle, QKeyEvent *evenement)
+{
+    const int code = codeTouche(*evenement);
+    if (auto *bouton = qobject_cast<QAbstractButton *>(controle); bouton != nullptr && code == Touche::Entree) {
+        if (!evenement->isAutoRepeat())
+            bouton->click();
+        return true;
+    }
+    const TraitementTouche traitement = m_touches.value(controle);
+    if (!traitement)
+        return false;
+    const QWidget *avant = QApplication::focusWidget();
+    const int maj = etatMaj(evenement->modifiers());
+    execute([&] { traitement(code, maj); });
+    // Enter is the program's own; any other key belongs to the control, unless the focus has gone elsewhere.
+    return code == Touche::Entree || avant != QApplication::focusWidget();
+}
+
+bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
+{
+    QWidget *controle = controleDe(objet);
+    switch (evenement->type()) {
+    case QEvent::KeyPress:
+        if (toucheSurControle(controle, static_cast<QKeyEvent *>(evenement)))
+            return true;
+        break;
+    case QEvent::MouseButtonPress:
+        if (const TraitementSouris traitement = m_souris.value(controle)) {
+            const auto *souris = static_cast<QMouseEvent *>(evenement);
+            const int bouton = codeBouton(souris->button());
+            execute([&] { traitement(bouton, etatMaj(souris->modifiers())); });
+        }
+        break;
+    case QEvent::MouseButtonDblClick:
+        if (const Traitement traitement = m_doubleClics.value(controle))
+            execute(traitement);
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(objet, evenement);
+}
+
+void Formulaire::mousePressEvent(QMouseEvent *evenement)
+{
+    const int bouton = codeBouton(evenement->button());
+    execute([&] {
+        Form_MouseDown(bouton, etatMaj(evenement->modifiers()), enTwips(evenement->pos().x()),
+                       enTwips(evenement->pos().y()));
+        if (bouton == Bouton::Gauche)
+            Form_Click();
+    });
+}
+
+void Formulaire::closeEvent(QCloseEvent *evenement)
+{
+    evenement->accept();
+    formulaires().Decharge(Name());
+}
+
+int Ecran::Width()
+{
+    return enTwips(QApplication::primaryScreen()->geometry().width());
+}
+
+int Ecran::Height()
+{
+    return enTwips(QApplication::primaryScreen()->geometry().height());
+}
+
+void FenetreDessus(QWidget &forme, bool dessus)
+{
+    if (QWindow *fenetre = forme.windowHandle())
+        fenetre->setFlag(Qt::WindowStaysOnTopHint, dessus);
+    else
+        forme.setWindowFlag(Qt::WindowStaysOnTopHint, dessus);
+}

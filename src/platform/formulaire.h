@@ -1,0 +1,132 @@
+#pragma once
+
+#include "app/partage.h"
+#include "platform/boites.h"
+#include "platform/touches.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+class Formulaires;
+class QAbstractButton;
+class QAction;
+class QComboBox;
+class QLineEdit;
+
+/// What every form is given.
+struct Contexte
+{
+    Partage &partage;
+    Formulaires &formulaires;
+    Boites &boites;
+};
+
+/// Lets the screen repaint and the timers run; clicks and keys wait until the running operation is over.
+void DoEvents();
+
+/// Gives the focus to a control, and brings its form to the front when another one is active.
+void SetFocus(QWidget *controle);
+
+/// Runs a handler: a failure of the store or of the program ends it and is shown in one box.
+void Execute(Boites &boites, const std::function<void()> &traitement);
+
+/// Runs one statement of a handler that passes over the errors of the store; false when it failed.
+bool PasseErreur(const std::function<void()> &instruction);
+
+/// A form: a window that is known by its name and whose handlers run one at a time.
+///
+/// The handlers of its controls are connected by name of their event. A failure in a handler ends that handler, is
+/// shown in one box, and leaves the program running. Positions and sizes are in twips.
+class Formulaire : public QWidget
+{
+    Q_OBJECT
+
+public:
+    Formulaire(const Contexte &contexte, QWidget *parent);
+
+    QString Name() const { return objectName(); }
+
+    /// Loads captions and contents. Called once when the form is loaded, and by whoever wants it filled again.
+    virtual void Form_Load() {}
+    /// The form has become the active one, coming from another form; a message box does not count as one.
+    virtual void Form_Activate() {}
+    virtual void Form_GotFocus() {}
+    virtual void Form_Unload() {}
+    virtual void Form_Click() {}
+    /// A press on the form itself, beside its controls. \p x and \p y in twips.
+    virtual void Form_MouseDown(int /*bouton*/, int /*maj*/, int /*x*/, int /*y*/) {}
+    /// Rebuilds what the form shows of the store, when it is visible.
+    virtual void Rafraichir() {}
+
+    int Left() const;
+    int Top() const;
+    int Width() const;
+    int Height() const;
+    void Move(int gauche, int haut);
+    void Move(int gauche, int haut, int largeur, int hauteur);
+
+    /// Control of that name whose text another form may read or write; null when there is none.
+    QLineEdit *champTexte(const QString &nom) const;
+
+    /// Runs a handler: a failure inside is shown in one box and ends it.
+    void execute(const std::function<void()> &traitement);
+
+    // Called by the focus watch.
+    void recoitFocus(QWidget *controle);
+    void perdFocus(QWidget *controle);
+
+protected:
+    using Traitement = std::function<void()>;
+    using TraitementTouche = std::function<void(int, int)>;
+    using TraitementSouris = std::function<void(int bouton, int maj)>;
+
+    void surClick(QAbstractButton *bouton, Traitement traitement);
+    void surClick(QAction *action, Traitement traitement);
+    /// An item of the combo's list has been picked.
+    void surChoix(QComboBox *combo, Traitement traitement);
+    /// \p traitement gets the key code and the shift state before the control sees the key.
+    void surKeyDown(QWidget *controle, TraitementTouche traitement);
+    void surGotFocus(QWidget *controle, Traitement traitement);
+    void surLostFocus(QWidget *controle, Traitement traitement);
+    void surMouseDown(QWidget *controle, TraitementSouris traitement);
+    void surDblClick(QWidget *controle, Traitement traitement);
+    /// Lets Enter click every button of the form; a held Enter clicks once. Called after the controls are made.
+    void prepareControles();
+
+    Partage &partage() const { return m_contexte.partage; }
+    Formulaires &formulaires() const { return m_contexte.formulaires; }
+    Boites &boites() const { return m_contexte.boites; }
+    const Contexte &contexte() const { return m_contexte; }
+    const QString &mes(int numero) const { return m_contexte.partage.mes(numero); }
+    ReponseBoite MsgBox(const QString &texte, int drapeaux = vbOKOnly, const QString &titre = {}) const
+    {
+        return m_contexte.boites.MsgBox(texte, drapeaux, titre);
+    }
+
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void mousePressEvent(QMouseEvent *evenement) override;
+    void closeEvent(QCloseEvent *evenement) override;
+
+private:
+    bool toucheSurControle(QWidget *controle, QKeyEvent *evenement);
+
+    Contexte m_contexte;
+    QHash<QWidget *, TraitementTouche> m_touches;
+    QHash<QWidget *, Traitement> m_gotFocus;
+    QHash<QWidget *, Traitement> m_lostFocus;
+    QHash<QWidget *, TraitementSouris> m_souris;
+    QHash<QWidget *, Traitement> m_doubleClics;
+};
+
+/// Size of the screen in twips.
+struct Ecran
+{
+    static int Width();
+    static int Height();
+};
+
+/// Puts the window \p forme in front of all others, or back among them.
+void FenetreDessus(QWidget &forme, bool dessus);

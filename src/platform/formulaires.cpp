@@ -1,0 +1,166 @@
+#include "platform/formulaires.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMouseEvent>
+
+namespace {
+
+Formulaire *formulaireDe(QWidget *widget)
+{
+    return widget == nullptr ? nullptr : qobject_cast<Formulaire *>(widget->window());
+}
+
+QWidget *controleDe(QWidget *widget)
+{
+    QWidget *parent = widget->parentWidget();
+    return qobject_cast<QComboBox *>(parent) != nullptr ? parent : widget;
+}
+
+} // namespace
+
+Formulaires::Formulaires(QObject *parent)
+    : QObject(parent)
+{
+    connect(qApp, &QApplication::focusChanged, this, &Formulaires::focusChange);
+    qApp->installEventFilter(this);
+}
+
+Formulaires::~Formulaires()
+{
+    qApp->removeEventFilter(this);
+    const auto restantes = m_chargees;
+    m_chargees.clear();
+    qDeleteAll(restantes);
+}
+
+void Formulaires::enregistre(const QString &nom, Fabrique fabrique)
+{
+    m_fabriques.insert(nom, std::move(fabrique));
+}
+
+void Formulaires::prepare(const Contexte &contexte, QWidget *parent)
+{
+    m_contexte = std::make_unique<Contexte>(contexte);
+    m_parent = parent;
+}
+
+Formulaire *Formulaires::Charge(const QString &nom)
+{
+    if (Formulaire *chargee = m_chargees.value(nom))
+        return chargee;
+    const Fabrique fabrique = m_fabriques.value(nom);
+    if (!fabrique)
+        return nullptr;
+    Formulaire *formulaire = fabrique(*m_contexte, m_parent);
+    m_chargees.insert(nom, formulaire);
+    formulaire->execute([&] { formulaire->Form_Load(); });
+    return m_chargees.value(nom);
+}
+
+void Formulaires::Montre(const QString &nom)
+{
+    Formulaire *formulaire = Charge(nom);
+    if (formulaire == nullptr)
+        return;
+    formulaire->show();
+    formulaire->raise();
+    formulaire->activateWindow();
+}
+
+void Formulaires::Cache(const QString &nom)
+{
+    if (Formulaire *formulaire = forme(nom))
+        formulaire->hide();
+}
+
+void Formulaires::Decharge(const QString &nom)
+{
+    Formulaire *formulaire = m_chargees.take(nom);
+    if (formulaire == nullptr)
+        return;
+    if (m_formeDuControle == formulaire) {
+        m_controle.clear();
+        m_formeDuControle.clear();
+    }
+    formulaire->execute([&] { formulaire->Form_Unload(); });
+    formulaire->hide();
+    formulaire->deleteLater();
+}
+
+void Formulaires::Decharge(const QStringList &noms)
+{
+    for (const QString &nom : noms)
+        Decharge(nom);
+}
+
+bool Formulaires::estVisible(const QString &nom) const
+{
+    const Formulaire *formulaire = forme(nom);
+    return formulaire != nullptr && formulaire->isVisible();
+}
+
+void Formulaires::active(Formulaire *formulaire)
+{
+    if (m_active == formulaire || !m_chargees.contains(formulaire->Name()))
+        return;
+    m_active = formulaire;
+    formulaire->execute([&] { formulaire->Form_Activate(); });
+}
+
+void Formulaires::focusChange(QWidget *, QWidget *nouveau)
+{
+    Formulaire *formulaire = formulaireDe(nouveau);
+    if (formulaire == nullptr || !m_chargees.contains(formulaire->Name()))
+        return;
+    QWidget *controle = controleDe(nouveau);
+    if (controle == m_controle && !m_enAttente)
+        return;
+
+    const QPointer<QWidget> quitte = m_controle;
+    const QPointer<Formulaire> formeQuittee = m_formeDuControle;
+    const bool dejaQuitte = m_enAttente;
+    m_controle = controle;
+    m_formeDuControle = formulaire;
+    if (quitte != nullptr && formeQuittee != nullptr && !dejaQuitte) {
+        // While a control is being left, the one that follows has not got the focus yet: a handler that sends the focus
+        // elsewhere must not make that one lose it.
+        const int boites = m_contexte->boites.nombre();
+        const bool parUnClic = m_sourisPressee;
+        m_enAttente = true;
+        formeQuittee->perdFocus(quitte);
+        m_enAttente = false;
+        m_pressionPerdue = parUnClic && boites != m_contexte->boites.nombre();
+    }
+    if (!dejaQuitte && m_controle != nullptr && m_formeDuControle != nullptr)
+        m_formeDuControle->recoitFocus(m_controle);
+}
+
+bool Formulaires::eventFilter(QObject *objet, QEvent *evenement)
+{
+    switch (evenement->type()) {
+    case QEvent::WindowActivate:
+        if (auto *formulaire = qobject_cast<Formulaire *>(objet))
+            active(formulaire);
+        else if (objet == m_parent)
+            m_active.clear();
+        break;
+    case QEvent::MouseButtonPress:
+        if (objet->isWindowType()) {
+            m_sourisPressee = true;
+            m_pressionPerdue = false;
+        } else if (m_pressionPerdue) {
+            // A click that first brought up a box, by taking the focus from a field, is not carried out after it: the
+            // operator has answered something else meanwhile.
+            m_pressionPerdue = false;
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        m_sourisPressee = false;
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(objet, evenement);
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/formulaire.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+/// The forms by their names: each is loaded, shown, hidden and unloaded by it, so that no form needs to know another's
+/// class. A name that no form bears is passed over. It also watches the focus, and runs the handlers of the control
+/// that loses it and of the one that gets it, in this order, whatever forms they stand on; message boxes and menus take
+/// no focus in this sense.
+class Formulaires : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Fabrique = std::function<Formulaire *(const Contexte &, QWidget *parent)>;
+
+    explicit Formulaires(QObject *parent = nullptr);
+    ~Formulaires() override;
+
+    void enregistre(const QString &nom, Fabrique fabrique);
+    /// What the forms are made with; \p parent is the main window, which stays behind them.
+    void prepare(const Contexte &contexte, QWidget *parent);
+
+    /// Loads the form unless it is loaded; null when no form bears that name or when its loading has unloaded it.
+    Formulaire *Charge(const QString &nom);
+    /// Loads the form if need be, shows it and makes it the active one.
+    void Montre(const QString &nom);
+    void Cache(const QString &nom);
+    void Decharge(const QString &nom);
+    void Decharge(const QStringList &noms);
+
+    /// The loaded form of that name, null when it is not loaded.
+    Formulaire *forme(const QString &nom) const { return m_chargees.value(nom); }
+    bool estChargee(const QString &nom) const { return m_chargees.contains(nom); }
+    bool estVisible(const QString &nom) const;
+
+protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+
+private:
+    void focusChange(QWidget *ancien, QWidget *nouveau);
+    void active(Formulaire *formulaire);
+
+    std::unique_ptr<Contexte> m_contexte;
+    QPointer<QWidget> m_parent;
+    QHash<QString, Fabrique> m_fabriques;
+    QHash<QString, Formulaire *> m_chargees;
+    QPointer<Formulaire> m_active;
+    QPointer<QWidget> m_controle;
+    QPointer<Formulaire> m_formeDuControle;
+    bool m_enAttente = false;
+    bool m_sourisPressee = false;
+    bool m_pressionPerdue = false;
+};
