@@ -3,8 +3,8 @@
 #include "app/partage.h"
 
 /// Name and version of the program, as its title and its welcome window show them.
-inline constexpr QStringView nomProgramme = u"VarloTour ";
-inline constexpr QStringView versionProgramme = u"V0.0.1";
+inline const QString nomProgramme = u"VarloTour "_qs;
+inline const QString versionProgramme = u"V0.0.1"_qs;
 
 /// \p valeur padded with zeros on the left and cut to its last \p largeur characters.
 QString ZeroPad(const QString &valeur, int largeur);

@@ -68,6 +68,17 @@ void Formulaires::Montre(const QString &nom)
     formulaire->activateWindow();
 }
 
+void Formulaires::MontreSansFocus(const QString &nom)
+{
+    Formulaire *formulaire = Charge(nom);
+    if (formulaire == nullptr)
+        return;
+    formulaire->setAttribute(Qt::WA_ShowWithoutActivating, true);
+    formulaire->show();
+    formulaire->raise();
+    formulaire->setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
 void Formulaires::Cache(const QString &nom)
 {
     if (Formulaire *formulaire = forme(nom))
@@ -92,6 +103,11 @@ void Formulaires::Decharge(const QStringList &noms)
 {
     for (const QString &nom : noms)
         Decharge(nom);
+}
+
+void Formulaires::DechargeTout()
+{
+    Decharge(QStringList(m_chargees.keys()));
 }
 
 bool Formulaires::estVisible(const QString &nom) const

@@ -32,9 +32,13 @@ public:
     Formulaire *Charge(const QString &nom);
     /// Loads the form if need be, shows it and makes it the active one.
     void Montre(const QString &nom);
+    /// Shows the form in front of the others and leaves the focus where it is.
+    void MontreSansFocus(const QString &nom);
     void Cache(const QString &nom);
     void Decharge(const QString &nom);
     void Decharge(const QStringList &noms);
+    /// Unloads every form that is still loaded.
+    void DechargeTout();
 
     /// The loaded form of that name, null when it is not loaded.
     Formulaire *forme(const QString &nom) const { return m_chargees.value(nom); }

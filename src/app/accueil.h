@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/formulaire.h"
+
+#include <memory>
+
+namespace Ui {
+class Accueil;
+}
+
+/// The welcome window.
+class Accueil : public Formulaire
+{
+    Q_OBJECT
+
+public:
+    Accueil(const Contexte &contexte, QWidget *parent);
+    ~Accueil() override;
+
+    void Form_Load() override;
+
+private:
+    void LegendesAccueil();
+
+    std::unique_ptr<Ui::Accueil> m_ui;
+};

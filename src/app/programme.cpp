@@ -1,0 +1,65 @@
+#include "app/programme.h"
+
+#include "app/accueil.h"
+#include "app/torvik.h"
+
+#include <QDir>
+
+namespace {
+
+template<typename Forme>
+Formulaires::Fabrique fabrique()
+{
+    return [](const Contexte &contexte, QWidget *parent) -> Formulaire * { return new Forme(contexte, parent); };
+}
+
+} // namespace
+
+Programme::Programme(const QString &dossier, SourceAleatoire &alea, const Horloge &horloge, Boites &boites)
+    : m_partage(dossier, alea, horloge)
+    , m_boites(boites)
+{
+    enregistreFormes();
+}
+
+Programme::~Programme()
+{
+    termine();
+}
+
+void Programme::enregistreFormes()
+{
+    m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
+}
+
+bool Programme::demarre()
+{
+    const Contexte contexte{m_partage, m_formulaires, m_boites};
+    m_torvik = std::make_unique<Torvik>(contexte);
+    m_formulaires.prepare(contexte, m_torvik.get());
+    try {
+        m_torvik->Form_Load();
+    } catch (const store::Erreur &erreur) {
+        m_boites.MsgBox(erreur.phrase(), vbCritical);
+        return false;
+    } catch (const std::exception &erreur) {
+        m_boites.MsgBox(QString::fromUtf8(erreur.what()), vbCritical);
+        return false;
+    }
+    return true;
+}
+
+void Programme::termine()
+{
+    if (m_torvik != nullptr)
+        m_torvik->close();
+    m_torvik.reset();
+}
+
+InstanceUnique::InstanceUnique(const QString &dossier)
+    : m_verrou(QDir(dossier).filePath(u"VarloTour.verrou"_qs))
+{
+    // A lock is never too old: only the end of its process frees it.
+    m_verrou.setStaleLockTime(0);
+    m_dejaPrise = !m_verrou.tryLock() && m_verrou.error() == QLockFile::LockFailedError;
+}

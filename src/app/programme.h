@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/partage.h"
+#include "platform/formulaires.h"
+
+#include <QLockFile>
+
+#include <memory>
+
+class Torvik;
+
+/// The whole program of one run: shared state, forms and main window, put together.
+class Programme
+{
+public:
+    /// \p dossier holds the base and the resources.
+    Programme(const QString &dossier, SourceAleatoire &alea, const Horloge &horloge, Boites &boites);
+    ~Programme();
+
+    /// Creates the main window, which opens the base and shows the welcome window. A failure is shown in one box; false
+    /// then, and the program has to end.
+    bool demarre();
+    /// Closes the main window, and with it the base.
+    void termine();
+
+    Partage &partage() { return m_partage; }
+    Formulaires &formulaires() { return m_formulaires; }
+    Torvik *torvik() const { return m_torvik.get(); }
+
+private:
+    void enregistreFormes();
+
+    Partage m_partage;
+    Boites &m_boites;
+    Formulaires m_formulaires;
+    std::unique_ptr<Torvik> m_torvik;
+};
+
+/// Keeps a second program away from the base of one folder. The guard goes with the process, however it ends.
+class InstanceUnique
+{
+public:
+    explicit InstanceUnique(const QString &dossier);
+
+    /// Whether another program already holds the folder.
+    bool dejaPrise() const { return m_dejaPrise; }
+
+private:
+    QLockFile m_verrou;
+    bool m_dejaPrise = false;
+};
