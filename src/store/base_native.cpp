@@ -269,11 +269,11 @@ BaseNative::~BaseNative()
 /// SQLCipher 3, which every version reads; \p formatCourant tries the library's own format instead.
 void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
 {
-    const int drapeaux = mode == Mode::LectureSeule ? SQLITE_OPEN_READONLY
-        : mode == Mode::Creation                    ? SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE
-                                                    : SQLITE_OPEN_READWRITE;
-    const int code = sqlite3_open_v2(m_fichier.toUtf8().constData(), &m_base, drapeaux, nullptr);
-    if (code != SQLITE_OK) {
+    // Without the right to create, the engine could not attach the new file of a compaction either.
+    const int drapeaux =
+        mode == Mode::LectureSeule ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    const int ouverture = sqlite3_open_v2(m_fichier.toUtf8().constData(), &m_base, drapeaux, nullptr);
+    if (ouverture != SQLITE_OK) {
         ferme();
         throw Erreur(Erreur::DossierProtege, u"Le fichier %1 ne peut pas être ouvert : il est protégé."_qs.arg(m_fichier));
     }
@@ -287,14 +287,15 @@ void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
     const QByteArray cle = motDePasse.toUtf8();
     sqlite3_key(m_base, cle.constData(), int(cle.size()));
     if (!formatCourant)
-        executeScript(u"pragma cipher_compatibility = 3"_qs);
+        executeScript(u"pragma cipher_default_compatibility = 3; pragma cipher_compatibility = 3"_qs);
     try {
         valeurUnique(u"select count(*) from sqlite_master"_qs);
     } catch (const Erreur &erreur) {
-        if ((erreur.numero() & 0xff) != SQLITE_NOTADB)
+        const int code = erreur.numero() & 0xff;
+        if (code != SQLITE_NOTADB && code != SQLITE_CORRUPT)
             throw;
         const bool tronque = QFileInfo(m_fichier).size() % taillePage != 0;
-        if (tronque)
+        if (tronque || code == SQLITE_CORRUPT)
             throw Erreur(Erreur::FichierEndommage, u"Le fichier %1 est endommagé : il est incomplet."_qs.arg(m_fichier));
         throw Erreur(Erreur::MotDePasse,
                      u"Le fichier %1 ne s'ouvre pas avec le mot de passe du programme."_qs.arg(m_fichier));

@@ -16,7 +16,8 @@ namespace {
 const QHash<QString, QString> champsVoulus{
     {u"concours"_qs, u"concours:i date:d lieu:t organisateur:t type:t categorie:t tourpri:i nbtours_a:i nbtours_b:i "
                      "nbtours_c:i repeche:b pro:b abc:i basculebc:i"_qs},
-    {u"equipes"_qs, u"concours:i equipe:i doublon:i nom:t prenom:t licence:t societe:t sexe:t ne:d tableau:t engage:i"_qs},
+    {u"equipes"_qs, u"concours:i equipe:i doublon:i nom:t prenom:t licence:t societe:t sexe:t ne:d tableau:t "
+                    "engage:i"_qs},
     {u"evolution"_qs, u"concours:i equipe:i principal:i complement:i consolante:i"_qs},
     {u"scores"_qs, u"concours:i tableau:i tour:i rencontre:i Equipe_1:i Equipe_2:i score_1:i score_2:i score_reel:b "
                    "lancee:b repechage:i"_qs},

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "app/partage.h"
+
+class Interlocuteur;
+
+/// Rebuilds `tbclass` from all matches of the competition whose number is \p concours.
+void CalculClassement(Partage &partage, const QString &concours);
+
+/// Draws round 1 of the current competition, once the operator has agreed to lose a draw without results; refuses when
+/// there are results.
+void ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur);
+
+/// Draws round 1 of the current competition into bracket \p tableau, which is 1; \p reserve is not used. A round that
+/// is already drawn is left alone and told. Whatever comes of it, the competition then stands at round 1.
+void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau, int reserve = 0);
+
+/// Works out the pairs of the round after the current one into TabTirage, from `tbclass` as CalculClassement left it,
+/// and marks there the teams that were pulled up.
+void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur);
+
+/// Draws and stores the next round of the current competition, with up to ten attempts, and warns of what they could
+/// not avoid. Round 1 goes through ConfirmeTirage.
+void LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur);

@@ -1,0 +1,260 @@
+#include "platform/flexgrid.h"
+
+#include "platform/twips.h"
+#include "store/collation.h"
+
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int LargeurInitiale = 960; // twips
+constexpr int MargeCellule = 14;     // pixels, both sides together
+
+/// A cell that has a colour of its own keeps it when its row is selected: the colour tells who won.
+class DelegueFlex final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~QStyle::State_HasFocus;
+        if (option->backgroundBrush.style() != Qt::NoBrush && option->state.testFlag(QStyle::State_Selected)) {
+            option->state &= ~QStyle::State_Selected;
+            option->font.setBold(true);
+        }
+    }
+};
+
+} // namespace
+
+FlexGrid::FlexGrid(QWidget *parent)
+    : QTableView(parent)
+    , m_modele(new FlexGridModele(this))
+    , m_compare(&store::CompareFrancais)
+    , m_largeurs(1, LargeurInitiale)
+{
+    setModel(m_modele);
+    setItemDelegate(new DelegueFlex(this));
+    setEditTriggers(NoEditTriggers);
+    // The selection is the grid's own (a current cell and a far end); the view only shows it.
+    setSelectionMode(NoSelection);
+    setAutoScroll(false);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setAlternatingRowColors(true);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setMouseTracking(true);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->viewport()->installEventFilter(this);
+    connect(m_modele, &FlexGridModele::structureChangee, this, &FlexGrid::marque);
+}
+
+bool FlexGrid::existe(int ligne, int colonne) const
+{
+    const bool dedans = ligne >= 0 && ligne < Rows() && colonne >= 0 && colonne < Cols();
+    Q_ASSERT_X(dedans, "FlexGrid", "no such cell");
+    return dedans;
+}
+
+void FlexGrid::setRows(int nombre)
+{
+    m_modele->fixeLignes(std::max(nombre, 1));
+    borneSelection();
+}
+
+void FlexGrid::setCols(int nombre)
+{
+    m_modele->fixeColonnes(std::max(nombre, 1));
+    m_largeurs.resize(size_t(Cols()), LargeurInitiale);
+    borneSelection();
+}
+
+void FlexGrid::borneSelection()
+{
+    m_row = std::min(m_row, Rows() - 1);
+    m_rowSel = std::min(m_rowSel, Rows() - 1);
+    m_col = std::min(m_col, Cols() - 1);
+    m_colSel = std::min(m_colSel, Cols() - 1);
+    marque();
+}
+
+void FlexGrid::choisit(int ligne, int colonne)
+{
+    if (!existe(ligne, colonne))
+        return;
+    m_row = m_rowSel = ligne;
+    m_col = m_colSel = colonne;
+    marque();
+}
+
+void FlexGrid::etend(int ligne, int colonne)
+{
+    if (!existe(ligne, colonne))
+        return;
+    m_rowSel = ligne;
+    m_colSel = colonne;
+    marque();
+}
+
+void FlexGrid::setRow(int ligne)
+{
+    choisit(ligne, m_col);
+}
+
+void FlexGrid::setCol(int colonne)
+{
+    choisit(m_row, colonne);
+}
+
+void FlexGrid::setRowSel(int ligne)
+{
+    etend(ligne, m_colSel);
+}
+
+void FlexGrid::setColSel(int colonne)
+{
+    etend(m_rowSel, colonne);
+}
+
+QString FlexGrid::TextMatrix(int ligne, int colonne) const
+{
+    return existe(ligne, colonne) ? m_modele->texte(ligne, colonne) : QString();
+}
+
+void FlexGrid::setTextMatrix(int ligne, int colonne, const QString &texte)
+{
+    if (existe(ligne, colonne))
+        m_modele->fixeTexte(ligne, colonne, texte);
+}
+
+void FlexGrid::AddItem(const QString &texte, int ligne)
+{
+    const int position = ligne < 0 ? Rows() : ligne;
+    Q_ASSERT_X(position >= 1 && position <= Rows(), "FlexGrid", "no such place for a row");
+    m_modele->insere(std::clamp(position, 1, Rows()), texte.split(u'\t'));
+}
+
+void FlexGrid::RemoveItem(int ligne)
+{
+    Q_ASSERT_X(ligne != 0, "FlexGrid", "the header cannot be removed");
+    if (!existe(ligne, 0) || ligne == 0)
+        return;
+    m_modele->retire(ligne);
+    borneSelection();
+}
+
+void FlexGrid::Clear()
+{
+    m_modele->vide();
+}
+
+void FlexGrid::setFormatString(const QString &format)
+{
+    if (format.isEmpty())
+        return;
+    m_format = format;
+    const QStringList titres = format.split(u'|');
+    if (titres.size() > Cols())
+        setCols(int(titres.size()));
+    horizontalHeader()->ensurePolished();
+    const QFontMetrics police = horizontalHeader()->fontMetrics();
+    for (int colonne = 0; colonne < titres.size(); ++colonne) {
+        QString titre = titres[colonne];
+        char16_t signe = u' ';
+        if (titre.startsWith(u'<') || titre.startsWith(u'^') || titre.startsWith(u'>')) {
+            signe = titre.front().unicode();
+            titre.remove(0, 1);
+        }
+        m_modele->fixeAlignement(colonne, signe);
+        m_modele->fixeTexte(0, colonne, titre);
+        // Cells hold letters and digits where the heading is padded with blanks, which are much narrower.
+        const QString patron = QString(titre).replace(u' ', u'0');
+        setColWidth(colonne, enTwips(police.horizontalAdvance(patron) + MargeCellule));
+    }
+}
+
+int FlexGrid::ColWidth(int colonne) const
+{
+    return existe(0, colonne) ? m_largeurs[size_t(colonne)] : 0;
+}
+
+void FlexGrid::setColWidth(int colonne, int twips)
+{
+    if (!existe(0, colonne))
+        return;
+    m_largeurs[size_t(colonne)] = twips < 0 ? LargeurInitiale : twips;
+    if (!m_modele->enAttente())
+        setColumnWidth(colonne, enPixels(m_largeurs[size_t(colonne)]));
+}
+
+int FlexGrid::RowHeight() const
+{
+    return enTwips(verticalHeader()->defaultSectionSize());
+}
+
+void FlexGrid::setRowHeight(int twips)
+{
+    verticalHeader()->setDefaultSectionSize(enPixels(twips));
+}
+
+quint32 FlexGrid::CellBackColor(int ligne, int colonne) const
+{
+    return existe(ligne, colonne) ? m_modele->fond(ligne, colonne) : FondFenetre;
+}
+
+void FlexGrid::setCellBackColor(int ligne, int colonne, quint32 bgr)
+{
+    if (existe(ligne, colonne))
+        m_modele->fixeFond(ligne, colonne, bgr);
+}
+
+void FlexGrid::setSort(int ordre)
+{
+    if (ordre < GeneriqueCroissant || ordre > TexteDecroissant || Rows() < 3)
+        return;
+    const auto [colDebut, colFin] = std::minmax(m_col, m_colSel);
+    auto [debut, fin] = std::minmax(m_row, m_rowSel);
+    const bool toutes = debut == fin;
+    using Nature = FlexGridModele::Nature;
+    const Nature nature = ordre <= GeneriqueDecroissant ? Nature::Generique
+                          : ordre <= NumeriqueDecroissant ? Nature::Numerique
+                                                          : Nature::Texte;
+    m_modele->trie({toutes ? 1 : std::max(debut, 1), toutes ? Rows() - 1 : fin, colDebut, colFin, nature,
+                    ordre % 2 == 0},
+                   m_compare);
+}
+
+int FlexGrid::TopRow() const
+{
+    const int premiere = rowAt(0);
+    return premiere < 0 ? 1 : premiere + 1;
+}
+
+void FlexGrid::setTopRow(int ligne)
+{
+    if (!existe(ligne, 0) || ligne == 0)
+        return;
+    synchronise();
+    scrollTo(m_modele->index(ligne - 1, 0), PositionAtTop);
+}
+
+void FlexGrid::setRedraw(bool montre)
+{
+    m_redraw = montre;
+    setUpdatesEnabled(montre);
+    if (montre)
+        synchronise();
+}
