@@ -20,6 +20,6 @@ endif()
 
 # A log left beside a base that is gone must not be replayed into the new one.
 file(REMOVE ${POSEE}-wal ${POSEE}-shm)
-get_filename_component(dossier ${POSEE} DIRECTORY)
-file(COPY ${ORIGINALE} DESTINATION ${dossier})
+file(COPY_FILE ${ORIGINALE} ${POSEE}.nouveau)
+file(RENAME ${POSEE}.nouveau ${POSEE})
 file(WRITE ${empreinte} ${neuve})

@@ -250,7 +250,8 @@ void creeBase(const QString &dossier, const QString &cible)
         if (QFileInfo::exists(cible + u"-wal"_qs))
             throw ErreurDonnees(cible, 0, u"la base est ouverte ou a été mal refermée"_qs);
         std::error_code code;
-        std::filesystem::rename(QFileInfo(provisoire).filesystemFilePath(), QFileInfo(cible).filesystemFilePath(), code);
+        std::filesystem::rename(QFileInfo(provisoire).filesystemFilePath(), QFileInfo(cible).filesystemFilePath(),
+                                code);
         if (code)
             throw ErreurDonnees(cible, 0, u"écriture impossible (%1)"_qs.arg(QString::fromStdString(code.message())));
     } catch (...) {

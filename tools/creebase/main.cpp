@@ -22,7 +22,8 @@ int refuse(const QString &phrase)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QCommandLineOption remplace(u"remplace"_qs, u"Remplace la base qui existe déjà, avec tout ce qu'elle contient."_qs);
+    const QCommandLineOption remplace(u"remplace"_qs,
+                                      u"Remplace la base qui existe déjà, avec tout ce qu'elle contient."_qs);
     QCommandLineParser options;
     options.setApplicationDescription(u"Fabrique la base de VarloTour à partir de ses lignes lisibles."_qs);
     options.addHelpOption();
