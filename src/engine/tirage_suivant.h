@@ -23,9 +23,9 @@ struct LigneTirage
 {
     int pt1 = 0; ///< Level of the first team.
     int equipe1 = 0;
-    QString club1;
+    QString club1 = {};
     int equipe2 = 0; ///< 0 for a bye.
-    QString club2; ///< Empty for a bye.
+    QString club2 = {}; ///< Empty for a bye.
     int pt2 = 0; ///< Level of the second side; a club exchange moves the team and leaves this in place.
 
     bool operator==(const LigneTirage &) const = default;

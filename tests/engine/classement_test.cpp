@@ -1,0 +1,174 @@
+#include "concours_joue.h"
+
+#include "engine/classement.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <numeric>
+
+using moteur::LigneClassement;
+using moteur::Rencontre;
+
+namespace {
+
+std::map<int, LigneClassement> classe(const std::vector<Rencontre> &rencontres, quint32 graine = 1)
+{
+    AleaFixe alea(graine);
+    std::map<int, LigneClassement> lignes;
+    for (const LigneClassement &ligne : moteur::etablitClassement(rencontres, alea))
+        lignes[ligne.equipe] = ligne;
+    return lignes;
+}
+
+void attend(const LigneClassement &ligne, int gagnees, int perdues, std::optional<int> pp, std::optional<int> pc)
+{
+    SCOPED_TRACE(ligne.equipe);
+    EXPECT_EQ(ligne.gagnées, gagnees);
+    EXPECT_EQ(ligne.pt, gagnees);
+    EXPECT_EQ(ligne.perdues, perdues);
+    EXPECT_EQ(ligne.pp, pp);
+    EXPECT_EQ(ligne.pc, pc);
+    EXPECT_EQ(ligne.ga, pp && pc ? std::optional(*pp - *pc) : std::nullopt);
+}
+
+TEST(Classement, PremiereLigneDUneEquipe)
+{
+    const auto lignes = classe({{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 12},
+                                {.tour = 1, .equipe1 = 3, .equipe2 = 4, .score1 = 12, .score2 = 11},
+                                {.tour = 1, .equipe1 = 5, .equipe2 = 6, .score1 = 13, .score2 = 13},
+                                {.tour = 1, .equipe1 = 7, .equipe2 = 8},
+                                {.tour = 1, .equipe1 = 9, .equipe2 = 0, .score1 = 0, .score2 = 5},
+                                {.tour = 1, .equipe1 = 10, .equipe2 = 11, .score1 = -2, .score2 = 13}});
+    ASSERT_EQ(lignes.size(), 11u);
+    attend(lignes.at(1), 1, 0, 13, 12);
+    attend(lignes.at(2), 0, 1, 12, 13);
+    attend(lignes.at(3), 0, 0, 12, 11); // no 13: neither won nor lost, points count
+    attend(lignes.at(4), 0, 0, 11, 12);
+    attend(lignes.at(5), 1, 0, 13, 13); // both at 13: the first team has won
+    attend(lignes.at(6), 0, 1, 13, 13);
+    attend(lignes.at(7), 0, 0, std::nullopt, std::nullopt);
+    attend(lignes.at(8), 0, 0, std::nullopt, std::nullopt);
+    attend(lignes.at(9), 1, 0, 13, 7); // a bye, whatever its scores
+    attend(lignes.at(10), 0, 1, -2, 13);
+    attend(lignes.at(11), 1, 0, 13, -2);
+}
+
+TEST(Classement, LignesSuivantes)
+{
+    const auto lignes = classe({{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 4},
+                                {.tour = 1, .equipe1 = 3, .equipe2 = 4},
+                                {.tour = 2, .equipe1 = 1, .equipe2 = 3, .score1 = 8, .score2 = 13},
+                                {.tour = 2, .equipe1 = 2, .equipe2 = 0},
+                                {.tour = 2, .equipe1 = 4, .equipe2 = 0, .score1 = 13, .score2 = 7},
+                                {.tour = 3, .equipe1 = 1, .equipe2 = 4},
+                                {.tour = 3, .equipe1 = 3, .equipe2 = 2, .score1 = std::nullopt, .score2 = 9}});
+    attend(lignes.at(1), 1, 1, 21, 17);
+    attend(lignes.at(2), 1, 1, 4 + 13 + 9, 13 + 7);
+    // An open first match adds nothing; what is played later counts from 0.
+    attend(lignes.at(3), 1, 0, 13, 8 + 9);
+    attend(lignes.at(4), 1, 0, 13, 7);
+}
+
+TEST(Classement, RepechageVientDeLaPremiereLigneEtDuPremierCote)
+{
+    const auto lignes = classe({{.tour = 1, .equipe1 = 1, .equipe2 = 2, .repechage = 1},
+                                {.tour = 1, .equipe1 = 3, .equipe2 = 4, .repechage = 2},
+                                {.tour = 1, .equipe1 = 5, .equipe2 = 6, .repechage = 0},
+                                {.tour = 2, .equipe1 = 3, .equipe2 = 5, .repechage = 1},
+                                {.tour = 2, .equipe1 = 7, .equipe2 = 0, .repechage = 1}});
+    for (const auto &[equipe, ligne] : lignes)
+        EXPECT_EQ(ligne.repechage, equipe == 1 || equipe == 7 ? std::optional(1) : std::nullopt) << equipe;
+}
+
+TEST(Classement, AleaResteAuPremierCoteEtChangeAuSecond)
+{
+    const Rencontre premier{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 0};
+    const auto avant = classe({premier});
+    const auto devant = classe({premier, {.tour = 2, .equipe1 = 1, .equipe2 = 3}});
+    const auto derriere = classe({premier, {.tour = 2, .equipe1 = 3, .equipe2 = 1}});
+    EXPECT_EQ(devant.at(1).alea, avant.at(1).alea);
+    EXPECT_EQ(devant.at(2).alea, avant.at(2).alea);
+    EXPECT_NE(derriere.at(1).alea, avant.at(1).alea);
+    for (const auto &[equipe, ligne] : derriere) {
+        EXPECT_GE(ligne.alea, 10000);
+        EXPECT_LE(ligne.alea, 100000);
+    }
+}
+
+/// What a team shows at the end of the day, added up from the result sheets one team at a time.
+LigneClassement refait(int equipe, const std::vector<Rencontre> &rencontres)
+{
+    LigneClassement bilan{.equipe = equipe};
+    std::vector<int> marques;
+    std::vector<int> concedes;
+    for (Rencontre feuille : rencontres) {
+        if (feuille.equipe1 == equipe && feuille.equipe2 == 0) {
+            feuille.score1 = 13;
+            feuille.score2 = 7;
+        }
+        if (feuille.equipe2 == equipe) {
+            std::swap(feuille.equipe1, feuille.equipe2);
+            std::swap(feuille.score1, feuille.score2);
+        } else if (feuille.equipe1 != equipe) {
+            continue;
+        }
+        bilan.gagnées += feuille.score1 == 13;
+        bilan.perdues += feuille.score2 == 13;
+        if (feuille.score1)
+            marques.push_back(*feuille.score1);
+        if (feuille.score2)
+            concedes.push_back(*feuille.score2);
+    }
+    bilan.pt = bilan.gagnées;
+    if (!marques.empty())
+        bilan.pp = std::accumulate(marques.begin(), marques.end(), 0);
+    if (!concedes.empty())
+        bilan.pc = std::accumulate(concedes.begin(), concedes.end(), 0);
+    if (bilan.pp && bilan.pc)
+        bilan.ga = *bilan.pp - *bilan.pc;
+    return bilan;
+}
+
+TEST(Classement, DeuxReleveesIndependantesSAccordent)
+{
+    for (quint32 graine = 1; graine <= 60; ++graine) {
+        std::mt19937 sort(graine);
+        const int nombre = 2 + int(sort() % 60);
+        essai::Concours concours(essai::inscrit(nombre, {}, sort), graine % 2 == 0, graine);
+        while (concours.joueTour({.pourcentMots = 20, .pourcentAttendus = 5, .pourcentSansVainqueur = 5})) {
+            const std::vector<Rencontre> rencontres = concours.rencontres();
+            const std::vector<LigneClassement> lignes = concours.classement();
+            ASSERT_EQ(int(lignes.size()), nombre);
+            for (LigneClassement ligne : lignes) {
+                ligne.alea = 0;
+                ASSERT_EQ(ligne, refait(ligne.equipe, rencontres)) << graine << ' ' << ligne.equipe;
+            }
+        }
+    }
+}
+
+TEST(Classement, OrdreDesIndex)
+{
+    const std::vector<LigneClassement> rangs = {
+        {.equipe = 5, .ga = -20, .pt = 2},
+        {.equipe = 9, .ga = 12, .pt = 1},
+        {.equipe = 2, .ga = -3, .pt = 1},
+        {.equipe = 3, .ga = -3, .pt = 1},
+        {.equipe = 1, .pt = 1}, // no difference known: last of its level
+        {.equipe = 4, .ga = 30, .pt = 0},
+    };
+    EXPECT_TRUE(std::ranges::is_sorted(rangs, moteur::avantAuRang));
+    EXPECT_FALSE(moteur::avantAuRang(rangs[0], rangs[0]));
+
+    const std::vector<LigneClassement> tirage = {
+        {.equipe = 5, .pt = 2, .alea = 10000},
+        {.equipe = 9, .pt = 1, .alea = 99999},
+        {.equipe = 2, .pt = 1, .alea = 50000},
+        {.equipe = 3, .pt = 1, .alea = 50000},
+    };
+    EXPECT_TRUE(std::ranges::is_sorted(tirage, moteur::avantAuTirage));
+}
+
+} // namespace
