@@ -2,6 +2,8 @@
 
 #include "app/accueil.h"
 #include "app/torvik.h"
+#include "competitions/econcours.h"
+#include "results/eresultats.h"
 
 #include <QDir>
 
@@ -30,6 +32,8 @@ Programme::~Programme()
 void Programme::enregistreFormes()
 {
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
+    m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
+    m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
 }
 
 bool Programme::demarre()

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/formulaire.h"
+
+#include <memory>
+
+class QComboBox;
+
+namespace Ui {
+class Econcours;
+}
+
+/// Competition editor: the number in `référence` decides whether a competition is created or changed.
+class Econcours : public Formulaire
+{
+    Q_OBJECT
+
+public:
+    Econcours(const Contexte &contexte, QWidget *parent);
+    ~Econcours() override;
+
+    void Form_Load() override;
+    void Form_Activate() override;
+
+    /// Refills the list of competitions and proposes the number behind the last one; hides the list when there is none.
+    void majrefconcours();
+
+    void référence_GotFocus();
+    void référence_KeyDown(int KeyCode, int Shift);
+    void référence_LostFocus();
+    void Text2_KeyDown(int KeyCode, int Shift);
+    void Text3_KeyDown(int KeyCode, int Shift);
+    void Text4_KeyDown(int KeyCode, int Shift);
+    void Combo1_KeyDown(int KeyCode, int Shift);
+    void Combo1_LostFocus();
+    void ok_Click();
+    void Command1_Click();
+
+private:
+    void LegendesEconcours();
+    void relie();
+    void remplitTypes();
+    void remplitCategories();
+    void litConcours();
+    void videSaisie();
+    void refuseType();
+    /// Code of the type in `Combo1`: what stands before " - ", empty when that is missing.
+    QString codeType() const;
+    void ajouteConcours(store::Recordset &concours);
+    void modifieConcours(store::Recordset &concours);
+    void ecritChampsCommuns(store::Recordset &concours) const;
+    void enregistreEtVide(store::Recordset &concours);
+
+    std::unique_ptr<Ui::Econcours> m_ui;
+    qint32 m_refConcours = 0;
+    QString m_ancienType;
+};
