@@ -51,6 +51,7 @@ protected:
 private:
     void focusChange(QWidget *ancien, QWidget *nouveau);
     void active(Formulaire *formulaire);
+    void place(Formulaire &formulaire) const;
 
     std::unique_ptr<Contexte> m_contexte;
     QPointer<QWidget> m_parent;
