@@ -66,6 +66,7 @@ Formulaire *Formulaires::Charge(const QString &nom)
     Formulaire *formulaire = fabrique(*m_contexte, m_parent);
     m_chargees.insert(nom, formulaire);
     place(*formulaire);
+    formulaire->execute([&] { formulaire->Form_Resize(); });
     formulaire->execute([&] { formulaire->Form_Load(); });
     return m_chargees.value(nom);
 }

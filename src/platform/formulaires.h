@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/formulaire.h"
+#include "ui/resize.h"
 
 #include <QHash>
 #include <QObject>
@@ -45,6 +46,8 @@ public:
     bool estChargee(const QString &nom) const { return m_chargees.contains(nom); }
     bool estVisible(const QString &nom) const;
 
+    Redimensionnement &redimensionnement() { return m_redimensionnement; }
+
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
@@ -55,6 +58,7 @@ private:
 
     std::unique_ptr<Contexte> m_contexte;
     QPointer<QWidget> m_parent;
+    Redimensionnement m_redimensionnement;
     QHash<QString, Fabrique> m_fabriques;
     QHash<QString, Formulaire *> m_chargees;
     QPointer<Formulaire> m_active;
