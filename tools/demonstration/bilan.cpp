@@ -157,10 +157,15 @@ void Bilan::verifieExempts(int tour)
         faute(tour, u"%1 exempts pour %2 équipes."_qs.arg(exempts).arg(m_niveaux.size()));
 }
 
-/// A repeat is told of, or could not be helped within its level.
+/// A repeat is told of, or could not be helped. The draw looks for another opponent in the rows that follow and then from
+/// the top of its table, as long as the level stays the same: only in the highest level has it seen every pair, and in the
+/// others a repeat may stand untold.
 void Bilan::verifieRepetitions(int tour)
 {
     const Tour &rencontres = m_tours[size_t(tour) - 1];
+    int plusHaut = 0;
+    for (const auto &[equipe, niveau] : m_niveaux)
+        plusHaut = std::max(plusHaut, niveau);
     for (const Rencontre &r : rencontres) {
         if (r.equipe2 == 0 || !m_paires.contains(paire(r.equipe1, r.equipe2)))
             continue;
@@ -168,7 +173,7 @@ void Bilan::verifieRepetitions(int tour)
         if (m_avertis.contains(tour))
             continue;
         ++m_silencieuses;
-        if (echangePossible(rencontres, r))
+        if (niveauDe(r) == plusHaut && echangePossible(rencontres, r))
             faute(tour, u"%1 - %2 se rencontrent encore, sans avertissement, alors qu'un échange était possible."_qs
                             .arg(r.equipe1)
                             .arg(r.equipe2));

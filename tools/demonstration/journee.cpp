@@ -3,6 +3,7 @@
 #include "app/torvik.h"
 
 #include <QElapsedTimer>
+#include <QTest>
 
 namespace demonstration {
 
@@ -40,6 +41,7 @@ void Journee::demarre()
     const bool pret = m_programme.demarre();
     exige(pret && m_boites.faute().isEmpty(), u"Le programme n'a pas démarré. "_qs + m_boites.faute());
     prevoitBoites();
+    exige(QTest::qWaitForWindowActive(m_main.fenetre(u"Accueil"_qs)), u"Accueil ne vient pas devant."_qs);
     m_photographe.prendBureau(u"accueil", *m_main.fenetre(u"Torvik"_qs));
 }
 

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTest>
 #include <QWindow>
 
@@ -113,11 +114,21 @@ QPoint Operateur::place(const QWidget &controle) const
     return point;
 }
 
+/// A hand that has clicked moves on: nothing stays lit under it.
+void Operateur::ecarteSouris(const QWidget &fenetre) const
+{
+    QTest::mouseMove(fenetre.windowHandle(), fenetre.rect().bottomRight() - QPoint(2, 2));
+    apres();
+}
+
 void Operateur::clique(QWidget *controle)
 {
     metDevant(*controle->window());
-    QTest::mouseClick(controle->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, place(*controle));
+    const QPointer<QWidget> fenetre = controle->window();
+    QTest::mouseClick(fenetre->windowHandle(), Qt::LeftButton, Qt::NoModifier, place(*controle));
     apres();
+    if (fenetre != nullptr && fenetre->isVisible())
+        ecarteSouris(*fenetre);
 }
 
 void Operateur::doubleClique(QWidget *controle)
