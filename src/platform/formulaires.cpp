@@ -79,6 +79,7 @@ void Formulaires::Montre(const QString &nom)
     formulaire->show();
     formulaire->raise();
     formulaire->activateWindow();
+    m_devant = formulaire;
 }
 
 void Formulaires::MontreSansFocus(const QString &nom)
@@ -86,10 +87,14 @@ void Formulaires::MontreSansFocus(const QString &nom)
     Formulaire *formulaire = Charge(nom);
     if (formulaire == nullptr)
         return;
+    const bool apparait = !formulaire->isVisible();
     formulaire->setAttribute(Qt::WA_ShowWithoutActivating, true);
     formulaire->show();
     formulaire->raise();
     formulaire->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    // Some desktops activate whatever appears, and pass over the attribute.
+    if (apparait && m_devant != nullptr && m_devant != formulaire && m_devant->isVisible())
+        m_devant->activateWindow();
 }
 
 void Formulaires::Cache(const QString &nom)
