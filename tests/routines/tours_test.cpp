@@ -237,6 +237,7 @@ TEST(ToursDuConcours, ClassementDUnAutreConcoursPrendSaPlace)
     joueLeTour(salle, sort);
     salle.inscrit({.equipes = essai::inscrit(4, {}, sort)});
     LanceTourSuivant(salle.partage, salle.operateur);
+    joueLeTour(salle, sort);
 
     ASSERT_NO_FATAL_FAILURE(verifieClassement(salle, salle.classementRefait()));
     EXPECT_EQ(salle.tbclass().size(), 4u);
