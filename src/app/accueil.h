@@ -18,6 +18,7 @@ public:
     ~Accueil() override;
 
     void Form_Load() override;
+    void Form_Resize() override { RedimForm(); }
 
 private:
     void LegendesAccueil();

@@ -107,8 +107,8 @@ void Torvik::Form_Load()
 void Torvik::LegendesTorvik()
 {
     const Partage &partage = m_contexte.partage;
-    const QPixmap icone(partage.IconeLangue);
-    if (icone.isNull())
+    const QIcon icone(partage.IconeLangue);
+    if (icone.availableSizes().isEmpty())
         throw store::Erreur(store::Erreur::FichierAbsent,
                             u"L'image %1 est introuvable ou illisible."_qs.arg(
                                 QDir::toNativeSeparators(partage.IconeLangue)));

@@ -61,6 +61,7 @@ void Econcours::relie()
     surLostFocus(m_ui->référence, [this] { référence_LostFocus(); });
     surLostFocus(m_ui->Combo1, [this] { Combo1_LostFocus(); });
     surChoix(m_ui->référence, [this] { référence_KeyDown(Touche::Entree, 0); });
+    surMouseDown(m_ui->Lrepech, [this](int, int) { m_ui->Check1->toggle(); });
     surClick(m_ui->ok, [this] { ok_Click(); });
     surClick(m_ui->Command1, [this] { Command1_Click(); });
 }

@@ -20,6 +20,7 @@ public:
     ~Econcours() override;
 
     void Form_Load() override;
+    void Form_Resize() override { RedimForm(); }
     void Form_Activate() override;
 
     /// Refills the list of competitions and proposes the number behind the last one; hides the list when there is none.

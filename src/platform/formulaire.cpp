@@ -260,6 +260,16 @@ void Formulaire::mousePressEvent(QMouseEvent *evenement)
     });
 }
 
+void Formulaire::resizeEvent(QResizeEvent *)
+{
+    execute([this] { Form_Resize(); });
+}
+
+void Formulaire::RedimForm()
+{
+    formulaires().redimensionnement().RedimForm(*this);
+}
+
 void Formulaire::closeEvent(QCloseEvent *evenement)
 {
     evenement->accept();

@@ -56,6 +56,7 @@ public:
     virtual void Form_GotFocus() {}
     virtual void Form_Unload() {}
     virtual void Form_Click() {}
+    virtual void Form_Resize() {}
     /// A press on the form itself, beside its controls. \p x and \p y in twips.
     virtual void Form_MouseDown(int /*bouton*/, int /*maj*/, int /*x*/, int /*y*/) {}
     /// Rebuilds what the form shows of the store, when it is visible.
@@ -100,6 +101,8 @@ protected:
     Formulaires &formulaires() const { return m_contexte.formulaires; }
     Boites &boites() const { return m_contexte.boites; }
     const Contexte &contexte() const { return m_contexte; }
+    /// Keeps the controls in proportion to the form.
+    void RedimForm();
     const QString &mes(int numero) const { return m_contexte.partage.mes(numero); }
     ReponseBoite MsgBox(const QString &texte, int drapeaux = vbOKOnly, const QString &titre = {}) const
     {
@@ -108,6 +111,7 @@ protected:
 
     bool eventFilter(QObject *objet, QEvent *evenement) override;
     void mousePressEvent(QMouseEvent *evenement) override;
+    void resizeEvent(QResizeEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:

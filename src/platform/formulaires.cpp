@@ -45,6 +45,17 @@ void Formulaires::prepare(const Contexte &contexte, QWidget *parent)
     m_parent = parent;
 }
 
+/// Where a form stands unless its own loading places it: in the middle of the main window, a little above.
+void Formulaires::place(Formulaire &formulaire) const
+{
+    if (m_parent == nullptr)
+        return;
+    const QRect dehors = m_parent->geometry();
+    const int libreX = dehors.width() - formulaire.width();
+    const int libreY = dehors.height() - formulaire.height();
+    formulaire.move(dehors.x() + std::max(libreX / 2, 0), dehors.y() + std::max(libreY * 2 / 5, 0));
+}
+
 Formulaire *Formulaires::Charge(const QString &nom)
 {
     if (Formulaire *chargee = m_chargees.value(nom))
@@ -54,6 +65,8 @@ Formulaire *Formulaires::Charge(const QString &nom)
         return nullptr;
     Formulaire *formulaire = fabrique(*m_contexte, m_parent);
     m_chargees.insert(nom, formulaire);
+    place(*formulaire);
+    formulaire->execute([&] { formulaire->Form_Resize(); });
     formulaire->execute([&] { formulaire->Form_Load(); });
     return m_chargees.value(nom);
 }

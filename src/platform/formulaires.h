@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/formulaire.h"
+#include "ui/resize.h"
 
 #include <QHash>
 #include <QObject>
@@ -45,15 +46,19 @@ public:
     bool estChargee(const QString &nom) const { return m_chargees.contains(nom); }
     bool estVisible(const QString &nom) const;
 
+    Redimensionnement &redimensionnement() { return m_redimensionnement; }
+
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
     void focusChange(QWidget *ancien, QWidget *nouveau);
     void active(Formulaire *formulaire);
+    void place(Formulaire &formulaire) const;
 
     std::unique_ptr<Contexte> m_contexte;
     QPointer<QWidget> m_parent;
+    Redimensionnement m_redimensionnement;
     QHash<QString, Fabrique> m_fabriques;
     QHash<QString, Formulaire *> m_chargees;
     QPointer<Formulaire> m_active;

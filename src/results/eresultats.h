@@ -23,6 +23,7 @@ public:
     ~EResultats() override;
 
     void Form_Load() override;
+    void Form_Resize() override { RedimForm(); }
     void Form_GotFocus() override;
     void Form_Unload() override;
     void Form_MouseDown(int bouton, int maj, int x, int y) override;

@@ -100,7 +100,7 @@ essai::Concours::Tireur compareAuModele(modele::Journal &journal)
 
 TEST(Concours, ChaqueTourCommeLeModeleLent)
 {
-    for (quint32 graine = 1; graine <= 1500; ++graine) {
+    for (quint32 graine = 1; graine <= 800; ++graine) {
         SCOPED_TRACE(graine);
         std::mt19937 sort(graine);
         const essai::Melange melange{.clubs = 1 + int(sort() % 12),
@@ -125,7 +125,7 @@ TEST(Concours, ChaqueTourCommeLeModeleLent)
 /// - the exchange that mended one pair made the repeat in the other row after its meeting had been read (crees).
 TEST(Concours, InvariantsDeDeuxATroisCentsEquipes)
 {
-    for (int nombre = 2; nombre <= 300; nombre += nombre < 70 ? 1 : 7) {
+    for (int nombre = 2; nombre <= 300; nombre += nombre < 70 ? 1 : 23) {
         for (const bool repeche : {false, true}) {
             SCOPED_TRACE(nombre);
             std::mt19937 sort(quint32(nombre) * 2 + repeche);
