@@ -12,7 +12,7 @@ struct ConcoursInscrit
     QString type = u"2 - Triplettes"_qs;
     int joueurs = 3; ///< Players a team, which must fit \p type.
     bool repeche = false;
-    std::vector<moteur::EquipeInscrite> equipes;
+    std::vector<moteur::EquipeInscrite> equipes = {};
 };
 
 /// Writes a competition with its teams, in one group; gives its number. The club of a team stands on its first member
