@@ -114,10 +114,14 @@ QPoint Operateur::place(const QWidget &controle) const
     return point;
 }
 
-/// A hand that has clicked moves on: nothing stays lit under it.
-void Operateur::ecarteSouris(const QWidget &fenetre) const
+/// A hand that has clicked moves out of the window: nothing stays lit under it. The desktop would tell the window; the
+/// moves before bring its idea of the control under the mouse up to date, which a click that opens a form leaves behind.
+void Operateur::ecarteSouris(const QWidget &fenetre, QPoint point) const
 {
-    QTest::mouseMove(fenetre.windowHandle(), fenetre.rect().bottomRight() - QPoint(2, 2));
+    QTest::mouseMove(fenetre.windowHandle(), QPoint(3, fenetre.height() - 3));
+    QTest::mouseMove(fenetre.windowHandle(), point);
+    QEvent sortie(QEvent::Leave);
+    QCoreApplication::sendEvent(fenetre.windowHandle(), &sortie);
     apres();
 }
 
@@ -125,10 +129,12 @@ void Operateur::clique(QWidget *controle)
 {
     metDevant(*controle->window());
     const QPointer<QWidget> fenetre = controle->window();
-    QTest::mouseClick(fenetre->windowHandle(), Qt::LeftButton, Qt::NoModifier, place(*controle));
+    const QPoint point = place(*controle);
+    QTest::mouseMove(fenetre->windowHandle(), point);
+    QTest::mouseClick(fenetre->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
     apres();
     if (fenetre != nullptr && fenetre->isVisible())
-        ecarteSouris(*fenetre);
+        ecarteSouris(*fenetre, point);
 }
 
 void Operateur::doubleClique(QWidget *controle)

@@ -44,7 +44,7 @@ public:
 private:
     QPoint place(const QWidget &controle) const;
     QWidget *cible() const;
-    void ecarteSouris(const QWidget &fenetre) const;
+    void ecarteSouris(const QWidget &fenetre, QPoint point) const;
     void apres() const;
 
     Programme &m_programme;
