@@ -62,7 +62,7 @@ private:
     QHash<QString, Fabrique> m_fabriques;
     QHash<QString, Formulaire *> m_chargees;
     QPointer<Formulaire> m_active;
-    QPointer<Formulaire> m_devant; ///< Shown last with the focus.
+    QPointer<Formulaire> m_devant;
     QPointer<QWidget> m_controle;
     QPointer<Formulaire> m_formeDuControle;
     bool m_enAttente = false;

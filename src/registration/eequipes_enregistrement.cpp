@@ -44,7 +44,7 @@ void Eequipes::Okc_Click()
 bool Eequipes::saisieRecevable()
 {
     if (numeroTape() > numeroLimite) {
-        MsgBox(mes(89) + u'\n' + mes(90) + u' ' + QString::number(numeroLimite) + u' ' + mes(73));
+        MsgBox(mes(89) + u"\r\n"_qs + mes(90) + u' ' + QString::number(numeroLimite) + u' ' + mes(73));
         m_ui->Société->clear();
         SetFocus(m_LicenceJ[0]);
         return false;
@@ -83,7 +83,7 @@ std::optional<Retardataire> Eequipes::demandeEntree()
     case EtatTirage::SansExemption:
         break;
     }
-    if (MsgBox(u"Le concours est déjà lancé, \n"_qs + mes(126), vbYesNo, titreLancement) != ReponseBoite::Oui)
+    if (MsgBox(u"Le concours est déjà lancé, \r\n"_qs + mes(126), vbYesNo, titreLancement) != ReponseBoite::Oui)
         return std::nullopt;
     return Retardataire::NouvelleExemption;
 }

@@ -192,21 +192,24 @@ std::optional<qint64> AjouteEquipe(Partage &partage, const EquipeSaisie &equipe,
         else if (entree == Retardataire::NouvelleExemption)
             ajouteExemption(partage, equipe);
     };
-    bool complete = true;
-    complete &= PasseErreur([&] {
+    bool ecrite = false;
+    const bool durable = PasseErreur([&] {
         partage.BaseDonnees.EcritEnGroupe([&] {
-            complete = PasseErreur(ecritTout);
-            if (!complete)
+            ecrite = PasseErreur(ecritTout);
+            if (!ecrite)
                 efface(partage, equipe);
         });
     });
-    return complete ? std::optional(adversaire) : std::nullopt;
+    return ecrite && durable ? std::optional(adversaire) : std::nullopt;
 }
 
 bool CorrigeEquipe(Partage &partage, const EquipeSaisie &equipe)
 {
     bool complete = true;
-    const auto etape = [&complete](const std::function<void()> &ecriture) { complete &= PasseErreur(ecriture); };
+    const auto etape = [&complete](const std::function<void()> &ecriture) {
+        if (!PasseErreur(ecriture))
+            complete = false;
+    };
     etape([&] {
         partage.BaseDonnees.EcritEnGroupe([&] {
             Recordset equipes = partage.BaseDonnees.OpenRecordset(RequeteEquipe(equipe.concours, equipe.numero));

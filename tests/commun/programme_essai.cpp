@@ -54,8 +54,17 @@ void ProgrammeEssai::clicFamille(const QString &bouton)
 void ProgrammeEssai::ouvreFamille(const QString &bouton, const QString &nomForme)
 {
     clicFamille(bouton);
-    ASSERT_NE(forme(nomForme), nullptr);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(forme(nomForme)));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return forme(nomForme) == QApplication::activeWindow(); }));
+}
+
+void ProgrammeEssai::active(const QString &nomForme)
+{
+    QWidget *fenetre = forme(nomForme);
+    ASSERT_NE(fenetre, nullptr);
+    if (fenetre == QApplication::activeWindow())
+        return;
+    fenetre->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([fenetre] { return fenetre == QApplication::activeWindow(); }));
 }
 
 QWidget *ProgrammeEssai::controle(const QString &nomForme, const QString &nom)
@@ -118,12 +127,14 @@ void ProgrammeEssai::touche(Qt::Key touche, Qt::KeyboardModifiers touches)
 
 void ProgrammeEssai::clic(const QString &nomForme, const QString &nom)
 {
+    active(nomForme);
     ASSERT_TRUE(visible(nomForme, nom)) << nom.toStdString();
     QTest::mouseClick(controle(nomForme, nom), Qt::LeftButton);
 }
 
 void ProgrammeEssai::remplit(const QString &nomForme, const QString &nom, const QString &texte)
 {
+    active(nomForme);
     QLineEdit *visee = champ(nomForme, nom);
     ASSERT_TRUE(visee->isVisible()) << nom.toStdString();
     QTest::mouseClick(visee, Qt::LeftButton);

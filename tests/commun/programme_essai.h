@@ -12,6 +12,12 @@
 class QLineEdit;
 class QComboBox;
 
+/// Lets a failed comparison show the texts instead of their bytes.
+inline void PrintTo(const QString &texte, std::ostream *sortie)
+{
+    *sortie << '"' << texte.toStdString() << '"';
+}
+
 /// A clock that stands still.
 class HorlogeFixe final : public Horloge
 {
@@ -64,6 +70,8 @@ protected:
     QString focus() const;
 
     // What the operator does
+    /// Brings a form to the front, as a click in it does.
+    void active(const QString &nomForme);
     /// Presses the keys of \p texte in the control that has the focus.
     void tape(const QString &texte);
     void touche(Qt::Key touche, Qt::KeyboardModifiers touches = Qt::NoModifier);

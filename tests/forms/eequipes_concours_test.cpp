@@ -95,7 +95,7 @@ TEST_F(ChoixConcours, AnUnknownNumberHoldsTheOperatorThere)
 {
     ouvre();
     for (const QString &faux : {u"7"_qs, u"abc"_qs, u"1a"_qs, u"0"_qs}) {
-        boites().attend(partage().mes(91) + u'\n' + partage().mes(82));
+        boites().attend(partage().mes(91) + u"\r\n"_qs + partage().mes(82));
         change(faux);
         EXPECT_EQ(focus(), u"référence"_qs);
         EXPECT_FALSE(visible(E, u"Okc"_qs));

@@ -63,7 +63,7 @@ TEST_F(Joueurs, APlayerPlaysOnceInATeam)
 {
     ouvre();
     licence(0, u"0831"_qs);
-    boites().attend(u"Un même joueur ne peut pas être\nengagé deux fois dans la même équipe"_qs);
+    boites().attend(u"Un même joueur ne peut pas être\r\nengagé deux fois dans la même équipe"_qs);
     licence(1, u"0831"_qs);
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
     EXPECT_EQ(focus(), u"LicenceJ_1"_qs);
@@ -75,8 +75,8 @@ TEST_F(Joueurs, ALicenceOfAnotherTeamIsShownAndCleared)
     const qint32 concours = ouvre();
     joueur(u"0850"_qs, u"NOIR"_qs, u"Ève"_qs, u"MAR"_qs, concours, 7, 1);
     const Partage &p = partage();
-    const QString boite = p.mes(103) + u" : 0850\n"_qs + p.mes(19) + u" : NOIR Ève(MAR)\n"_qs + p.mes(104) + u' '
-        + p.mes(17) + u"7\n\n"_qs + p.mes(105);
+    const QString boite = p.mes(103) + u" : 0850\r\n"_qs + p.mes(19) + u" : NOIR Ève(MAR)\r\n"_qs + p.mes(104) + u' '
+        + p.mes(17) + u"7\r\n\r\n"_qs + p.mes(105);
     boites().attend(boite, ReponseBoite::Oui);
     licence(0, u"0850"_qs);
     EXPECT_EQ(boites().textes().last(), boite);

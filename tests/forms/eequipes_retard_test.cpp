@@ -40,7 +40,7 @@ TEST_F(Retard, TheLatecomerMeetsTheFreeTeam)
 TEST_F(Retard, WithoutAFreeTeamTheOperatorDecides)
 {
     apresTirage(0);
-    const QString question = u"Le concours est déjà lancé, \n"_qs + partage().mes(126);
+    const QString question = u"Le concours est déjà lancé, \r\n"_qs + partage().mes(126);
     boites().attend(question, ReponseBoite::Non);
     inscrit(u"TARD"_qs, u"DUP"_qs);
     EXPECT_EQ(boites().titre(), u"Torvik"_qs);

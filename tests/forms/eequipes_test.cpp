@@ -122,7 +122,7 @@ TEST_F(Enregistrement, GapsStayAndOnlyTheHighestNumberComesBack)
 
 TEST_F(Enregistrement, NumbersOutOfRangeGoBackToTheHighestOne)
 {
-    const QString refus = partage().mes(81) + u'\n' + partage().mes(82);
+    const QString refus = partage().mes(81) + u"\r\n"_qs + partage().mes(82);
     equipesStockees(1, 3);
     ouvre();
     for (const QString &faux : {u"0"_qs, u"abc"_qs, u"2bis"_qs, u"-1"_qs, u"5"_qs, u"99999999999999999999"_qs}) {
@@ -185,7 +185,7 @@ TEST_F(Enregistrement, AClubIsNeededAndNumbersEndAt32768)
 
     tape(u"DUP"_qs);
     champ(E, u"Equipe"_qs)->setText(u"32769"_qs);
-    boites().attend(partage().mes(89) + u'\n' + partage().mes(90) + u" 32768 "_qs + partage().mes(73));
+    boites().attend(partage().mes(89) + u"\r\n"_qs + partage().mes(90) + u" 32768 "_qs + partage().mes(73));
     clic(E, u"Okc"_qs);
     EXPECT_EQ(texte(E, u"Société"_qs), QString());
     EXPECT_EQ(focus(), u"LicenceJ_0"_qs);

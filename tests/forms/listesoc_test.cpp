@@ -39,7 +39,7 @@ protected:
     void cherche(const QString &debut) { remplit(L, u"Recherche"_qs, debut); }
     void clicClub(int ligne, Qt::MouseButton bouton = Qt::LeftButton, Qt::KeyboardModifiers touches = Qt::NoModifier)
     {
-        QTest::qWait(1);
+        active(L);
         const QPoint place = grille()->visualRect(grille()->model()->index(ligne - 1, 0)).center();
         QTest::mouseClick(grille()->viewport(), bouton, touches, place);
     }
@@ -97,7 +97,7 @@ TEST_F(Clubs, KeysInTheGridGoOnWithTheSearch)
     EXPECT_EQ(choix(), u"DURAND|DURAND"_qs);
     QTest::keyClick(grille(), Qt::Key_Up);
     QTest::keyClick(grille(), Qt::Key_Shift);
-    QTest::keyClick(grille(), Qt::Key_Q, Qt::ControlModifier);
+    QTest::sendKeyEvent(QTest::Click, grille(), Qt::Key_Q, u"\x11"_qs, Qt::ControlModifier);
     EXPECT_EQ(texte(L, u"Recherche"_qs), u"dur"_qs);
     QTest::keyClick(grille(), Qt::Key_Backspace);
     EXPECT_EQ(texte(L, u"Recherche"_qs), QString());
