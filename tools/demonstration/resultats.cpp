@@ -105,8 +105,6 @@ void Resultats::joue(const Rencontre &rencontre, int place, int nombre)
         tapeScore(rencontre, score);
     if ((premierTour && place == nombre / 2) || m_hasard.chance(pourcentCorrection))
         corrige(rencontre);
-    if (tour() == 2 && place == nombre / 2)
-        m_photographe.prendBureau(u"bureau-resultats", *m_programme.torvik());
 }
 
 Resultats::Score Resultats::tireScore(const Rencontre &rencontre)
@@ -148,6 +146,8 @@ void Resultats::tapeScore(const Rencontre &rencontre, const Score &score, QStrin
         m_main.exigeFocus(forme, u"Score2"_qs);
         m_main.remplace(QString::number(score.score2));
     }
+    if (tour() == 2)
+        m_photographe.prendBureau(u"bureau-resultats", *m_programme.torvik());
     m_main.entree();
     verifie(rencontre, score);
 }
