@@ -76,8 +76,13 @@ std::vector<LigneScores> Salle::scores(int tour)
     lecture.lie(1, partage.ConcoursCourant);
     lecture.lie(2, tour);
     while (lecture.avance())
-        lignes.push_back({int(lecture.nombre(0)), int(lecture.nombre(1)), int(lecture.nombre(2)),
-                          int(lecture.nombre(3)), optionnel(lecture, 4), optionnel(lecture, 5), optionnel(lecture, 6)});
+        lignes.push_back({.tour = int(lecture.nombre(0)),
+                          .rencontre = int(lecture.nombre(1)),
+                          .equipe1 = int(lecture.nombre(2)),
+                          .equipe2 = int(lecture.nombre(3)),
+                          .score1 = optionnel(lecture, 4),
+                          .score2 = optionnel(lecture, 5),
+                          .repechage = optionnel(lecture, 6)});
     return lignes;
 }
 
