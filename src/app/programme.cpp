@@ -3,6 +3,8 @@
 #include "app/accueil.h"
 #include "app/torvik.h"
 #include "competitions/econcours.h"
+#include "registration/eequipes.h"
+#include "registration/listesoc.h"
 #include "results/eresultats.h"
 
 #include <QDir>
@@ -33,6 +35,8 @@ void Programme::enregistreFormes()
 {
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
+    m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
+    m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
 }
 

@@ -12,7 +12,6 @@ using store::Val;
 
 namespace {
 
-constexpr int largeurReference = 6;
 /// Types and categories are read in this language, whatever the operator chose.
 constexpr int langueDesTypes = 1;
 /// Stands in the type read last: no competition has been read, or the entry has been abandoned.
@@ -64,6 +63,8 @@ void Econcours::relie()
     surMouseDown(m_ui->Lrepech, [this](int, int) { m_ui->Check1->toggle(); });
     surClick(m_ui->ok, [this] { ok_Click(); });
     surClick(m_ui->Command1, [this] { Command1_Click(); });
+    surClick(m_ui->Dupliquer, [this] { Dupliquer_Click(); });
+    surClick(m_ui->Supprimer, [this] { Supprimer_Click(); });
 }
 
 void Econcours::Form_Load()

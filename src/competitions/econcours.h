@@ -36,8 +36,12 @@ public:
     void Combo1_LostFocus();
     void ok_Click();
     void Command1_Click();
+    void Dupliquer_Click();
+    void Supprimer_Click();
 
 private:
+    static constexpr int largeurReference = 6;
+
     void LegendesEconcours();
     void relie();
     void remplitTypes();
@@ -51,6 +55,8 @@ private:
     void modifieConcours(store::Recordset &concours);
     void ecritChampsCommuns(store::Recordset &concours) const;
     void enregistreEtVide(store::Recordset &concours);
+    void supprimeConcours(store::Recordset &concours);
+    void relitReferences();
 
     std::unique_ptr<Ui::Econcours> m_ui;
     qint32 m_refConcours = 0;

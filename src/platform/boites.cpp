@@ -34,7 +34,7 @@ ReponseBoite BoitesQt::MsgBox(const QString &texte, int drapeaux, const QString 
     compte();
     QMessageBox boite(QApplication::activeWindow());
     boite.setWindowTitle(titreOuProgramme(titre));
-    boite.setText(texte);
+    boite.setText(QString(texte).replace(u"\r\n"_qs, u"\n"_qs));
     boite.setTextFormat(Qt::PlainText);
     boite.setIcon(image(drapeaux));
     const int boutons = drapeaux & 0x7;

@@ -23,6 +23,8 @@ int codeTouche(const QKeyEvent &evenement)
     case Qt::Key_Return:
     case Qt::Key_Enter:
         return Touche::Entree;
+    case Qt::Key_Tab:
+        return Touche::Tabulation;
     case Qt::Key_Escape:
         return Touche::Echap;
     case Qt::Key_Right:
@@ -36,18 +38,6 @@ int codeTouche(const QKeyEvent &evenement)
     return lettreOuChiffre ? evenement.key() : -1;
 }
 
-int etatMaj(Qt::KeyboardModifiers touches)
-{
-    return (touches.testFlag(Qt::ShiftModifier) ? Maj::Majuscule : 0)
-        + (touches.testFlag(Qt::ControlModifier) ? Maj::Controle : 0)
-        + (touches.testFlag(Qt::AltModifier) ? Maj::Alternative : 0);
-}
-
-int codeBouton(Qt::MouseButton bouton)
-{
-    return bouton == Qt::LeftButton ? Bouton::Gauche : bouton == Qt::RightButton ? Bouton::Droit : 4;
-}
-
 /// The control that an event is about: the combo when it happens in the combo's own editor.
 QWidget *controleDe(QObject *objet)
 {
@@ -58,6 +48,18 @@ QWidget *controleDe(QObject *objet)
 }
 
 } // namespace
+
+int EtatMaj(Qt::KeyboardModifiers touches)
+{
+    return (touches.testFlag(Qt::ShiftModifier) ? Maj::Majuscule : 0)
+        + (touches.testFlag(Qt::ControlModifier) ? Maj::Controle : 0)
+        + (touches.testFlag(Qt::AltModifier) ? Maj::Alternative : 0);
+}
+
+int CodeBouton(Qt::MouseButton bouton)
+{
+    return bouton == Qt::LeftButton ? Bouton::Gauche : bouton == Qt::RightButton ? Bouton::Droit : 4;
+}
 
 void DoEvents()
 {
@@ -222,7 +224,7 @@ bool Formulaire::toucheSurControle(QWidget *controle, QKeyEvent *evenement)
     if (!traitement)
         return false;
     const QWidget *avant = QApplication::focusWidget();
-    const int maj = etatMaj(evenement->modifiers());
+    const int maj = EtatMaj(evenement->modifiers());
     execute([&] { traitement(code, maj); });
     // Enter is the program's own; any other key belongs to the control, unless the focus has gone elsewhere.
     return code == Touche::Entree || avant != QApplication::focusWidget();
@@ -239,8 +241,8 @@ bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
     case QEvent::MouseButtonPress:
         if (const TraitementSouris traitement = m_souris.value(controle)) {
             const auto *souris = static_cast<QMouseEvent *>(evenement);
-            const int bouton = codeBouton(souris->button());
-            execute([&] { traitement(bouton, etatMaj(souris->modifiers())); });
+            const int bouton = CodeBouton(souris->button());
+            execute([&] { traitement(bouton, EtatMaj(souris->modifiers())); });
         }
         break;
     case QEvent::MouseButtonDblClick:
@@ -258,9 +260,9 @@ void Formulaire::mousePressEvent(QMouseEvent *evenement)
     // A button hands on the presses that are not its own; they are no presses on the bare form.
     if (qobject_cast<QAbstractButton *>(childAt(evenement->position().toPoint())) != nullptr)
         return;
-    const int bouton = codeBouton(evenement->button());
+    const int bouton = CodeBouton(evenement->button());
     execute([&] {
-        Form_MouseDown(bouton, etatMaj(evenement->modifiers()), enTwips(evenement->pos().x()),
+        Form_MouseDown(bouton, EtatMaj(evenement->modifiers()), enTwips(evenement->pos().x()),
                        enTwips(evenement->pos().y()));
         if (bouton == Bouton::Gauche)
             Form_Click();

@@ -24,6 +24,11 @@ struct Contexte
     Boites &boites;
 };
 
+/// Shift state as the handlers compare it.
+int EtatMaj(Qt::KeyboardModifiers touches);
+/// Mouse button as the handlers compare it.
+int CodeBouton(Qt::MouseButton bouton);
+
 /// Lets the screen repaint and the timers run; clicks and keys wait until the running operation is over.
 void DoEvents();
 

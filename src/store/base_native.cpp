@@ -266,7 +266,7 @@ BaseNative::~BaseNative()
 }
 
 /// Opens the file and reads its schema, which fails when the key does not fit. Files are kept in the format of
-/// SQLCipher 3, which every version reads; \p formatCourant tries the library's own format instead.
+/// SQLCipher 3, which every version reads; \p formatCourant tries that of version 4 instead.
 void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
 {
     // Without the right to create, the engine could not attach the new file of a compaction either.
@@ -286,8 +286,9 @@ void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
                             nullptr);
     const QByteArray cle = motDePasse.toUtf8();
     sqlite3_key(m_base, cle.constData(), int(cle.size()));
-    if (!formatCourant)
-        executeScript(u"pragma cipher_default_compatibility = 3; pragma cipher_compatibility = 3"_qs);
+    // The default holds for the files that are attached to this one.
+    executeScript(u"pragma cipher_default_compatibility = %1; pragma cipher_compatibility = %1"_qs.arg(
+        formatCourant ? 4 : 3));
     try {
         valeurUnique(u"select count(*) from sqlite_master"_qs);
     } catch (const Erreur &erreur) {

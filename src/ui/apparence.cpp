@@ -4,10 +4,15 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTranslator>
 
 namespace {
+
+const QString nomTraduction = QStringLiteral("boutonsEtDialogues");
 
 QFont policeLisible()
 {
@@ -52,6 +57,17 @@ static void chargeRessources()
     Q_INIT_RESOURCE(varlotour);
 }
 
+void parleLangue(QApplication &application, const QLocale &langue)
+{
+    for (QTranslator *ancienne : application.findChildren<QTranslator *>(nomTraduction))
+        delete ancienne;
+    auto *traduction = new QTranslator(&application);
+    traduction->setObjectName(nomTraduction);
+    if (traduction->load(langue, QStringLiteral("qtbase"), QStringLiteral("_"),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(traduction);
+}
+
 void appliqueApparence(QApplication &application)
 {
     chargeRessources();
@@ -59,6 +75,7 @@ void appliqueApparence(QApplication &application)
     QApplication::setFont(policeLisible());
     QApplication::setPalette(couleurs());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/varlotour.svg")));
+    parleLangue(application, QLocale(QLocale::French));
     QFile feuille(QStringLiteral(":/style.qss"));
     const bool lue = feuille.open(QIODevice::ReadOnly | QIODevice::Text);
     Q_ASSERT_X(lue, "appliqueApparence", "style sheet missing from the resources");

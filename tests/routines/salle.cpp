@@ -71,8 +71,8 @@ void Salle::choisit(qint32 concours)
 std::vector<LigneScores> Salle::scores(int tour)
 {
     std::vector<LigneScores> lignes;
-    Instruction lecture(native(), u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage from scores "
-                                  u"where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) order by rowid"_qs);
+    Instruction lecture(native(), u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage "
+                                  u"from scores where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) order by rowid"_qs);
     lecture.lie(1, partage.ConcoursCourant);
     lecture.lie(2, tour);
     while (lecture.avance())

@@ -22,7 +22,9 @@ protected:
         for (const qint32 numero : {autre, autre + 1}) {
             for (const QString &table : {u"tnequipes"_qs, u"tirages_pro"_qs})
                 salle.native().executeScript(
-                    u"insert into %1 (concours, tableau, equipe) values (%2, 1, 1), (%2, 2, 1)"_qs.arg(table).arg(numero));
+                    u"insert into %1 (concours, tableau, equipe) values (%2, 1, 1), (%2, 2, 1)"_qs
+                        .arg(table)
+                        .arg(numero));
         }
         concours = salle.inscrit({.equipes = equipes(7)});
         salle.operateur = {};

@@ -6,6 +6,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace store;
 
 namespace {
@@ -83,6 +87,26 @@ TEST(Ouverture, RefusesAnEncryptedFileOfOtherTables)
     const QByteArray avant = contenu(fichier);
     EXPECT_EQ(numeroAOuverture(fichier, BaseEssai::connexion()), Erreur::FichierEtranger);
     EXPECT_EQ(contenu(fichier), avant);
+}
+
+TEST(Ouverture, RefusesAFolderThatCannotBeWritten)
+{
+    BaseEssai essai;
+    const QByteArray avant = contenu(essai.fichier());
+    chmod(essai.dossier().toUtf8().constData(), 0555);
+    chmod(essai.fichier().toUtf8().constData(), 0444);
+    const pid_t enfant = fork();
+    if (enfant == 0) {
+        // The administrator may write anywhere: an ordinary user tries.
+        if (geteuid() == 0 && setuid(65534) != 0)
+            _exit(100);
+        _exit(-numeroAOuverture(essai.fichier(), BaseEssai::connexion()));
+    }
+    int etat = 0;
+    waitpid(enfant, &etat, 0);
+    EXPECT_EQ(WEXITSTATUS(etat), -Erreur::DossierProtege);
+    EXPECT_EQ(contenu(essai.fichier()), avant);
+    chmod(essai.dossier().toUtf8().constData(), 0755);
 }
 
 TEST(Ouverture, KeepsWhatWasWrittenAndNeverInClear)
