@@ -111,11 +111,11 @@ QString ProgrammeEssai::focus() const
 
 void ProgrammeEssai::tape(const QString &texte)
 {
-    // Through the key event itself: QTest::keyClicks only knows the letters of Latin keyboards.
+    // Through the key event itself, with the code of the real key: QTest::keyClicks only knows plain letters.
     for (const QChar lettre : texte) {
         ASSERT_NE(QApplication::focusWidget(), nullptr);
-        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key_unknown, QString(lettre),
-                            Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(), Qt::Key(lettre.toUpper().unicode()),
+                            QString(lettre), Qt::NoModifier);
     }
 }
 

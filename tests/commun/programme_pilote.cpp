@@ -97,7 +97,8 @@ void ProgrammePilote::tape(const QString &texte)
         else if (lettre.unicode() < 128)
             QTest::keyClick(widget, lettre.toLatin1());
         else
-            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(lettre), Qt::NoModifier);
+            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key(lettre.toUpper().unicode()), QString(lettre),
+                                Qt::NoModifier);
     }
 }
 
