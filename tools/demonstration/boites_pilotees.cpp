@@ -63,7 +63,7 @@ ReponseBoite BoitesPilotees::MsgBox(const QString &texte, int drapeaux, const QS
     QTimer main;
     QObject::connect(&main, &QTimer::timeout, &main, [&] {
         auto *boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (boite == nullptr || !boite->isVisible() || boite->text() != texte)
+        if (boite == nullptr || !boite->isVisible() || boite->text() != QString(texte).remove(u'\r'))
             return;
         main.stop();
         repond(*boite, attendue);
