@@ -1,0 +1,41 @@
+#include "results/grille_resultats.h"
+
+#include "app/partage.h"
+#include "platform/formulaires.h"
+
+#include <QComboBox>
+
+namespace grille {
+
+qint64 concoursAffiche(const Partage &partage, const Formulaires &formulaires)
+{
+    const Formulaire *saisie = formulaires.forme(u"EResultats"_qs);
+    const auto *liste = saisie == nullptr ? nullptr : saisie->findChild<QComboBox *>(u"listconcours"_qs);
+    return liste == nullptr ? partage.ConcoursCourant : store::Valeur(liste->currentText()).entier();
+}
+
+void LargeursUtiles::note(int colonne, const QString &texte)
+{
+    if (m_plusLongs.size() <= std::size_t(colonne))
+        m_plusLongs.resize(std::size_t(colonne) + 1);
+    QString &plusLong = m_plusLongs[std::size_t(colonne)];
+    if (texte.size() > plusLong.size())
+        plusLong = texte;
+}
+
+void LargeursUtiles::applique(FlexGrid &grille) const
+{
+    for (int colonne = 0; colonne < int(m_plusLongs.size()); ++colonne) {
+        const int largeur = grille.LargeurTexte(m_plusLongs[std::size_t(colonne)]);
+        if (largeur > grille.ColWidth(colonne))
+            grille.setColWidth(colonne, largeur);
+    }
+}
+
+GardeDefilement::~GardeDefilement()
+{
+    if (m_haut > 1 && m_grille.Rows() > 1)
+        m_grille.setTopRow(std::min(m_haut, m_grille.Rows() - 1));
+}
+
+} // namespace grille
