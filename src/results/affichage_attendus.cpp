@@ -22,7 +22,7 @@ std::vector<LigneClassement> litClassement(Partage &partage)
     Recordset classement = partage.BaseDonnees.OpenRecordset(u"tbclass", store::dbOpenTable);
     classement.Index(u"rankkey");
     const auto champ = [&](const char16_t *nom) { return classement[nom].valeur(); };
-    for (classement.MoveFirst(); !classement.Eof(); classement.MoveNext())
+    for (; !classement.Eof(); classement.MoveNext())
         lignes.push_back({.equipe = int(champ(u"equipe").entier()),
                           .gagnées = int(champ(u"gagnées").entier()),
                           .perdues = int(champ(u"perdues").entier()),
@@ -40,9 +40,10 @@ void afficheRencontres(Partage &partage, FlexGrid &grille, qint64 concours)
     grille.setCols(5);
     grille.setFormatString(u"<Tour|"_qs + partage.mes(24).leftJustified(largeurTitre) + u'|'
                            + partage.mes(25).leftJustified(largeurTitre) + u"|    |    "_qs);
+    // Launched matches first: yes stands below no in the file.
     Recordset scores = partage.BaseDonnees.OpenRecordset(
         u"select * from scores where tableau = 1 and isnull(score_1) and concours = "_qs + QString::number(concours)
-        + u" order by lancee desc, tour, Equipe_1"_qs);
+        + u" order by lancee, tour, Equipe_1"_qs);
     for (; !scores.Eof(); scores.MoveNext()) {
         if (scores[u"Equipe_2"].entierOu(0) == 0)
             continue;

@@ -34,7 +34,6 @@ void Groupes::Form_Load()
     m_ui->les_resultats_0->move(enPixels(gaucheGrille), m_ui->TabStrip1->geometry().bottom() + margeOnglets);
     prepareGrille(*m_ui->les_resultats_0);
     m_ui->les_resultats_0->hide();
-    placeForme();
 }
 
 void Groupes::placePres(const Formulaire &saisie)

@@ -69,14 +69,15 @@ void manqres::Rafraichir()
     AfficheAttendus(partage(), formulaires());
 }
 
-/// At the left edge of the screen, so that `Groupes` finds its place between it and the results form.
+/// `Groupes` comes with the view, as soon as there is a ranking, and stands between it and the results form.
 void manqres::placePres(const Formulaire &saisie)
 {
     int gauche = saisie.Left() - Width();
-    if (const auto *groupes = qobject_cast<Groupes *>(formulaires().forme(nomGroupes));
+    if (auto *groupes = qobject_cast<Groupes *>(formulaires().forme(nomGroupes));
         groupes != nullptr && groupes->onglets() > 0) {
-        gauche -= groupes->Width();
         formulaires().MontreSansFocus(nomGroupes);
+        groupes->Form_Activate();
+        gauche -= groupes->Width();
     }
     Move(std::max(gauche, 0), Groupes::haut);
 }
