@@ -244,12 +244,12 @@ void FlexGrid::setCellFontBold(int ligne, int colonne, bool gras)
         m_modele->fixeGras(ligne, colonne, gras);
 }
 
-int FlexGrid::LargeurTexte(const QString &texte) const
+int FlexGrid::LargeurTexte(const QString &texte, bool gras) const
 {
     ensurePolished();
-    QFont grasse = font();
-    grasse.setBold(true);
-    return enTwips(QFontMetrics(grasse).horizontalAdvance(texte) + MargeTexte);
+    QFont police = font();
+    police.setBold(gras);
+    return enTwips(QFontMetrics(police).horizontalAdvance(texte) + MargeTexte);
 }
 
 void FlexGrid::setSort(int ordre)

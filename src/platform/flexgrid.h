@@ -89,8 +89,8 @@ public:
     /// Whether a cell stands in bold; the selection stays.
     bool CellFontBold(int ligne, int colonne) const;
     void setCellFontBold(int ligne, int colonne, bool gras);
-    /// Width in twips of a column that shows \p texte whole, in bold too.
-    int LargeurTexte(const QString &texte) const;
+    /// Width in twips of a column that shows \p texte whole.
+    int LargeurTexte(const QString &texte, bool gras = false) const;
 
     /// Sorts by the selected columns, from left to right, the selected rows, or all of them when only one is selected.
     /// \p ordre is one of Ordre; any other value sorts nothing.

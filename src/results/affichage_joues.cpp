@@ -50,6 +50,8 @@ void prepareGrille(FlexGrid &grille)
     grille.setFormatString(u"<Tour|Equ 1"_qs + blancs + u"|Equ 2"_qs + blancs + u"|    |    "_qs);
     grille.setColWidth(1, largeurEquipe1);
     grille.setColWidth(2, largeurEquipe2);
+    for (const int score : {3, 4})
+        grille.setColWidth(score, grille.LargeurTexte(QString::number(moteur::scoreGagnant)));
 }
 
 } // namespace
@@ -71,13 +73,14 @@ void AfficheJoues(Partage &partage, const Formulaires &formulaires)
         const LigneJouee ligne = lit(partage, scores);
         grille.AddItem({});
         const int rang = grille.Rows() - 1;
+        const int gagnante = ligne.premiereGagne ? 1 : 2;
         for (int colonne = 0; colonne < 5; ++colonne) {
             grille.setTextMatrix(rang, colonne, ligne.textes[colonne]);
-            largeurs.note(colonne, ligne.textes[colonne]);
+            largeurs.note(colonne, ligne.textes[colonne], colonne == gagnante);
         }
         grille.setCellBackColor(rang, 1, ligne.premiereGagne ? grille::vert : grille::rouge);
         grille.setCellBackColor(rang, 2, ligne.premiereGagne ? grille::rouge : grille::vert);
-        grille.setCellFontBold(rang, ligne.premiereGagne ? 1 : 2, true);
+        grille.setCellFontBold(rang, gagnante, true);
     }
     largeurs.applique(grille);
     vue->ajusteLargeur();

@@ -14,19 +14,20 @@ qint64 concoursAffiche(const Partage &partage, const Formulaires &formulaires)
     return liste == nullptr ? partage.ConcoursCourant : store::Valeur(liste->currentText()).entier();
 }
 
-void LargeursUtiles::note(int colonne, const QString &texte)
+void LargeursUtiles::note(int colonne, const QString &texte, bool gras)
 {
     if (m_plusLongs.size() <= std::size_t(colonne))
         m_plusLongs.resize(std::size_t(colonne) + 1);
-    QString &plusLong = m_plusLongs[std::size_t(colonne)];
-    if (texte.size() > plusLong.size())
-        plusLong = texte;
+    Texte &plusLong = m_plusLongs[std::size_t(colonne)];
+    if (texte.size() > plusLong.texte.size() || (texte.size() == plusLong.texte.size() && gras && !plusLong.gras))
+        plusLong = {texte, gras};
 }
 
 void LargeursUtiles::applique(FlexGrid &grille) const
 {
     for (int colonne = 0; colonne < int(m_plusLongs.size()); ++colonne) {
-        const int largeur = grille.LargeurTexte(m_plusLongs[std::size_t(colonne)]);
+        const auto &[texte, gras] = m_plusLongs[std::size_t(colonne)];
+        const int largeur = grille.LargeurTexte(texte, gras);
         if (largeur > grille.ColWidth(colonne))
             grille.setColWidth(colonne, largeur);
     }

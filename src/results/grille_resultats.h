@@ -15,17 +15,26 @@ inline constexpr quint32 blanc = FlexGrid::Couleur(255, 255, 255);
 /// Competition that the results form shows, as its list has it; the current one when that form is not loaded.
 qint64 concoursAffiche(const Partage &partage, const Formulaires &formulaires);
 
+/// Widths in twips of the columns of a ranking: the screen holds two of them beside the results form.
+inline constexpr int largeurNombre = 420; // matches
+inline constexpr int largeurPoints = 660;
+
 /// Collects the longest text of each column while a grid is filled, so that no text is cut: the columns told in figures
 /// are wide enough for team numbers, not for the words that may stand in their place.
 class LargeursUtiles
 {
 public:
-    void note(int colonne, const QString &texte);
+    void note(int colonne, const QString &texte, bool gras = false);
     /// Widens the columns of \p grille that would cut a text; none gets narrower.
     void applique(FlexGrid &grille) const;
 
 private:
-    std::vector<QString> m_plusLongs;
+    struct Texte
+    {
+        QString texte;
+        bool gras = false;
+    };
+    std::vector<Texte> m_plusLongs;
 };
 
 /// Keeps the rows on screen where they are while a grid is filled anew.

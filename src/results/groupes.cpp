@@ -1,7 +1,7 @@
 #include "results/groupes.h"
 
-#include "platform/flexgrid.h"
 #include "platform/twips.h"
+#include "results/grille_resultats.h"
 #include "ui_groupes.h"
 
 #include <QTabBar>
@@ -53,6 +53,10 @@ void Groupes::prepareGrille(FlexGrid &grille) const
     grille.setGeometry(gauche, marge, width() - 2 * gauche, height() - 2 * marge);
     grille.setRows(1);
     grille.setFormatString(u">Clt| Equ.| J | G| P| Pp | Pc |  Ga "_qs);
+    for (const int colonne : {2, 3, 4})
+        grille.setColWidth(colonne, grille::largeurNombre);
+    for (const int colonne : {5, 6})
+        grille.setColWidth(colonne, grille::largeurPoints);
 }
 
 FlexGrid *Groupes::chargeGrille()

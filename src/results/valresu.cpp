@@ -15,6 +15,7 @@ namespace {
 constexpr int gaucheGrille = 10; // pixels
 constexpr int largeurGrille = 155; // pixels, at least
 constexpr int margeEcran = 50; // twips
+constexpr int largeurLibre = 3200; // twips that the results form leaves on its right
 constexpr int margeBas = 1100; // twips left for a title bar and the system's own bar
 
 } // namespace
@@ -69,7 +70,7 @@ void valresu::ajusteLargeur()
         colonnes += enPixels(grille.ColWidth(colonne));
     const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
     const int largeur = std::max(largeurGrille, colonnes + cadre);
-    const int marge = std::max(0, std::min(gaucheGrille, (enPixels(3200) - largeur) / 2));
+    const int marge = std::max(0, std::min(gaucheGrille, (enPixels(largeurLibre) - largeur) / 2));
     grille.setGeometry(marge, marge, largeur, height() - 2 * marge);
     setFixedWidth(largeur + 2 * marge);
 }
