@@ -81,10 +81,7 @@ void afficheGeneral(FlexGrid &grille, const std::vector<LigneClassement> &lignes
     grille.setRows(1);
     grille.setCols(7);
     grille.setFormatString(u">Clt|Equ.| G| P| Pp | Pc |<  Ga "_qs);
-    for (const int colonne : {2, 3})
-        grille.setColWidth(colonne, grille::largeurNombre);
-    for (const int colonne : {4, 5})
-        grille.setColWidth(colonne, grille::largeurPoints);
+    grille::serreClassement(grille, 2);
     for (const auto &[rang, position] : moteur::classementGeneral(lignes)) {
         const LigneClassement &ligne = lignes[rang];
         ajouteLigne(grille,

@@ -11,7 +11,8 @@ using store::Recordset;
 namespace {
 
 constexpr int largeurTitre = 8; // blanks behind a team's heading, as the column widths are told below
-constexpr int largeurEquipe1 = 600; // twips
+constexpr int largeurTour = 540; // twips
+constexpr int largeurEquipe1 = 600;
 constexpr int largeurEquipe2 = 650;
 
 /// What one row of the grid shows.
@@ -48,6 +49,7 @@ void prepareGrille(FlexGrid &grille)
     grille.setRows(1);
     grille.setCols(5);
     grille.setFormatString(u"<Tour|Equ 1"_qs + blancs + u"|Equ 2"_qs + blancs + u"|    |    "_qs);
+    grille.setColWidth(0, largeurTour);
     grille.setColWidth(1, largeurEquipe1);
     grille.setColWidth(2, largeurEquipe2);
     for (const int score : {3, 4})

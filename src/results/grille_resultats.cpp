@@ -14,6 +14,14 @@ qint64 concoursAffiche(const Partage &partage, const Formulaires &formulaires)
     return liste == nullptr ? partage.ConcoursCourant : store::Valeur(liste->currentText()).entier();
 }
 
+void serreClassement(FlexGrid &grille, int nombres)
+{
+    grille.setColWidth(1, largeurEquipe);
+    for (int colonne = 2; colonne < grille.Cols(); ++colonne)
+        grille.setColWidth(colonne, colonne < 2 + nombres ? largeurNombre : largeurPoints);
+    grille.setColWidth(grille.Cols() - 1, largeurNombre);
+}
+
 void LargeursUtiles::note(int colonne, const QString &texte, bool gras)
 {
     if (m_plusLongs.size() <= std::size_t(colonne))

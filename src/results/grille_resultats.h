@@ -16,8 +16,13 @@ inline constexpr quint32 blanc = FlexGrid::Couleur(255, 255, 255);
 qint64 concoursAffiche(const Partage &partage, const Formulaires &formulaires);
 
 /// Widths in twips of the columns of a ranking: the screen holds two of them beside the results form.
+inline constexpr int largeurEquipe = 720;
 inline constexpr int largeurNombre = 420; // matches
 inline constexpr int largeurPoints = 660;
+
+/// Gives the columns of a ranking their widths: team, then \p nombres columns of matches, then the points. The last one
+/// takes what is left.
+void serreClassement(FlexGrid &grille, int nombres);
 
 /// Collects the longest text of each column while a grid is filled, so that no text is cut: the columns told in figures
 /// are wide enough for team numbers, not for the words that may stand in their place.

@@ -53,10 +53,7 @@ void Groupes::prepareGrille(FlexGrid &grille) const
     grille.setGeometry(gauche, marge, width() - 2 * gauche, height() - 2 * marge);
     grille.setRows(1);
     grille.setFormatString(u">Clt| Equ.| J | G| P| Pp | Pc |  Ga "_qs);
-    for (const int colonne : {2, 3, 4})
-        grille.setColWidth(colonne, grille::largeurNombre);
-    for (const int colonne : {5, 6})
-        grille.setColWidth(colonne, grille::largeurPoints);
+    grille::serreClassement(grille, 3);
 }
 
 FlexGrid *Groupes::chargeGrille()

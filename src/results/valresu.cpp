@@ -16,6 +16,7 @@ constexpr int gaucheGrille = 10; // pixels
 constexpr int largeurGrille = 155; // pixels, at least
 constexpr int margeEcran = 50; // twips
 constexpr int largeurLibre = 3200; // twips that the results form leaves on its right
+constexpr int margeSaisie = 180; // twips of the results form that may be covered: its empty margin
 constexpr int margeBas = 1100; // twips left for a title bar and the system's own bar
 
 } // namespace
@@ -60,6 +61,7 @@ void valresu::Form_Activate()
 void valresu::Rafraichir()
 {
     AfficheJoues(partage(), formulaires());
+    placeForme();
 }
 
 void valresu::ajusteLargeur()
@@ -70,16 +72,20 @@ void valresu::ajusteLargeur()
         colonnes += enPixels(grille.ColWidth(colonne));
     const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
     const int largeur = std::max(largeurGrille, colonnes + cadre);
-    const int marge = std::max(0, std::min(gaucheGrille, (enPixels(largeurLibre) - largeur) / 2));
+    const int libre = enPixels(largeurLibre) - (frameGeometry().width() - width());
+    const int marge = std::clamp((libre - largeur) / 2, 0, gaucheGrille);
     grille.setGeometry(marge, marge, largeur, height() - 2 * marge);
-    setFixedWidth(largeur + 2 * marge);
+    if (width() != largeur + 2 * marge) {
+        setFixedWidth(largeur + 2 * marge);
+        perdPlace();
+    }
 }
 
 /// To the right of the results form, which leaves room there; to its left when words have made the columns too wide.
 void valresu::placePres(const Formulaire &saisie)
 {
-    const int droite = saisie.Left() + saisie.Width();
-    const bool tient = droite + Width() <= Ecran::Width();
+    const int droite = std::min(saisie.Left() + saisie.Width(), Ecran::Width() - Width());
+    const bool tient = droite >= saisie.Left() + saisie.Width() - margeSaisie;
     Move(tient ? droite : std::max(saisie.Left() - Width(), 0), margeEcran);
 }
 

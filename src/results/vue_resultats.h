@@ -17,6 +17,8 @@ protected:
     virtual void placePres(const Formulaire &saisie) = 0;
     /// Places the view once each time it has been shown: where the operator moves it, it stays.
     void placeForme();
+    /// The view has taken another size: placeForme() places it again.
+    void perdPlace() { m_placee = false; }
     /// Makes the results form the active one again, with the focus where it was.
     void rendClavier() const;
     /// \p traitement gets the button, the row and the column of a press in \p grille; the keyboard then returns to the
