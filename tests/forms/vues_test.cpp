@@ -51,6 +51,8 @@ protected:
     }
     static void presse(FlexGrid *grille, int rang, int colonne, Qt::MouseButton bouton = Qt::LeftButton)
     {
+        // A click makes the window under it the active one, as window systems do.
+        grille->window()->activateWindow();
         QApplication::processEvents();
         const QPoint ou = grille->visualRect(grille->model()->index(rang - 1, colonne)).center();
         QTest::mouseClick(grille->viewport(), bouton, {}, ou);
@@ -191,6 +193,7 @@ TEST_F(VuesResultats, ClicDroitTrieSurLaColonne)
     EXPECT_TRUE(std::ranges::is_sorted(colonne(1)));
     EXPECT_TRUE(prog.partage().ClicGrille);
     EXPECT_EQ(champs(), u"   "_qs);
+    EXPECT_EQ(QApplication::activeWindow(), controle(u"Equipe1"_qs)->window());
     EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
 }
 
@@ -244,7 +247,10 @@ TEST_F(VuesResultats, LeBoutonBasculeEntreAttendusEtClassement)
     EXPECT_EQ(etat(), u"Classement victoires G.a.|Attendus|vert||1"_qs);
     EXPECT_EQ(classement()->pos(), attendus()->pos());
     EXPECT_NE(bouton->grab().toImage().pixelColor(8, 8), QColor(255, 128, 255));
+    bouton->window()->activateWindow();
+    QApplication::processEvents();
     prog.clique(manqres, u"classement"_qs);
+    QApplication::processEvents();
     EXPECT_EQ(etat(), u"Résultats attendus|Classement|rose|0|"_qs);
     EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
 }
