@@ -59,7 +59,8 @@ QStringList textesPoints(const LigneClassement &ligne)
     if (!ligne.pp || !ligne.pc)
         return {tiret, tiret, tiret};
     const int ga = ligne.ga.value_or(0);
-    return {QString::number(*ligne.pp), QString::number(*ligne.pc), (ga > 0 ? u"+"_qs : QString()) + QString::number(ga)};
+    const QString signe = ga > 0 ? u"+"_qs : QString();
+    return {QString::number(*ligne.pp), QString::number(*ligne.pc), signe + QString::number(ga)};
 }
 
 void ajouteLigne(FlexGrid &grille, const QStringList &textes, const LigneClassement &ligne)

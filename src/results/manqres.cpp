@@ -124,7 +124,8 @@ void manqres::basculeLancee(int Index, int ligne)
 {
     FlexGrid &pressee = grille(Index);
     const int changees = partage().BaseDonnees.Execute(
-        u"update scores set lancee = not lancee where concours = %1 and tableau=%2 and equipe_1= %3 and equipe_2 = %4"_qs
+        u"update scores set lancee = not lancee where concours = %1 and tableau=%2 and equipe_1= %3 "
+        u"and equipe_2 = %4"_qs
             .arg(partage().ConcoursCourant)
             .arg(Index + 1)
             .arg(pressee.TextMatrix(ligne, 1), pressee.TextMatrix(ligne, 2)));

@@ -51,7 +51,8 @@ TEST_F(DetailEquipe, CompositionClubsEtUneLigneParRencontre)
     EXPECT_EQ(texte(u"Club"_qs), u"Boule de Cuers\nSainte-Anne"_qs);
     const QString deux = u"contre 2 BLANC(La Farlède) NOIR(La Farlède)"_qs;
     EXPECT_EQ(texte(u"scores"_qs).split(u'\n'),
-              QStringList({u"Tour n° 1 - Gagne 5:13 %1 "_qs.arg(deux), u"Tour n° 2 - Perd 9:13 %1  Repêchée"_qs.arg(deux),
+              QStringList({u"Tour n° 1 - Gagne 5:13 %1 "_qs.arg(deux),
+                           u"Tour n° 2 - Perd 9:13 %1  Repêchée"_qs.arg(deux),
                            u"Tour n° 3 - Gagne 13:4 %1  Repêchée"_qs.arg(deux),
                            u"Tour n° 4 - Perd %2:13 %1 "_qs.arg(deux, prog.partage().mes(43)),
                            u"Tour n° 5 - Gagne 13:7 Exempt "_qs, u"Tour n° 6 - Résultat en attente contre 4 "_qs}));

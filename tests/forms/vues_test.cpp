@@ -238,7 +238,8 @@ TEST_F(VuesResultats, LeBoutonBasculeEntreAttendusEtClassement)
     const QWidget *forme = prog.formulaires().forme(manqres);
     const auto etat = [&] {
         return QStringList{forme->windowTitle(), bouton->text(), bouton->property("bascule").toString(),
-                           attendus()->isVisible() ? u"0"_qs : QString(), classement()->isVisible() ? u"1"_qs : QString()}
+                           attendus()->isVisible() ? u"0"_qs : QString(),
+                           classement()->isVisible() ? u"1"_qs : QString()}
             .join(u'|');
     };
     EXPECT_EQ(etat(), u"Résultats attendus|Classement|rose|0|"_qs);
