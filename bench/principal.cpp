@@ -44,6 +44,9 @@ private:
             if (const auto place = nom.find(debut); place != std::string::npos)
                 nom.erase(place, nom.find('/', place + 1) - place);
         }
+        // The limit itself is the one argument without a name.
+        if (const auto place = nom.rfind('/'); nom.find(':', place) == std::string::npos)
+            nom.erase(place);
         const auto limite = mesure.counters.find("limite");
         std::printf("%-52s %12.3f", nom.c_str(), ms);
         if (limite != mesure.counters.end())

@@ -60,8 +60,8 @@ public:
     void revientAuTour(int tour)
     {
         prog.base().native().executeScript(
-            u"delete from scores where concours = %1 and tour > %2; update concours set tourpri = %2 where concours = %1"_qs
-                .arg(concours)
+            u"delete from scores where concours = %1 and tour > %2; "
+            u"update concours set tourpri = %2 where concours = %1"_qs.arg(concours)
                 .arg(tour));
         prog.ouvre(u"f_accueil"_qs);
         prog.ouvre(u"f_resultats"_qs);

@@ -39,7 +39,8 @@ ReponseBoite BoitesAnnoncees::MsgBox(const QString &texte, int drapeaux, const Q
     }
     const Attendue attendue = m_attendues.front();
     m_attendues.pop_front();
-    EXPECT_TRUE(texte.contains(attendue.partie)) << texte.toStdString() << "\ninstead of " << attendue.partie.toStdString();
+    EXPECT_TRUE(texte.contains(attendue.partie)) << texte.toStdString() << "\ninstead of "
+                                                 << attendue.partie.toStdString();
     EXPECT_TRUE(attendue.titre.isEmpty() || titre == attendue.titre) << titre.toStdString();
     const QPointer<QWidget> fenetre = QApplication::activeWindow();
     QMessageBox boite(QMessageBox::NoIcon, titre, texte, QMessageBox::Ok, fenetre);

@@ -6,8 +6,8 @@
 
 #include <deque>
 
-/// Boxes that answer by themselves: each one shown must be the next that was expected. An unexpected box fails the test,
-/// and so does one that was expected and never came.
+/// Boxes that answer by themselves: each one shown must be the next that was expected. An unexpected box fails the
+/// test, and so does one that was expected and never came.
 class BoitesScript final : public Boites
 {
 public:

@@ -43,7 +43,8 @@ TEST_F(ChoixConcours, WithoutACompetitionItMakesWayForTheEditor)
 TEST_F(ChoixConcours, ItOpensOnTheLastCompetition)
 {
     creeConcours({});
-    const qint32 dernier = creeConcours({.type = u"2 - Triplettes"_qs, .lieu = u"Aups"_qs, .categorie = u"Vétérans"_qs});
+    const qint32 dernier =
+        creeConcours({.type = u"2 - Triplettes"_qs, .lieu = u"Aups"_qs, .categorie = u"Vétérans"_qs});
     equipesStockees(dernier, 1);
     ouvreFamille(u"f_equipes"_qs, E);
     EXPECT_EQ(partage().ConcoursCourant, dernier);

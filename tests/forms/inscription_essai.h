@@ -95,7 +95,8 @@ protected:
     }
     QStringList numeros(qint32 concours)
     {
-        return lignes(QStringLiteral("select distinct equipe from equipes where concours = %1 order by 1").arg(concours));
+        return lignes(
+            QStringLiteral("select distinct equipe from equipes where concours = %1 order by 1").arg(concours));
     }
 
 private:

@@ -71,6 +71,6 @@ std::vector<MatchEssai> SalleResultats::matchs(int tour)
 
 int SalleResultats::tourpri()
 {
-    return int(
-        prog.valeur(u"select tourpri from concours where concours = %1"_qs.arg(prog.partage().ConcoursCourant)).entier());
+    const QString sql = u"select tourpri from concours where concours = %1"_qs.arg(prog.partage().ConcoursCourant);
+    return int(prog.valeur(sql).entier());
 }

@@ -71,13 +71,18 @@ void Salle::choisit(qint32 concours)
 std::vector<LigneScores> Salle::scores(int tour)
 {
     std::vector<LigneScores> lignes;
-    Instruction lecture(native(), u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage from scores "
-                                  u"where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) order by rowid"_qs);
+    Instruction lecture(native(), u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage "
+                                  u"from scores where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) order by rowid"_qs);
     lecture.lie(1, partage.ConcoursCourant);
     lecture.lie(2, tour);
     while (lecture.avance())
-        lignes.push_back({int(lecture.nombre(0)), int(lecture.nombre(1)), int(lecture.nombre(2)),
-                          int(lecture.nombre(3)), optionnel(lecture, 4), optionnel(lecture, 5), optionnel(lecture, 6)});
+        lignes.push_back({.tour = int(lecture.nombre(0)),
+                          .rencontre = int(lecture.nombre(1)),
+                          .equipe1 = int(lecture.nombre(2)),
+                          .equipe2 = int(lecture.nombre(3)),
+                          .score1 = optionnel(lecture, 4),
+                          .score2 = optionnel(lecture, 5),
+                          .repechage = optionnel(lecture, 6)});
     return lignes;
 }
 

@@ -21,9 +21,10 @@ protected:
         LanceTourSuivant(salle.partage, salle.operateur);
         for (const qint32 numero : {autre, autre + 1}) {
             for (const QString &table : {u"tnequipes"_qs, u"tirages_pro"_qs})
-                salle.native().executeScript(u"insert into %1 (concours, tableau, equipe) values (%2, 1, 1), (%2, 2, 1)"_qs
-                                                 .arg(table)
-                                                 .arg(numero));
+                salle.native().executeScript(
+                    u"insert into %1 (concours, tableau, equipe) values (%2, 1, 1), (%2, 2, 1)"_qs
+                        .arg(table)
+                        .arg(numero));
         }
         concours = salle.inscrit({.equipes = equipes(7)});
         salle.operateur = {};
@@ -48,7 +49,8 @@ TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
     const std::vector<LigneScores> tirees = salle.scores();
     const LigneScores &premiere = tirees.front();
     // One score alone is no result.
-    salle.native().executeScript(u"update scores set score_1 = 13 where concours = %1 and rencontre = 1"_qs.arg(concours));
+    salle.native().executeScript(
+        u"update scores set score_1 = 13 where concours = %1 and rencontre = 1"_qs.arg(concours));
     ConfirmeTirage(salle.partage, salle.operateur);
     EXPECT_EQ(salle.operateur.dits, QStringList(question));
     salle.saisit(premiere.equipe1, premiere.equipe2, u"13"_qs, u"2"_qs);
@@ -130,8 +132,8 @@ class EcritureCoupee : public PremierTirage
 protected:
     void coupe(int tour, int apres, const QString &facon)
     {
-        salle.native().executeScript(u"create temp trigger coupe before insert on main.scores when (select count(*) from "
-                                     u"scores where concours = %1 and tour = %2) >= %3 "
+        salle.native().executeScript(u"create temp trigger coupe before insert on main.scores when "
+                                     u"(select count(*) from scores where concours = %1 and tour = %2) >= %3 "
                                      u"begin select raise(%4, 'disque'); end"_qs.arg(concours)
                                          .arg(tour)
                                          .arg(apres)

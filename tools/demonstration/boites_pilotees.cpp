@@ -63,6 +63,7 @@ ReponseBoite BoitesPilotees::MsgBox(const QString &texte, int drapeaux, const QS
     QTimer main;
     QObject::connect(&main, &QTimer::timeout, &main, [&] {
         auto *boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        // The one open box gets its click whatever stands in it: left waiting, it would hold the day up for good.
         if (boite == nullptr || !boite->isVisible())
             return;
         main.stop();
