@@ -1,39 +1,16 @@
-#include "concours_joue.h"
+#include "concours_bench.h"
+#include "mesure.h"
 
 #include "engine/classement.h"
 #include "engine/tirage_suivant.h"
 #include "engine/tirage_tour1.h"
 
-#include <benchmark/benchmark.h>
-
-#include <map>
-#include <memory>
-
 namespace {
-
-/// A field as clubs send it: a large host, mixed teams, the rest from about one club for eight teams.
-std::vector<moteur::EquipeInscrite> champ(int equipes)
-{
-    std::mt19937 sort(2024);
-    return essai::inscrit(equipes, {.clubs = 1 + equipes / 8, .pourcentHote = 20, .pourcentPanache = 5}, sort);
-}
-
-/// A competition whose \p tours rounds have been drawn and played; kept, since several measures start from it.
-essai::Concours &concoursJoue(int equipes, int tours)
-{
-    static std::map<std::pair<int, int>, std::unique_ptr<essai::Concours>> joues;
-    std::unique_ptr<essai::Concours> &concours = joues[{equipes, tours}];
-    if (!concours) {
-        concours = std::make_unique<essai::Concours>(champ(equipes), false, 7);
-        for (int tour = 0; tour < tours; ++tour)
-            concours->joueTour({.pourcentMots = 3});
-    }
-    return *concours;
-}
 
 /// Arguments: teams, rounds played before. One attempt at the draw of the next round, clubs included.
 void TirageSuivant(benchmark::State &etat)
 {
+    limite(etat, double(etat.range(2)));
     essai::Concours &concours = concoursJoue(int(etat.range(0)), int(etat.range(1)));
     const std::vector<moteur::LigneClassement> classement = concours.classement();
     const std::vector<QString> clubs = concours.clubs(classement);
@@ -44,16 +21,14 @@ void TirageSuivant(benchmark::State &etat)
         benchmark::DoNotOptimize(
             moteur::tireTourSuivant({lignes, clubs, jouees, concours.tourpri(), concours.repeche()}));
     }
-    etat.SetComplexityN(etat.range(0));
 }
 BENCHMARK(TirageSuivant)
-    ->ArgNames({"equipes", "tours"})
-    ->ArgsProduct({{1000, 4000, 10000}, {4}})
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity();
-BENCHMARK(TirageSuivant)
-    ->ArgNames({"equipes", "tours"})
-    ->ArgsProduct({{1000, 4000, 10000}, {1, 8}})
+    ->ArgNames({"equipes", "tours", ""})
+    ->Args({1000, 4, 5})
+    ->Args({4000, 4, 20})
+    ->Args({10000, 4, 55})
+    ->Args({10000, 8, 80})
+    ->ArgsProduct({{1000, 4000, 10000}, {1}, {0}})
     ->Unit(benchmark::kMillisecond);
 
 void TirageSuivantUnSeulClub(benchmark::State &etat)

@@ -1,7 +1,7 @@
 #include "app/langue.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 
 void ChargeLangue(Partage &partage)
 {
@@ -11,6 +11,7 @@ void ChargeLangue(Partage &partage)
     const store::Recordset active = partage.BaseDonnees.OpenRecordset(u"select * from [traduc] where actif=true");
     if (active.Eof()) {
         partage.LangueCourante = 1;
+        partage.Traducteur.clear();
         partage.IconeLangue = iconeParDefaut;
     } else {
         partage.LangueCourante = qint16(active[u"numero"].entier());
@@ -18,7 +19,7 @@ void ChargeLangue(Partage &partage)
         partage.IconeLangue = chemin(active[u"icone"].texte());
         partage.mes.efface();
     }
-    if (!QFile::exists(partage.IconeLangue))
+    if (!QFileInfo(partage.IconeLangue).isFile())
         partage.IconeLangue = iconeParDefaut;
 
     store::Recordset textes = partage.BaseDonnees.OpenRecordset(u"select * from [langues] where lang = "_qs

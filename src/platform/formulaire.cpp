@@ -30,8 +30,12 @@ int codeTouche(const QKeyEvent &evenement)
     case Qt::Key_Right:
         return Touche::Droite;
     default:
-        return evenement.key() < 128 ? evenement.key() : -1;
+        break;
     }
+    // Only letters and digits have their own codes in common with the handlers: an apostrophe would be a right arrow.
+    const bool lettreOuChiffre = (evenement.key() >= Qt::Key_0 && evenement.key() <= Qt::Key_9)
+        || (evenement.key() >= Qt::Key_A && evenement.key() <= Qt::Key_Z);
+    return lettreOuChiffre ? evenement.key() : -1;
 }
 
 /// The control that an event is about: the combo when it happens in the combo's own editor.
@@ -253,6 +257,9 @@ bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
 
 void Formulaire::mousePressEvent(QMouseEvent *evenement)
 {
+    // A button hands on the presses that are not its own; they are no presses on the bare form.
+    if (qobject_cast<QAbstractButton *>(childAt(evenement->position().toPoint())) != nullptr)
+        return;
     const int bouton = CodeBouton(evenement->button());
     execute([&] {
         Form_MouseDown(bouton, EtatMaj(evenement->modifiers()), enTwips(evenement->pos().x()),

@@ -79,6 +79,7 @@ void Formulaires::Montre(const QString &nom)
     formulaire->show();
     formulaire->raise();
     formulaire->activateWindow();
+    m_devant = formulaire;
 }
 
 void Formulaires::MontreSansFocus(const QString &nom)
@@ -86,10 +87,14 @@ void Formulaires::MontreSansFocus(const QString &nom)
     Formulaire *formulaire = Charge(nom);
     if (formulaire == nullptr)
         return;
+    const QPointer<Formulaire> devant = m_devant;
     formulaire->setAttribute(Qt::WA_ShowWithoutActivating, true);
     formulaire->show();
     formulaire->raise();
     formulaire->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    // Not every window system heeds the wish.
+    if (devant != nullptr && devant != formulaire && devant->isVisible())
+        devant->activateWindow();
 }
 
 void Formulaires::Cache(const QString &nom)
@@ -169,10 +174,12 @@ bool Formulaires::eventFilter(QObject *objet, QEvent *evenement)
 {
     switch (evenement->type()) {
     case QEvent::WindowActivate:
-        if (auto *formulaire = qobject_cast<Formulaire *>(objet))
+        if (auto *formulaire = qobject_cast<Formulaire *>(objet)) {
+            m_devant = formulaire;
             active(formulaire);
-        else if (objet == m_parent)
+        } else if (objet == m_parent) {
             m_active.clear();
+        }
         break;
     case QEvent::MouseButtonPress:
         if (objet->isWindowType()) {

@@ -62,6 +62,7 @@ private:
     QHash<QString, Fabrique> m_fabriques;
     QHash<QString, Formulaire *> m_chargees;
     QPointer<Formulaire> m_active;
+    QPointer<Formulaire> m_devant;
     QPointer<QWidget> m_controle;
     QPointer<Formulaire> m_formeDuControle;
     bool m_enAttente = false;

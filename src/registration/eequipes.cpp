@@ -234,7 +234,7 @@ void Eequipes::référence_LostFocus()
 
 void Eequipes::refuseConcours()
 {
-    MsgBox(mes(91) + u'\n' + mes(82));
+    MsgBox(mes(91) + u"\r\n"_qs + mes(82));
     SetFocus(m_ui->référence);
     m_ui->référence->lineEdit()->selectAll();
 }
@@ -341,7 +341,7 @@ void Eequipes::Equipe_LostFocus()
 
 void Eequipes::refuseNumero(std::optional<qint64> maxe)
 {
-    MsgBox(mes(81) + u'\n' + mes(82));
+    MsgBox(mes(81) + u"\r\n"_qs + mes(82));
     poseNumero(ZeroPad(maxe.value_or(1), largeurNumero));
     SetFocus(m_ui->Equipe);
     m_ui->Equipe->lineEdit()->selectAll();

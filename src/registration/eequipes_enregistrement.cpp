@@ -44,7 +44,7 @@ void Eequipes::Okc_Click()
 bool Eequipes::saisieRecevable()
 {
     if (numeroTape() > numeroLimite) {
-        MsgBox(mes(89) + u'\n' + mes(90) + u' ' + QString::number(numeroLimite) + u' ' + mes(73));
+        MsgBox(mes(89) + u"\r\n"_qs + mes(90) + u' ' + QString::number(numeroLimite) + u' ' + mes(73));
         m_ui->Société->clear();
         SetFocus(m_LicenceJ[0]);
         return false;
@@ -83,29 +83,29 @@ std::optional<Retardataire> Eequipes::demandeEntree()
     case EtatTirage::SansExemption:
         break;
     }
-    if (MsgBox(u"Le concours est déjà lancé, \n"_qs + mes(126), vbYesNo, titreLancement) != ReponseBoite::Oui)
+    if (MsgBox(u"Le concours est déjà lancé, \r\n"_qs + mes(126), vbYesNo, titreLancement) != ReponseBoite::Oui)
         return std::nullopt;
     return Retardataire::NouvelleExemption;
 }
 
 bool Eequipes::inscrit(const EquipeSaisie &equipe, Retardataire entree)
 {
-    const Ecriture ecriture = AjouteEquipe(partage(), equipe, entree);
-    if (!ecriture.complete)
+    const std::optional<qint64> adversaire = AjouteEquipe(partage(), equipe, entree);
+    if (!adversaire)
         return false;
     m_ui->Equipe->addItem(m_ui->Equipe->currentText());
     poseNumero(ZeroPad(equipe.numero + 1, largeurApresAjout));
     afficheCompte(m_ui->Label7->text().toInt() + 1);
     videSaisie();
     if (entree == Retardataire::PrendExemption)
-        MsgBox(u"La rencontre %1 contre %2 peut être lancée"_qs.arg(equipe.numero).arg(ecriture.adversaire), vbOKOnly,
+        MsgBox(u"La rencontre %1 contre %2 peut être lancée"_qs.arg(equipe.numero).arg(*adversaire), vbOKOnly,
                titreLancement);
     return true;
 }
 
 bool Eequipes::corrige(const EquipeSaisie &equipe)
 {
-    if (!CorrigeEquipe(partage(), equipe).complete)
+    if (!CorrigeEquipe(partage(), equipe))
         return false;
     videSaisie();
     PasseErreur([&] { proposeSuivante(PlusHautNumero(partage(), equipe.concours)); });
@@ -115,7 +115,7 @@ bool Eequipes::corrige(const EquipeSaisie &equipe)
 /// An operator must never believe a team registered that is not: what he typed stays, to be stored again.
 void Eequipes::signaleEchec(qint64 numero)
 {
-    MsgBox(u"L'équipe %1 n'a pas pu être enregistrée entièrement.\nSa saisie reste affichée : "
+    MsgBox(u"L'équipe %1 n'a pas pu être enregistrée.\nSa saisie reste affichée : "
            "vérifiez-la, puis enregistrez-la de nouveau."_qs.arg(numero),
            vbCritical);
 }

@@ -129,9 +129,10 @@ void Eequipes::signaleEngagement(int Index, const Engagement &engagement)
 {
     if (engagement.equipe == numeroEquipe() && engagement.doublon == Index)
         return;
+    const QString saut = u"\r\n"_qs;
     const QString joueur = u"%1 %2(%3)"_qs.arg(engagement.nom, engagement.prenom, engagement.societe);
-    MsgBox(mes(103) + u" : "_qs + m_LicenceJ[Index]->text() + u'\n' + mes(19) + u" : "_qs + joueur + u'\n' + mes(104)
-               + u' ' + mes(17) + QString::number(engagement.equipe) + u"\n\n"_qs + mes(105),
+    MsgBox(mes(103) + u" : "_qs + m_LicenceJ[Index]->text() + saut + mes(19) + u" : "_qs + joueur + saut + mes(104)
+               + u' ' + mes(17) + QString::number(engagement.equipe) + saut + saut + mes(105),
            vbYesNo);
     const bool memePersonne = memeTexte(engagement.nom, m_NomJ[Index]->text())
         && memeTexte(engagement.prenom, m_PrénomJ[Index]->text())
@@ -184,7 +185,7 @@ void Eequipes::completeMembre(Recordset &joueurs, int ligne)
 void Eequipes::refuseDoublon(int Index)
 {
     SetFocus(m_LicenceJ[Index]);
-    MsgBox(u"Un même joueur ne peut pas être\nengagé deux fois dans la même équipe"_qs);
+    MsgBox(u"Un même joueur ne peut pas être\r\nengagé deux fois dans la même équipe"_qs);
     m_LicenceJ[Index]->clear();
 }
 

@@ -30,22 +30,6 @@ Recordset ouvreEvolution(Partage &partage, qint32 concours, qint64 numero)
     return evolution;
 }
 
-/// Statements of one group, one after the other, whatever becomes of each.
-class GroupeEcritures
-{
-public:
-    GroupeEcritures(Partage &partage, const std::function<void(GroupeEcritures &)> &etapes)
-    {
-        m_complet &= PasseErreur([&] { partage.BaseDonnees.EcritEnGroupe([&] { etapes(*this); }); });
-    }
-
-    void operator()(const std::function<void()> &etape) { m_complet &= PasseErreur(etape); }
-    bool complet() const { return m_complet; }
-
-private:
-    bool m_complet = true;
-};
-
 void effaceScores(Recordset &scores)
 {
     scores[u"score_1"] = nullptr;
@@ -105,14 +89,29 @@ void poseCompteurs(Recordset &evolution)
     evolution[u"complement"] = 0;
 }
 
-void ajouteEvolution(Partage &partage, const EquipeSaisie &equipe)
+void poseEvolution(Partage &partage, const EquipeSaisie &equipe)
 {
-    Recordset evolution = partage.BaseDonnees.OpenRecordset(u"Evolution", store::dbOpenTable);
-    evolution.AddNew();
-    evolution[u"concours"] = equipe.concours;
-    evolution[u"equipe"] = equipe.numero;
+    Recordset evolution = ouvreEvolution(partage, equipe.concours, equipe.numero);
+    if (evolution.NoMatch()) {
+        evolution.AddNew();
+        evolution[u"concours"] = equipe.concours;
+        evolution[u"equipe"] = equipe.numero;
+    } else {
+        evolution.Edit();
+    }
     poseCompteurs(evolution);
     evolution.Update();
+}
+
+/// Takes back the rows of a team that could not be written whole: half a team would count as known, and never be drawn.
+void efface(Partage &partage, const EquipeSaisie &equipe)
+{
+    for (const QStringView table : {u"equipes", u"evolution"})
+        PasseErreur([&] {
+            partage.BaseDonnees.Execute(u"delete * from %1 where concours = %2 and equipe = %3"_qs.arg(table)
+                                            .arg(equipe.concours)
+                                            .arg(equipe.numero));
+        });
 }
 
 void corrigeMembre(Recordset &equipes, const Membre &membre, const QString &societe)
@@ -181,35 +180,47 @@ EtatTirage EtatDuTirage(Partage &partage, qint32 concours)
     return ouvreExemption(partage, concours).NoMatch() ? EtatTirage::SansExemption : EtatTirage::Exemption;
 }
 
-Ecriture AjouteEquipe(Partage &partage, const EquipeSaisie &equipe, Retardataire entree)
+std::optional<qint64> AjouteEquipe(Partage &partage, const EquipeSaisie &equipe, Retardataire entree)
 {
-    Ecriture ecriture;
-    const GroupeEcritures groupe(partage, [&](GroupeEcritures &etape) {
-        if (entree == Retardataire::PrendExemption)
-            etape([&] { ecriture.adversaire = prendExemption(partage, equipe); });
-        else if (entree == Retardataire::NouvelleExemption)
-            etape([&] { ajouteExemption(partage, equipe); });
+    qint64 adversaire = sansAdversaire;
+    const auto ecritTout = [&] {
         for (std::size_t place = 0; place < equipe.membres.size(); ++place)
-            etape([&] { ajouteMembre(partage, equipe, place); });
-        etape([&] { ajouteEvolution(partage, equipe); });
+            ajouteMembre(partage, equipe, place);
+        poseEvolution(partage, equipe);
+        if (entree == Retardataire::PrendExemption)
+            adversaire = prendExemption(partage, equipe);
+        else if (entree == Retardataire::NouvelleExemption)
+            ajouteExemption(partage, equipe);
+    };
+    bool ecrite = false;
+    const bool durable = PasseErreur([&] {
+        partage.BaseDonnees.EcritEnGroupe([&] {
+            ecrite = PasseErreur(ecritTout);
+            if (!ecrite)
+                efface(partage, equipe);
+        });
     });
-    ecriture.complete = groupe.complet();
-    return ecriture;
+    return ecrite && durable ? std::optional(adversaire) : std::nullopt;
 }
 
-Ecriture CorrigeEquipe(Partage &partage, const EquipeSaisie &equipe)
+bool CorrigeEquipe(Partage &partage, const EquipeSaisie &equipe)
 {
-    const GroupeEcritures groupe(partage, [&](GroupeEcritures &etape) {
-        etape([&] {
+    bool complete = true;
+    const auto etape = [&complete](const std::function<void()> &ecriture) {
+        if (!PasseErreur(ecriture))
+            complete = false;
+    };
+    etape([&] {
+        partage.BaseDonnees.EcritEnGroupe([&] {
             Recordset equipes = partage.BaseDonnees.OpenRecordset(RequeteEquipe(equipe.concours, equipe.numero));
             for (const Membre &membre : equipe.membres) {
                 etape([&] { corrigeMembre(equipes, membre, equipe.societe); });
                 etape([&] { equipes.MoveNext(); });
             }
+            etape([&] { remetCompteurs(partage, equipe); });
         });
-        etape([&] { remetCompteurs(partage, equipe); });
     });
-    return {.complete = groupe.complet()};
+    return complete;
 }
 
 bool RetireEquipe(Partage &partage, qint32 concours, qint64 numero)

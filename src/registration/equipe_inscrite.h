@@ -38,16 +38,11 @@ std::vector<qint64> NumerosDesEquipes(Partage &partage, qint32 concours);
 
 EtatTirage EtatDuTirage(Partage &partage, qint32 concours);
 
-/// What became of the writing of a team: each statement stands alone, and one that fails does not stop the next.
-struct Ecriture
-{
-    bool complete = true;
-    qint64 adversaire = 0; ///< Team that was free and now meets the new one.
-};
-
-/// Stores a new team, and its match when it comes after the draw, as one group of writes.
-Ecriture AjouteEquipe(Partage &partage, const EquipeSaisie &equipe, Retardataire entree);
-/// Writes a known team anew, names cut to what the table holds, and sets its stage counters back.
-Ecriture CorrigeEquipe(Partage &partage, const EquipeSaisie &equipe);
+/// Stores a new team, and its match when it comes after the draw: whole or, when a write fails, not at all. Gives the
+/// number of the free team that it now meets, 0 when there is none; nothing when it is not stored.
+std::optional<qint64> AjouteEquipe(Partage &partage, const EquipeSaisie &equipe, Retardataire entree);
+/// Writes a known team anew, names cut to what the table holds, and sets its stage counters back. A write that fails
+/// does not stop the others; false then.
+bool CorrigeEquipe(Partage &partage, const EquipeSaisie &equipe);
 /// Removes a team; its matches stay. False when it had no row in `evolution`.
 bool RetireEquipe(Partage &partage, qint32 concours, qint64 numero);

@@ -4,8 +4,6 @@
 
 #include <memory>
 
-class QKeyEvent;
-
 namespace Ui {
 class Listesoc;
 }

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "app/programme.h"
+#include "commun/boites_annoncees.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// A day that does not change while a test runs.
+class HorlogeArretee : public Horloge
+{
+public:
+    QDate jour() const override { return date; }
+    QTime heure() const override { return QTime(9, 30); }
+
+    QDate date = QDate(2026, 7, 14);
+};
+
+/// The whole program on a fresh base of its own, driven by keys and clicks as an operator drives it.
+class ProgrammePilote
+{
+public:
+    /// \p graine fixes the draws. The program is not started yet.
+    explicit ProgrammePilote(quint32 graine = 1);
+    ~ProgrammePilote();
+
+    /// Starts the program; what Programme::demarre() gives.
+    bool demarre();
+    void termine();
+
+    QString fichier() const { return m_dossier.filePath(u"VarloBase.mdb"_qs); }
+    QString dossier() const { return m_dossier.path(); }
+    Partage &partage() { return m_programme->partage(); }
+    Formulaires &formulaires() { return m_programme->formulaires(); }
+    Programme &programme() { return *m_programme; }
+    store::Database &base() { return partage().BaseDonnees; }
+    QWidget *torvik() const;
+    /// First column of the first row of a statement.
+    store::Valeur valeur(const QString &sql) { return base().native().valeurUnique(sql); }
+
+    /// The control \p nom of the loaded form \p forme; a missing one fails the test.
+    template<typename Widget = QWidget>
+    Widget *controle(const QString &forme, const QString &nom)
+    {
+        return qobject_cast<Widget *>(cherche(forme, nom));
+    }
+    /// Name of the control that has the focus, a combo for its editor.
+    QString focus() const;
+
+    /// Types keys into the control with the focus; a line end is Enter.
+    void tape(const QString &texte);
+    void touche(Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier);
+    void clique(const QString &forme, const QString &nom);
+    /// Press, release, second press and release, as they come from a mouse.
+    void doubleClique(const QString &forme, const QString &nom);
+    /// Opens a family of forms from the main window, by its button.
+    void ouvre(const QString &bouton);
+
+    BoitesAnnoncees boites;
+    AleaFixe alea;
+    HorlogeArretee horloge;
+
+private:
+    QWidget *cherche(const QString &forme, const QString &nom);
+
+    QTemporaryDir m_dossier;
+    std::unique_ptr<Programme> m_programme;
+};

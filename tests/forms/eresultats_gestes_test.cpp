@@ -1,0 +1,217 @@
+#include "salle_resultats.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace {
+
+/// The draw button, the hidden gestures and the change of competition.
+class TirageResultats : public SalleResultats
+{
+protected:
+    QWidget *forme() { return prog.formulaires().forme(u"EResultats"_qs); }
+    QRect bouton() { return controle(u"tirage_suivant"_qs)->geometry(); }
+    QPoint aCote() { return {bouton().x() + bouton().width(), bouton().center().y()}; }
+    void presse(QPoint ou, Qt::KeyboardModifiers avec, Qt::MouseButton souris = Qt::RightButton)
+    {
+        QWidget *enfant = forme()->childAt(ou);
+        QWidget *cible = enfant == nullptr ? forme() : enfant;
+        QTest::mousePress(cible, souris, avec, cible->mapFrom(forme(), ou));
+        QTest::mouseRelease(cible, souris, avec, cible->mapFrom(forme(), ou));
+    }
+    void choisit(const QString &numero)
+    {
+        auto *liste = qobject_cast<QComboBox *>(controle(u"listconcours"_qs));
+        liste->setFocus();
+        liste->clearEditText();
+        prog.tape(numero + u'\n');
+    }
+};
+
+TEST_F(TirageResultats, TroisToursPourHuitEquipes)
+{
+    ouvre(8);
+    EXPECT_EQ(texte(u"Label2"_qs), u"8 équipes"_qs);
+    EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Lancer le concours"_qs);
+    for (int tour = 1; tour <= 3; ++tour) {
+        tire();
+        EXPECT_EQ(tourpri(), tour);
+        EXPECT_FALSE(visible(u"tirage_suivant"_qs));
+        EXPECT_EQ(texte(u"Label2"_qs), u"Tour N° %1"_qs.arg(tour));
+        EXPECT_EQ(texte(u"tour_P1"_qs), u" manque 4 Résultats"_qs);
+        joueTour();
+        EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tirage tour N°%1"_qs.arg(tour + 1));
+        EXPECT_EQ(visible(u"tirage_suivant"_qs), tour < 3);
+    }
+    EXPECT_EQ(texte(u"tour_P1"_qs), u"Concours terminé"_qs);
+    EXPECT_FALSE(visible(u"tirage_suivant"_qs));
+    rouvre();
+    EXPECT_EQ(texte(u"tour_P1"_qs), u"Concours terminé"_qs);
+    EXPECT_FALSE(visible(u"tirage_suivant"_qs));
+    // The option is read afresh: with it one more round is offered.
+    execute(u"update concours set repeche = -1"_qs);
+    rouvre();
+    EXPECT_TRUE(visible(u"tirage_suivant"_qs));
+    EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tirage tour N°4"_qs);
+}
+
+TEST_F(TirageResultats, DoubleClicEtEntreeTenueTirentUneFois)
+{
+    ouvre(8);
+    prog.doubleClique(u"EResultats"_qs, u"tirage_suivant"_qs);
+    EXPECT_EQ(tourpri(), 1);
+    joueTour();
+    QWidget *tirage = controle(u"tirage_suivant"_qs);
+    tirage->setFocus();
+    for (int fois = 0; fois < 30; ++fois) {
+        QKeyEvent entree(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_qs, fois > 0);
+        QApplication::sendEvent(QApplication::focusWidget(), &entree);
+        QApplication::processEvents();
+    }
+    EXPECT_EQ(tourpri(), 2);
+    EXPECT_EQ(matchs(2).size(), 4u);
+    EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
+}
+
+TEST_F(TirageResultats, EchecDuTirageLaisseLeProgrammeUtilisable)
+{
+    ouvre(8);
+    execute(u"create temp trigger coupe before insert on main.scores when new.equipe_1 > 0 and (select count(*) from "
+            u"scores) >= 2 begin select raise(abort, 'disque'); end"_qs);
+    prog.boites.attend(u"Erreur"_qs);
+    tire();
+    prog.boites.verifie();
+    EXPECT_EQ(tourpri(), 0);
+    EXPECT_EQ(prog.partage().TourCourant, 0);
+    EXPECT_TRUE(visible(u"tirage_suivant"_qs));
+    execute(u"drop trigger coupe"_qs);
+    prog.boites.attend(u"le tirage a déjà été fait. Voulez vous recommencer?"_qs, ReponseBoite::Oui);
+    tire();
+    EXPECT_EQ(prog.boites.derniersDrapeaux, 52);
+    EXPECT_EQ(matchs().size(), 4u);
+    EXPECT_EQ(tourpri(), 1);
+}
+
+TEST_F(TirageResultats, AnnulerToutLeTirage)
+{
+    ouvre(8);
+    tire();
+    joueEtTire();
+    const QRect zone = bouton();
+    const Qt::KeyboardModifiers tout = Qt::ControlModifier | Qt::ShiftModifier;
+    // Beside the zone, on another control, with other keys or the other button: nothing.
+    presse({zone.x() + zone.width() - 1, zone.center().y()}, tout);
+    presse({aCote().x(), zone.y() - 1}, tout);
+    presse({aCote().x(), zone.y() + zone.height() + 1}, tout);
+    presse(controle(u"imprimer"_qs)->geometry().center(), tout);
+    presse(aCote(), Qt::NoModifier);
+    presse(aCote(), Qt::ShiftModifier);
+    presse(aCote(), tout | Qt::AltModifier);
+    presse(aCote(), tout, Qt::LeftButton);
+    EXPECT_EQ(tourpri(), 2);
+
+    presse(aCote(), tout);
+    EXPECT_EQ(tourpri(), 0);
+    EXPECT_EQ(prog.partage().TourCourant, 0);
+    EXPECT_TRUE(matchs(1).empty() && matchs(2).empty());
+    EXPECT_EQ(texte(u"tour_P1"_qs), QString());
+    EXPECT_TRUE(visible(u"tirage_suivant"_qs));
+    EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tirage annulé Relancer"_qs);
+    tire();
+    EXPECT_EQ(tourpri(), 1);
+    EXPECT_EQ(matchs(1).size(), 4u);
+}
+
+TEST_F(TirageResultats, AnnulerLeTour)
+{
+    ouvre(8);
+    tire();
+    joueEtTire();
+    const QRect zone = bouton();
+    presse({forme()->width() - 1, zone.y() + zone.height()}, Qt::ControlModifier); // the far corner still counts
+    EXPECT_EQ(prog.partage().TourCourant, 1);
+    EXPECT_EQ(tourpri(), 0); // one lower than the program's own count
+    EXPECT_EQ(matchs(1).size(), 4u);
+    EXPECT_TRUE(matchs(2).empty());
+    EXPECT_EQ(texte(u"tour_P1"_qs), u"annulé"_qs);
+    EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tour 2 annulé Relancer"_qs);
+    EXPECT_TRUE(visible(u"tirage_suivant"_qs));
+    tire();
+    EXPECT_EQ(tourpri(), 2);
+    EXPECT_EQ(matchs(2).size(), 4u);
+}
+
+TEST_F(TirageResultats, AnnulerLeTour1LaisseUnConcoursSansRencontre)
+{
+    ouvre(8);
+    tire();
+    presse(aCote(), Qt::ControlModifier);
+    EXPECT_EQ(tourpri(), -1);
+    EXPECT_TRUE(matchs(1).empty());
+    rouvre();
+    EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Lancer le concours"_qs);
+    EXPECT_TRUE(visible(u"tirage_suivant"_qs));
+    // The store was one round lower: one click brings it back to the start, the next one draws.
+    tire();
+    EXPECT_EQ(tourpri(), 0);
+    rouvre();
+    tire();
+    EXPECT_EQ(tourpri(), 1);
+    EXPECT_EQ(matchs(1).size(), 4u);
+}
+
+TEST_F(TirageResultats, ChangementDeConcours)
+{
+    ouvre(8);
+    const qint32 huit = prog.partage().ConcoursCourant;
+    const qint32 vide = inscrit(0);
+    const qint32 lance = inscrit(4);
+    rouvre();
+    choisit(QString::number(huit));
+    EXPECT_EQ(texte(u"listconcours"_qs), u"00000%1"_qs.arg(huit));
+    EXPECT_EQ(texte(u"Label2"_qs), u"8 équipe(s)"_qs);
+    EXPECT_EQ(texte(u"lieut"_qs), u"Sète"_qs);
+    EXPECT_EQ(texte(u"datet"_qs), u"14/07/2026"_qs);
+    EXPECT_EQ(texte(u"typet"_qs), u"Triplettes"_qs);
+    EXPECT_EQ(texte(u"categorie"_qs), u"Seniors"_qs);
+    choisit(QString::number(vide));
+    EXPECT_EQ(texte(u"Label2"_qs), u"0 équipes inscrites"_qs);
+    EXPECT_EQ(prog.partage().ConcoursCourant, vide);
+    choisit(QString::number(lance));
+    tire();
+    EXPECT_EQ(texte(u"Label2"_qs), u"Tour N° 1"_qs);
+    EXPECT_EQ(prog.valeur(u"select count(*) from scores where concours <> %1"_qs.arg(lance)).entier(), 0);
+}
+
+TEST_F(TirageResultats, ConcoursInconnuVerrouilleLaSaisie)
+{
+    ouvre(8);
+    const qint32 courant = prog.partage().ConcoursCourant;
+    prog.boites.attend(u"Ce numéro de concours est inconnu"_qs);
+    choisit(u"77"_qs);
+    prog.boites.verifie();
+    for (const QString &nom : {u"Equipe1"_qs, u"Equipe2"_qs, u"Score1"_qs, u"Score2"_qs})
+        EXPECT_TRUE(qobject_cast<QLineEdit *>(controle(nom))->isReadOnly());
+    for (const QString &nom : {u"listconcours"_qs, u"datet"_qs, u"lieut"_qs, u"typet"_qs})
+        EXPECT_EQ(texte(nom), QString());
+    EXPECT_TRUE(forme()->isVisible());
+    EXPECT_EQ(prog.partage().ConcoursCourant, courant);
+
+    choisit(u"tous"_qs); // no number: emptied without a word
+    EXPECT_EQ(texte(u"listconcours"_qs), QString());
+    EXPECT_TRUE(qobject_cast<QLineEdit *>(controle(u"Equipe1"_qs))->isReadOnly());
+    choisit(QString::number(courant));
+    EXPECT_FALSE(qobject_cast<QLineEdit *>(controle(u"Equipe1"_qs))->isReadOnly());
+    EXPECT_EQ(texte(u"lieut"_qs), u"Sète"_qs);
+}
+
+TEST_F(TirageResultats, SansConcoursOuvreLEditeur)
+{
+    ASSERT_TRUE(prog.demarre());
+    prog.ouvre(u"f_resultats"_qs);
+    EXPECT_FALSE(prog.formulaires().estChargee(u"EResultats"_qs));
+    EXPECT_TRUE(prog.formulaires().estVisible(u"Econcours"_qs));
+}
+
+} // namespace

@@ -1,0 +1,254 @@
+#include "bilan.h"
+
+#include "store/database.h"
+
+#include <algorithm>
+
+namespace demonstration {
+
+namespace {
+
+constexpr int gagnant = 13;
+
+std::pair<int, int> paire(int equipe1, int equipe2)
+{
+    return std::minmax(equipe1, equipe2);
+}
+
+bool premiereGagne(int score1)
+{
+    return score1 == gagnant;
+}
+
+} // namespace
+
+Bilan::Bilan(const QString &base, const Plateau &plateau, const Options &options, const std::set<int> &avertis)
+    : m_plateau(plateau)
+    , m_options(options)
+    , m_avertis(avertis)
+{
+    lit(base);
+    verifieNombreDeTours();
+    for (int tour = 1; tour <= int(m_tours.size()); ++tour)
+        verifieTour(tour);
+}
+
+void Bilan::lit(const QString &base)
+{
+    store::Database ouverte = store::DBEngine().Workspaces(0).OpenDatabase(base, false, false, u";PWD=qz7tkn42"_qs);
+    store::Recordset equipes = ouverte.OpenRecordset(u"select * from equipes where concours = 1 and doublon = 0",
+                                                     store::dbOpenSnapshot);
+    for (; !equipes.Eof(); equipes.MoveNext())
+        m_clubs[int(equipes[u"equipe"].entier())] = equipes[u"societe"].texte();
+    store::Recordset scores = ouverte.OpenRecordset(u"select * from scores where concours = 1", store::dbOpenSnapshot);
+    for (; !scores.Eof(); scores.MoveNext()) {
+        const size_t tour = size_t(scores[u"tour"].entier());
+        m_tours.resize(std::max(m_tours.size(), tour));
+        Rencontre &rencontre = m_tours[tour - 1].emplace_back();
+        rencontre.equipe1 = int(scores[u"Equipe_1"].entier());
+        rencontre.equipe2 = int(scores[u"Equipe_2"].entierOu(0));
+        rencontre.score1 = int(scores[u"score_1"].entierOu(0));
+        rencontre.score2 = int(scores[u"score_2"].entierOu(0));
+        rencontre.jouee = !scores[u"score_1"].estNull() && !scores[u"score_2"].estNull();
+    }
+}
+
+void Bilan::faute(int tour, const QString &phrase)
+{
+    m_fautes += u"Tour %1 : %2"_qs.arg(tour).arg(phrase);
+}
+
+/// A round follows as long as the teams would fill the table of a knock-out with one more; the second chance adds one.
+void Bilan::verifieNombreDeTours()
+{
+    int attendus = 1;
+    for (int places = m_options.repeche ? 2 : 4; places <= m_options.equipes; places *= 2)
+        ++attendus;
+    if (int(m_tours.size()) != attendus)
+        faute(int(m_tours.size()), u"la journée devait compter %1 tours."_qs.arg(attendus));
+    if (int(m_clubs.size()) != m_options.equipes)
+        faute(0, u"%1 équipes inscrites au lieu de %2."_qs.arg(m_clubs.size()).arg(m_options.equipes));
+    for (const EquipeDuJour &equipe : m_plateau.equipes()) {
+        if (m_clubs[equipe.numero] != equipe.club)
+            faute(0, u"l'équipe %1 n'est pas sous son club."_qs.arg(equipe.numero));
+    }
+}
+
+void Bilan::verifieTour(int tour)
+{
+    m_comptes.emplace_back();
+    verifiePresences(tour);
+    verifieScores(tour);
+    if (tour > 1) {
+        verifieNiveaux(tour);
+        verifieExempts(tour);
+        verifieRepetitions(tour);
+    }
+    termineTour(tour);
+}
+
+/// The first draw may leave a team out, when the field is odd and the bye has been exchanged; from then on every team
+/// that was drawn plays each round.
+void Bilan::verifiePresences(int tour)
+{
+    std::set<int> vues;
+    for (const Rencontre &rencontre : m_tours[size_t(tour) - 1]) {
+        for (const int equipe : {rencontre.equipe1, rencontre.equipe2}) {
+            if (equipe == 0)
+                continue;
+            if (!vues.insert(equipe).second)
+                faute(tour, u"l'équipe %1 joue deux fois."_qs.arg(equipe));
+            if (!m_clubs.contains(equipe))
+                faute(tour, u"l'équipe %1 n'est pas inscrite."_qs.arg(equipe));
+            if (tour > 1 && !m_niveaux.contains(equipe))
+                faute(tour, u"l'équipe %1 apparaît en cours de route."_qs.arg(equipe));
+        }
+    }
+    if (tour > 1 && vues.size() != m_niveaux.size())
+        faute(tour, u"%1 équipes jouent sur %2."_qs.arg(vues.size()).arg(m_niveaux.size()));
+}
+
+void Bilan::verifieScores(int tour)
+{
+    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
+        if (r.equipe2 == 0)
+            continue;
+        if (!r.jouee)
+            faute(tour, u"le résultat %1 - %2 manque."_qs.arg(r.equipe1).arg(r.equipe2));
+        else if ((r.score1 == gagnant) == (r.score2 == gagnant))
+            faute(tour, u"le résultat %1 - %2 n'a pas un gagnant."_qs.arg(r.equipe1).arg(r.equipe2));
+    }
+}
+
+/// Pairs are of one level, but for the one team that each level may take from the next level that has any.
+void Bilan::verifieNiveaux(int tour)
+{
+    std::set<int> presents;
+    for (const auto &[equipe, niveau] : m_niveaux)
+        presents.insert(niveau);
+    std::set<int> recoivent;
+    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
+        if (r.equipe2 == 0)
+            continue;
+        const auto [bas, haut] = std::minmax(m_niveaux[r.equipe1], m_niveaux[r.equipe2]);
+        if (bas == haut)
+            continue;
+        if (!recoivent.insert(haut).second)
+            faute(tour, u"deux équipes sont remontées au niveau %1."_qs.arg(haut));
+        if (std::next(presents.find(bas)) != presents.find(haut))
+            faute(tour, u"la rencontre %1 - %2 saute un niveau."_qs.arg(r.equipe1).arg(r.equipe2));
+    }
+}
+
+void Bilan::verifieExempts(int tour)
+{
+    int plusBas = tour;
+    for (const auto &[equipe, niveau] : m_niveaux)
+        plusBas = std::min(plusBas, niveau);
+    int exempts = 0;
+    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
+        if (r.equipe2 != 0)
+            continue;
+        ++exempts;
+        if (m_niveaux[r.equipe1] != plusBas)
+            faute(tour, u"l'équipe %1, exempte, n'est pas du niveau le plus bas."_qs.arg(r.equipe1));
+    }
+    if (exempts != int(m_niveaux.size() % 2))
+        faute(tour, u"%1 exempts pour %2 équipes."_qs.arg(exempts).arg(m_niveaux.size()));
+}
+
+/// A repeat is told of, or could not be helped. The draw looks for another opponent in the rows that follow and then from
+/// the top of its table, as long as the level stays the same: only in the highest level has it seen every pair, and in the
+/// others a repeat may stand untold.
+void Bilan::verifieRepetitions(int tour)
+{
+    const Tour &rencontres = m_tours[size_t(tour) - 1];
+    int plusHaut = 0;
+    for (const auto &[equipe, niveau] : m_niveaux)
+        plusHaut = std::max(plusHaut, niveau);
+    for (const Rencontre &r : rencontres) {
+        if (r.equipe2 == 0 || !m_paires.contains(paire(r.equipe1, r.equipe2)))
+            continue;
+        ++m_comptes.back().repetitions;
+        if (m_avertis.contains(tour))
+            continue;
+        ++m_silencieuses;
+        if (niveauDe(r) == plusHaut && echangePossible(rencontres, r))
+            faute(tour, u"%1 - %2 se rencontrent encore, sans avertissement, alors qu'un échange était possible."_qs
+                            .arg(r.equipe1)
+                            .arg(r.equipe2));
+    }
+}
+
+/// Level of a pair: that of its better team.
+int Bilan::niveauDe(const Rencontre &rencontre) const
+{
+    const int premier = m_niveaux.at(rencontre.equipe1);
+    return rencontre.equipe2 == 0 ? premier : std::max(premier, m_niveaux.at(rencontre.equipe2));
+}
+
+/// Whether another pair of the same level could exchange a team with \p repetee so that neither would be a repeat.
+bool Bilan::echangePossible(const Tour &rencontres, const Rencontre &repetee) const
+{
+    const auto nouvelle = [this](int equipe1, int equipe2) { return !m_paires.contains(paire(equipe1, equipe2)); };
+    return std::ranges::any_of(rencontres, [&](const Rencontre &autre) {
+        if (autre.equipe1 == repetee.equipe1 || niveauDe(autre) != niveauDe(repetee))
+            return false;
+        return (nouvelle(repetee.equipe1, autre.equipe1) && nouvelle(repetee.equipe2, autre.equipe2))
+            || (nouvelle(repetee.equipe1, autre.equipe2) && nouvelle(repetee.equipe2, autre.equipe1));
+    });
+}
+
+bool Bilan::memeClub(const Rencontre &rencontre) const
+{
+    if (rencontre.equipe2 == 0)
+        return false;
+    const QString club = m_clubs.at(rencontre.equipe1);
+    return club.compare(m_clubs.at(rencontre.equipe2), Qt::CaseInsensitive) == 0 && club != u"*Panachée";
+}
+
+void Bilan::termineTour(int tour)
+{
+    Comptes &comptes = m_comptes.back();
+    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
+        m_paires.insert(paire(r.equipe1, r.equipe2));
+        comptes.exempts += r.equipe2 == 0;
+        comptes.rencontres += r.equipe2 != 0;
+        comptes.memeClub += memeClub(r);
+        m_niveaux[r.equipe1] += r.equipe2 == 0 || premiereGagne(r.score1);
+        if (r.equipe2 != 0)
+            m_niveaux[r.equipe2] += !premiereGagne(r.score1) && r.score2 == gagnant;
+    }
+}
+
+QStringList Bilan::lignes() const
+{
+    Comptes total;
+    QStringList parTour;
+    for (size_t i = 0; i < m_comptes.size(); ++i) {
+        const Comptes &c = m_comptes[i];
+        total.rencontres += c.rencontres;
+        total.exempts += c.exempts;
+        total.repetitions += c.repetitions;
+        total.memeClub += c.memeClub;
+        parTour += u"  tour %1 : %2 rencontres, exempts %3, répétées %4, même club %5"_qs.arg(i + 1)
+                       .arg(c.rencontres)
+                       .arg(c.exempts)
+                       .arg(c.repetitions)
+                       .arg(c.memeClub);
+    }
+    QStringList lignes{u"Équipes : %1 ; tours : %2 ; rencontres : %3"_qs.arg(m_clubs.size())
+                           .arg(m_tours.size())
+                           .arg(total.rencontres),
+                       u"Exempts : %1 ; rencontres répétées : %2, dont %3 sans avertissement ; tours avertis : %4"_qs
+                           .arg(total.exempts)
+                           .arg(total.repetitions)
+                           .arg(m_silencieuses)
+                           .arg(m_avertis.size()),
+                       u"Rencontres entre équipes d'un même club : %1"_qs.arg(total.memeClub)};
+    if (const size_t oubliees = m_clubs.size() - m_niveaux.size(); oubliees > 0)
+        lignes += u"Équipes que le premier tirage a laissées de côté : %1"_qs.arg(oubliees);
+    return lignes + parTour;
+}
+
+} // namespace demonstration

@@ -1,0 +1,102 @@
+#include "boites_pilotees.h"
+
+#include "incident.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace demonstration {
+
+namespace {
+
+constexpr int patienceMs = 10;
+
+QMessageBox::StandardButton boutonDe(ReponseBoite reponse)
+{
+    switch (reponse) {
+    case ReponseBoite::Oui:
+        return QMessageBox::Yes;
+    case ReponseBoite::Non:
+        return QMessageBox::No;
+    case ReponseBoite::Annuler:
+        return QMessageBox::Cancel;
+    case ReponseBoite::OK:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+} // namespace
+
+void BoitesPilotees::attend(Boite boite, const QString &extrait, ReponseBoite reponse, QStringView image)
+{
+    exige(!extrait.isEmpty(), u"Une boîte attendue n'a pas de texte."_qs);
+    m_consignes.push_back({boite, extrait, reponse, image.toString()});
+}
+
+const BoitesPilotees::Consigne *BoitesPilotees::consigne(const QString &texte) const
+{
+    const auto trouvee = std::ranges::find_if(m_consignes, [&](const Consigne &c) { return texte.contains(c.extrait); });
+    return trouvee == m_consignes.end() ? nullptr : &*trouvee;
+}
+
+void BoitesPilotees::retientFaute(const QString &phrase)
+{
+    if (m_faute.isEmpty())
+        m_faute = phrase;
+}
+
+ReponseBoite BoitesPilotees::MsgBox(const QString &texte, int drapeaux, const QString &titre)
+{
+    const Consigne *attendue = consigne(texte);
+    if (attendue != nullptr)
+        ++m_fois[attendue->boite];
+    else
+        retientFaute(u"Boîte inattendue : « %1 »."_qs.arg(texte));
+
+    // The box stops the program in its own event loop; the hand that answers comes from a timer in there.
+    QTimer main;
+    QObject::connect(&main, &QTimer::timeout, &main, [&] {
+        auto *boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (boite == nullptr || !boite->isVisible() || boite->text() != QString(texte).remove(u'\r'))
+            return;
+        main.stop();
+        repond(*boite, attendue);
+    });
+    main.start(patienceMs);
+    const ReponseBoite reponse = BoitesQt::MsgBox(texte, drapeaux, titre);
+    if (attendue != nullptr && reponse != attendue->reponse)
+        retientFaute(u"La boîte « %1 » n'a pas rendu la réponse donnée."_qs.arg(texte));
+    return reponse;
+}
+
+void BoitesPilotees::repond(QMessageBox &boite, const Consigne *consigne)
+{
+    QAbstractButton *bouton = consigne != nullptr ? boite.button(boutonDe(consigne->reponse)) : nullptr;
+    if (consigne != nullptr && bouton == nullptr)
+        retientFaute(u"La boîte « %1 » n'offre pas le bouton attendu."_qs.arg(boite.text()));
+    if (consigne != nullptr) {
+        try {
+            m_photographe.prend(consigne->image, boite);
+        } catch (const Incident &incident) {
+            retientFaute(incident.phrase());
+        }
+    }
+    if (bouton == nullptr)
+        bouton = boite.escapeButton() != nullptr ? boite.escapeButton() : boite.buttons().constFirst();
+    QTest::mouseClick(bouton, Qt::LeftButton);
+}
+
+std::optional<QString> BoitesPilotees::InputBox(const QString &texte, const QString &)
+{
+    compte();
+    retientFaute(u"Question inattendue : « %1 »."_qs.arg(texte));
+    return std::nullopt;
+}
+
+} // namespace demonstration

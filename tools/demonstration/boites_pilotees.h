@@ -1,0 +1,62 @@
+#pragma once
+
+#include "photographe.h"
+#include "platform/boites.h"
+
+#include <QHash>
+#include <QStringList>
+
+#include <vector>
+
+class QMessageBox;
+
+namespace demonstration {
+
+/// The boxes that the day may bring up.
+enum class Boite {
+    NumeroConcours,
+    ClubNouveau,
+    Panachees,
+    RencontreLancee,
+    Retardataire,
+    MemeClub,
+    DejaRencontrees,
+};
+
+/// The boxes of the desktop, answered by a click on the button that an organiser would take. A box that no instruction
+/// foresees is answered too, so that the program goes on, and kept as a fault.
+class BoitesPilotees : public BoitesQt
+{
+public:
+    explicit BoitesPilotees(Photographe &photographe) : m_photographe(photographe) {}
+
+    /// A box whose text holds \p extrait is a \p boite, and gets \p reponse; its first one is taken as picture \p image.
+    void attend(Boite boite, const QString &extrait, ReponseBoite reponse, QStringView image);
+    /// Times that such a box came up so far.
+    int fois(Boite boite) const { return m_fois.value(boite); }
+    /// What was unexpected since the start; empty when nothing was.
+    const QString &faute() const { return m_faute; }
+
+    ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
+    std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+
+private:
+    struct Consigne
+    {
+        Boite boite;
+        QString extrait;
+        ReponseBoite reponse;
+        QString image;
+    };
+
+    const Consigne *consigne(const QString &texte) const;
+    void repond(QMessageBox &boite, const Consigne *consigne);
+    void retientFaute(const QString &phrase);
+
+    Photographe &m_photographe;
+    std::vector<Consigne> m_consignes;
+    QHash<Boite, int> m_fois;
+    QString m_faute;
+};
+
+} // namespace demonstration

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/programme.h"
+#include "boites_pilotees.h"
+#include "hasard.h"
+#include "inscription.h"
+#include "operateur.h"
+#include "options.h"
+#include "photographe.h"
+#include "plateau.h"
+#include "resultats.h"
+
+#include <set>
+
+namespace demonstration {
+
+/// The day of the demonstration, always the same.
+class HorlogeDuJour final : public Horloge
+{
+public:
+    QDate jour() const override { return QDate(2026, 6, 14); }
+    QTime heure() const override { return QTime(9, 0); }
+};
+
+/// A whole day at the organiser's table, from the start of the program to the last result.
+class Journee
+{
+public:
+    /// \p options.dossier holds a fresh base and the pictures' place.
+    Journee(const Options &options, const Plateau &plateau, Hasard &hasard);
+
+    /// Plays the day. Throws Incident where it does not go as it should.
+    void joue();
+    /// Closes the program, and with it the base.
+    void termine() { m_programme.termine(); }
+
+    /// Rounds at whose draw the program warned of a repeat.
+    const std::set<int> &avertis() const { return m_avertis; }
+
+private:
+    void demarre();
+    void prevoitBoites();
+    void creeConcours();
+    void inscritEquipes();
+    void inscritRetardataire();
+    void joueTours();
+    void tireTour();
+
+    Options m_options;
+    const Plateau &m_plateau;
+    Photographe m_photographe;
+    BoitesPilotees m_boites;
+    AleaFixe m_alea;
+    HorlogeDuJour m_horloge;
+    Programme m_programme;
+    Operateur m_main;
+    Inscription m_inscription;
+    Resultats m_resultats;
+    std::set<int> m_avertis;
+};
+
+} // namespace demonstration

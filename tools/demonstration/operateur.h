@@ -1,0 +1,54 @@
+#pragma once
+
+#include "app/programme.h"
+#include "boites_pilotees.h"
+#include "incident.h"
+
+#include <QWidget>
+
+namespace demonstration {
+
+/// The hands at the table: types into whatever has the focus, clicks on what can be seen. After each gesture an
+/// unexpected box ends the day.
+class Operateur
+{
+public:
+    Operateur(Programme &programme, BoitesPilotees &boites) : m_programme(programme), m_boites(boites) {}
+
+    /// Control \p nom of the loaded form \p forme.
+    template<typename T = QWidget>
+    T *controle(const QString &forme, const QString &nom) const
+    {
+        T *trouve = fenetre(forme)->findChild<T *>(nom);
+        exige(trouve != nullptr, u"%1 n'a pas de contrôle %2."_qs.arg(forme, nom));
+        return trouve;
+    }
+    /// Window of the loaded form \p forme; the main window for "Torvik".
+    QWidget *fenetre(const QString &forme) const;
+    /// Text of the field, list, label or button \p nom.
+    QString texte(const QString &forme, const QString &nom) const;
+
+    void tape(const QString &texte);
+    void touche(Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier);
+    void entree() { touche(Qt::Key_Return); }
+    /// Types \p texte over what the field holds.
+    void remplace(const QString &texte);
+    void clique(QWidget *controle);
+    void doubleClique(QWidget *controle);
+
+    bool aLeFocus(const QString &forme, const QString &nom) const;
+    /// Ends the day unless the focus comes to that control.
+    void exigeFocus(const QString &forme, const QString &nom);
+    void exigeTexte(const QString &forme, const QString &nom, const QString &attendu) const;
+
+private:
+    QPoint place(const QWidget &controle) const;
+    QWidget *cible() const;
+    void ecarteSouris(const QWidget &fenetre, QPoint point) const;
+    void apres() const;
+
+    Programme &m_programme;
+    BoitesPilotees &m_boites;
+};
+
+} // namespace demonstration

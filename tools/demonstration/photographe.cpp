@@ -1,0 +1,109 @@
+#include "photographe.h"
+
+#include "incident.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QWidget>
+
+#include <algorithm>
+#include <iterator>
+
+namespace demonstration {
+
+namespace {
+
+// In the order of the day.
+constexpr QStringView catalogue[] = {
+    u"accueil",
+    u"concours-vierge",
+    u"concours-rempli",
+    u"concours-enregistre",
+    u"boite-numero-concours",
+    u"equipes-vierge",
+    u"equipes-licences",
+    u"boite-club-nouveau",
+    u"boite-panachees",
+    u"equipes-panachee",
+    u"equipes-main",
+    u"equipes-correction",
+    u"clubs",
+    u"bureau-equipes",
+    u"resultats-avant-depart",
+    u"resultats-tour-1",
+    u"equipes-retardataire",
+    u"boite-rencontre-lancee",
+    u"boite-retardataire",
+    u"resultats-rencontre-appelee",
+    u"resultats-gagnant-tape",
+    u"resultats-mot",
+    u"resultats-correction",
+    u"resultats-tour-complet",
+    u"boite-meme-club",
+    u"boite-deja-rencontrees",
+    u"bureau-resultats",
+    u"resultats-termine",
+};
+
+constexpr int hauteurTitre = 30;
+
+QString fichier(qsizetype place)
+{
+    return u"%1-%2.png"_qs.arg(place + 1, 2, 10, QChar(u'0')).arg(catalogue[place]);
+}
+
+/// The desktop frames its windows; a picture without one has to do it.
+void peintFenetre(QPainter &peintre, QWidget &fenetre, bool active)
+{
+    const QRect interieur = fenetre.geometry();
+    const QRect titre(interieur.left(), interieur.top() - hauteurTitre, interieur.width(), hauteurTitre);
+    peintre.fillRect(interieur.united(titre).adjusted(-1, -1, 1, 1), QColor(0x22, 0x38, 0x4A));
+    peintre.setPen(active ? QColor(Qt::white) : QColor(0xA8, 0xB4, 0xBE));
+    peintre.drawText(titre.adjusted(12, 0, -12, 0), Qt::AlignVCenter | Qt::AlignLeft, fenetre.windowTitle());
+    peintre.drawPixmap(interieur.topLeft(), fenetre.grab());
+}
+
+} // namespace
+
+QStringList Photographe::fichiers()
+{
+    QStringList noms;
+    for (qsizetype place = 0; place < qsizetype(std::size(catalogue)); ++place)
+        noms += fichier(place);
+    return noms;
+}
+
+void Photographe::garde(QStringView nom, const QImage &image)
+{
+    const auto trouve = std::ranges::find(catalogue, nom);
+    exige(trouve != std::end(catalogue), u"L'image « %1 » n'est pas au catalogue."_qs.arg(nom));
+    const QString chemin = QDir(m_dossier).filePath(fichier(trouve - std::begin(catalogue)));
+    exige(image.save(chemin), u"L'image %1 ne peut pas être écrite."_qs.arg(QDir::toNativeSeparators(chemin)));
+    m_prises += nom.toString();
+}
+
+void Photographe::prend(QStringView nom, QWidget &widget)
+{
+    if (!m_prises.contains(nom))
+        garde(nom, widget.window()->grab().toImage());
+}
+
+void Photographe::prendBureau(QStringView nom, QWidget &fond)
+{
+    if (m_prises.contains(nom))
+        return;
+    QImage bureau = fond.grab().toImage();
+    QPainter peintre(&bureau);
+    QWidgetList fenetres = QApplication::topLevelWidgets();
+    const QWidget *devant = QApplication::activeWindow();
+    std::ranges::stable_partition(fenetres, [devant](const QWidget *fenetre) { return fenetre != devant; });
+    for (QWidget *fenetre : std::as_const(fenetres)) {
+        if (fenetre->isVisible() && fenetre != &fond && fenetre->windowType() == Qt::Window)
+            peintFenetre(peintre, *fenetre, fenetre == devant);
+    }
+    peintre.end();
+    garde(nom, bureau);
+}
+
+} // namespace demonstration
