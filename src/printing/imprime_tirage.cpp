@@ -46,7 +46,7 @@ public:
 private:
     void entete();
     void titresColonnes();
-    void rencontre(const QString &numero1, const QString &club1, const QString &numero2, const QString &club2);
+    void rencontre(qint64 equipe1, qint64 equipe2);
     void cote(int x, const QString &numero, const QString &club, bool fin);
     QString clubDe(qint64 equipe);
     void ligne(const Recordset &rang, const QString &position);
@@ -127,11 +127,7 @@ void FeuilleTirage::tirage(int tour)
         Recordset scores =
             partage.BaseDonnees.OpenRecordset(u"select * from scores "_qs + duTour, store::dbOpenSnapshot);
         for (; !scores.Eof(); scores.MoveNext()) {
-            const qint64 equipe1 = scores[u"Equipe_1"].entier();
-            const qint64 equipe2 = scores[u"Equipe_2"].entierOu(0);
-            const QString numero2 = equipe2 == 0 ? QString() : aligneDroite(equipe2, largeurEquipe);
-            const QString club2 = equipe2 == 0 ? partage.mes(42) : clubDe(equipe2) + u' ';
-            rencontre(aligneDroite(equipe1, largeurEquipe), clubDe(equipe1) + u' ', numero2, club2);
+            PasseErreur([&] { rencontre(scores[u"Equipe_1"].entier(), scores[u"Equipe_2"].entierOu(0)); });
             m_cadre.saute(limite());
             m_papier.CurrentY += 400;
         }
@@ -139,12 +135,13 @@ void FeuilleTirage::tirage(int tour)
     m_cadre.termine();
 }
 
-void FeuilleTirage::rencontre(const QString &numero1, const QString &club1, const QString &numero2,
-                              const QString &club2)
+void FeuilleTirage::rencontre(qint64 equipe1, qint64 equipe2)
 {
-    cote(100, numero1, club1, false);
+    const bool exempt = equipe2 == 0;
+    cote(100, aligneDroite(equipe1, largeurEquipe), clubDe(equipe1) + u' ', false);
     m_papier.CurrentY -= 200;
-    cote(m_papier.Width() / 2, numero2, club2, true);
+    cote(m_papier.Width() / 2, exempt ? QString() : aligneDroite(equipe2, largeurEquipe),
+         exempt ? m_contexte.partage.mes(42) : clubDe(equipe2) + u' ', true);
     m_papier.CurrentY += 150;
     m_papier.Line(0, m_papier.CurrentY, m_papier.Width(), m_papier.CurrentY);
 }
@@ -186,11 +183,11 @@ void FeuilleTirage::classement(bool detail)
             montre = true;
             gaGarde = rangs[u"ga"].entier();
         }
-        ligne(rangs, montre ? aligneDroite(position, 4) : QString());
+        PasseErreur([&] { ligne(rangs, montre ? aligneDroite(position, 4) : QString()); });
         m_cadre.saute(limite());
         m_papier.CurrentY += detail ? 700 : 350;
         if (detail)
-            membres(rangs[u"Equipe"].entier());
+            PasseErreur([&] { membres(rangs[u"Equipe"].entier()); });
     }
     m_cadre.termine();
 }
