@@ -6,7 +6,11 @@
 #include "printing/i_tirage.h"
 #include "registration/eequipes.h"
 #include "registration/listesoc.h"
+#include "results/detail_resultats.h"
 #include "results/eresultats.h"
+#include "results/groupes.h"
+#include "results/manqres.h"
+#include "results/valresu.h"
 
 #include <QDir>
 
@@ -40,6 +44,10 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
+    m_formulaires.enregistre(u"valresu"_qs, fabrique<valresu>());
+    m_formulaires.enregistre(u"manqres"_qs, fabrique<manqres>());
+    m_formulaires.enregistre(u"Groupes"_qs, fabrique<Groupes>());
+    m_formulaires.enregistre(u"Détail_résultats"_qs, fabrique<DetailResultats>());
 }
 
 bool Programme::demarre()

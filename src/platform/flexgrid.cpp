@@ -4,6 +4,7 @@
 #include "store/collation.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -12,22 +13,33 @@ namespace {
 
 constexpr int LargeurInitiale = 960; // twips
 constexpr int MargeCellule = 14;     // pixels, both sides together
+constexpr int MargeTexte = 8;        // pixels around a cell's own text, gridline included
+constexpr int TraitChoix = 2;        // pixels
 
-/// A cell that has a colour of its own keeps it when its row is selected: the colour tells who won.
+/// A cell that has a colour of its own keeps it when its row is selected, within a frame: the colour tells who won.
 class DelegueFlex final : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::paint(peintre, option, index);
+        if (!option.state.testFlag(QStyle::State_Selected) || !index.data(Qt::BackgroundRole).isValid())
+            return;
+        const QColor choix = option.palette.color(QPalette::Highlight);
+        const QRect &cadre = option.rect;
+        peintre->fillRect(QRect(cadre.topLeft(), QSize(cadre.width(), TraitChoix)), choix);
+        peintre->fillRect(cadre.adjusted(0, cadre.height() - TraitChoix, 0, 0), choix);
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state &= ~QStyle::State_HasFocus;
-        if (option->backgroundBrush.style() != Qt::NoBrush && option->state.testFlag(QStyle::State_Selected)) {
+        if (option->backgroundBrush.style() != Qt::NoBrush)
             option->state &= ~QStyle::State_Selected;
-            option->font.setBold(true);
-        }
     }
 };
 
@@ -219,6 +231,25 @@ void FlexGrid::setCellBackColor(int ligne, int colonne, quint32 bgr)
 {
     if (existe(ligne, colonne))
         m_modele->fixeFond(ligne, colonne, bgr);
+}
+
+bool FlexGrid::CellFontBold(int ligne, int colonne) const
+{
+    return existe(ligne, colonne) && m_modele->gras(ligne, colonne);
+}
+
+void FlexGrid::setCellFontBold(int ligne, int colonne, bool gras)
+{
+    if (existe(ligne, colonne))
+        m_modele->fixeGras(ligne, colonne, gras);
+}
+
+int FlexGrid::LargeurTexte(const QString &texte, bool gras) const
+{
+    ensurePolished();
+    QFont police = font();
+    police.setBold(gras);
+    return enTwips(QFontMetrics(police).horizontalAdvance(texte) + MargeTexte);
 }
 
 void FlexGrid::setSort(int ordre)

@@ -86,6 +86,12 @@ public:
         return rouge | vert << 8 | bleu << 16;
     }
 
+    /// Whether a cell stands in bold; the selection stays.
+    bool CellFontBold(int ligne, int colonne) const;
+    void setCellFontBold(int ligne, int colonne, bool gras);
+    /// Width in twips of a column that shows \p texte whole.
+    int LargeurTexte(const QString &texte, bool gras = false) const;
+
     /// Sorts by the selected columns, from left to right, the selected rows, or all of them when only one is selected.
     /// \p ordre is one of Ordre; any other value sorts nothing.
     void setSort(int ordre);

@@ -3,6 +3,7 @@
 #include "store/valeur.h"
 
 #include <QBrush>
+#include <QFont>
 
 #include <algorithm>
 #include <cmath>
@@ -16,6 +17,14 @@ QColor encreSur(const QColor &fond)
     const double clarte = 0.2126 * lineaire(fond.redF()) + 0.7152 * lineaire(fond.greenF())
                           + 0.0722 * lineaire(fond.blueF());
     return clarte > 0.179 ? Qt::black : Qt::white;
+}
+
+/// Only the weight: the rest comes from the view's own font.
+QFont policeGrasse()
+{
+    QFont police;
+    police.setBold(true);
+    return police;
 }
 
 /// What one cell weighs in a sort, worked out once per row: reading a number out of a text is slow.
@@ -109,6 +118,15 @@ void FlexGridModele::fixeFond(int ligne, int colonne, quint32 fond)
         return;
     cellule.fond = fond;
     annonceCellule(ligne, colonne, Qt::BackgroundRole);
+}
+
+void FlexGridModele::fixeGras(int ligne, int colonne, bool gras)
+{
+    Cellule &cellule = m_lignes[size_t(ligne)][size_t(colonne)];
+    if (cellule.gras == gras)
+        return;
+    cellule.gras = gras;
+    annonceCellule(ligne, colonne, Qt::FontRole);
 }
 
 void FlexGridModele::annonceCellule(int ligne, int colonne, int role)
@@ -209,6 +227,8 @@ QVariant FlexGridModele::data(const QModelIndex &index, int role) const
         return cellule.fond == FondParDefaut ? QVariant() : QVariant(QBrush(couleurEcran(cellule.fond)));
     case Qt::ForegroundRole:
         return cellule.fond == FondParDefaut ? QVariant() : QVariant(QBrush(encreSur(couleurEcran(cellule.fond))));
+    case Qt::FontRole:
+        return cellule.gras ? QVariant(policeGrasse()) : QVariant();
     default:
         return {};
     }

@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-/// Cells of a FlexGrid: texts, back colours and column alignments. Rows are counted as the grid counts them, the
+/// Cells of a FlexGrid: texts, back colours, weight and column alignments. Rows are counted as the grid counts them, the
 /// header being row 0; the view sees the others as its rows, and row 0 as its header.
 ///
 /// A change of structure opens a model reset that stays open until publie(), so that filling thousands of rows costs
@@ -43,6 +43,8 @@ public:
     void fixeTexte(int ligne, int colonne, const QString &texte);
     quint32 fond(int ligne, int colonne) const { return m_lignes[size_t(ligne)][size_t(colonne)].fond; }
     void fixeFond(int ligne, int colonne, quint32 fond);
+    bool gras(int ligne, int colonne) const { return m_lignes[size_t(ligne)][size_t(colonne)].gras; }
+    void fixeGras(int ligne, int colonne, bool gras);
     /// Alignment of a column: '<', '^', '>', or a blank for texts to the left and numbers to the right.
     void fixeAlignement(int colonne, char16_t signe);
 
@@ -73,6 +75,7 @@ private:
     {
         QString texte;
         quint32 fond = FondParDefaut;
+        bool gras = false;
     };
     using Ligne = std::vector<Cellule>;
 

@@ -297,8 +297,9 @@ int Ecran::Height()
 
 void FenetreDessus(QWidget &forme, bool dessus)
 {
-    if (QWindow *fenetre = forme.windowHandle())
-        fenetre->setFlag(Qt::WindowStaysOnTopHint, dessus);
-    else
+    QWindow *fenetre = forme.windowHandle();
+    if (fenetre == nullptr)
         forme.setWindowFlag(Qt::WindowStaysOnTopHint, dessus);
+    else if (fenetre->flags().testFlag(Qt::WindowStaysOnTopHint) != dessus)
+        fenetre->setFlag(Qt::WindowStaysOnTopHint, dessus);
 }

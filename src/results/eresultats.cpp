@@ -48,6 +48,9 @@ void EResultats::relie()
     surDblClick(m_ui->Equipe2, [this] { Equipe2_DblClick(); });
     surClick(m_ui->imprimer, [this] { imprimer_Click(); });
     surClick(m_ui->hit, [this] { hit_Click(); });
+    // A click on these leaves the focus in the field that is being typed in.
+    for (QPushButton *vue : {m_ui->manquants, m_ui->VALIDATION})
+        vue->setFocusPolicy(Qt::TabFocus);
     surClick(m_ui->manquants, [this] { manquants_Click(); });
     surClick(m_ui->VALIDATION, [this] { VALIDATION_Click(); });
     surClick(m_ui->tirage_suivant, [this] { tirage_suivant_Click(); });
@@ -191,13 +194,23 @@ void EResultats::hit_Click()
 void EResultats::manquants_Click()
 {
     partage().AttendusAJour = false;
-    formulaires().Montre(u"manqres"_qs);
+    montreVue(u"manqres"_qs);
 }
 
 void EResultats::VALIDATION_Click()
 {
     partage().JouesAJour = false;
-    formulaires().Montre(u"valresu"_qs);
+    montreVue(u"valresu"_qs);
+}
+
+/// A view comes up beside the form and the operator types on: the keyboard stays here, in the field that has it.
+void EResultats::montreVue(const QString &nom)
+{
+    formulaires().MontreSansFocus(nom);
+    if (Formulaire *vue = formulaires().forme(nom))
+        vue->Form_Activate();
+    QWidget *champ = focusWidget();
+    SetFocus(qobject_cast<QLineEdit *>(champ) != nullptr ? champ : m_ui->Equipe1);
 }
 
 void EResultats::tirage_suivant_Click()

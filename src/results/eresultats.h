@@ -73,6 +73,7 @@ private:
     void termineSaisie(Cote cote, qint64 tour);
     void videRencontre();
     void refuseScoreSansRencontre(const QString &score);
+    void montreVue(const QString &nom);
     void rafraichitVues();
 
     void afficheEtat(Moment moment);

@@ -1,0 +1,139 @@
+#include "results/valresu.h"
+
+#include "platform/formulaires.h"
+#include "platform/twips.h"
+#include "results/affichage_joues.h"
+#include "results/grille_resultats.h"
+#include "ui_valresu.h"
+
+#include <QLineEdit>
+#include <QScopeGuard>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int gaucheGrille = 10; // pixels
+constexpr int largeurGrille = 155; // pixels, at least
+constexpr int margeEcran = 50; // twips
+constexpr int largeurLibre = 3200; // twips that the results form leaves on its right
+constexpr int margeSaisie = 180; // twips of the results form that may be covered: its empty margin
+constexpr int margeBas = 1100; // twips left for a title bar and the system's own bar
+
+} // namespace
+
+valresu::valresu(const Contexte &contexte, QWidget *parent)
+    : VueResultats(contexte, parent)
+    , m_ui(std::make_unique<Ui::valresu>())
+{
+    m_ui->setupUi(this);
+    prepareControles();
+    surPression(m_ui->les_resultats,
+                [this](int bouton, int ligne, int colonne) { les_resultats_MouseDown(bouton, ligne, colonne); });
+}
+
+valresu::~valresu() = default;
+
+FlexGrid &valresu::grille() const
+{
+    return *m_ui->les_resultats;
+}
+
+void valresu::LegendesValresu()
+{
+    FenetreDessus(*this, false);
+}
+
+void valresu::Form_Load()
+{
+    setFixedHeight(enPixels(Ecran::Height() - margeBas));
+    ajusteLargeur();
+}
+
+void valresu::Form_Activate()
+{
+    if (!partage().JouesAJour) {
+        AfficheJoues(partage(), formulaires());
+        partage().JouesAJour = true;
+    }
+    placeForme();
+}
+
+void valresu::Rafraichir()
+{
+    AfficheJoues(partage(), formulaires());
+    placeForme();
+}
+
+void valresu::ajusteLargeur()
+{
+    FlexGrid &grille = *m_ui->les_resultats;
+    int colonnes = 0;
+    for (int colonne = 0; colonne < grille.Cols(); ++colonne)
+        colonnes += enPixels(grille.ColWidth(colonne));
+    const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
+    const int largeur = std::max(largeurGrille, colonnes + cadre);
+    const int libre = enPixels(largeurLibre) - (frameGeometry().width() - width());
+    const int marge = std::clamp((libre - largeur) / 2, 0, gaucheGrille);
+    grille.setGeometry(marge, marge, largeur, height() - 2 * marge);
+    if (width() != largeur + 2 * marge) {
+        setFixedWidth(largeur + 2 * marge);
+        perdPlace();
+    }
+}
+
+/// To the right of the results form, which leaves room there; to its left when words have made the columns too wide.
+void valresu::placePres(const Formulaire &saisie)
+{
+    const int droite = std::min(saisie.Left() + saisie.Width(), Ecran::Width() - Width());
+    const bool tient = droite >= saisie.Left() + saisie.Width() - margeSaisie;
+    Move(tient ? droite : std::max(saisie.Left() - Width(), 0), margeEcran);
+}
+
+void valresu::les_resultats_MouseDown(int Button, int ligne, int colonne)
+{
+    if (Button == Bouton::Gauche && partage().ClicGrille && ligne >= 1)
+        recopie(ligne);
+    if (Button == Bouton::Droit)
+        trie(colonne);
+}
+
+/// Puts a match back into the entry form, ready for correction. A bye has nothing to correct.
+void valresu::recopie(int ligne)
+{
+    const FlexGrid &grille = *m_ui->les_resultats;
+    const QString equipe2 = grille.TextMatrix(ligne, 2);
+    const Formulaire *saisie = formulaires().forme(u"EResultats"_qs);
+    if (saisie == nullptr || equipe2 == mes(42) || equipe2 == u"attente")
+        return;
+    recopieEquipe(u"Equipe2"_qs, ligne, 2);
+    recopieEquipe(u"Equipe1"_qs, ligne, 1);
+    QLineEdit *score1 = saisie->champTexte(u"Score1"_qs);
+    score1->setText(grille.TextMatrix(ligne, 3));
+    saisie->champTexte(u"Score2"_qs)->setText(grille.TextMatrix(ligne, 4));
+    SetFocus(score1);
+    score1->selectAll();
+}
+
+/// The field bears the colour of the team's cell as long as it shows that team.
+void valresu::recopieEquipe(const QString &champ, int ligne, int colonne)
+{
+    const FlexGrid &grille = *m_ui->les_resultats;
+    QLineEdit *equipe = formulaires().forme(u"EResultats"_qs)->champTexte(champ);
+    equipe->setText(grille.TextMatrix(ligne, colonne));
+    equipe->setStyleSheet(u"background: %1; color: #101A22;"_qs.arg(
+        couleurEcran(grille.CellBackColor(ligne, colonne)).name()));
+    connect(equipe, &QLineEdit::textChanged, equipe, [equipe] { equipe->setStyleSheet({}); },
+            Qt::SingleShotConnection);
+}
+
+/// Sorts by the column under the mouse and those behind it. The round alone is no order: left of the first team's right
+/// edge, it is the first team that counts.
+void valresu::trie(int colonne)
+{
+    partage().ClicGrille = false;
+    const auto fin = qScopeGuard([this] { partage().ClicGrille = true; });
+    FlexGrid &grille = *m_ui->les_resultats;
+    grille.setCol(colonne < 0 ? grille.Cols() - 1 : std::max(colonne, 1));
+    grille.setColSel(grille.Cols() - 1);
+    grille.setSort(FlexGrid::GeneriqueCroissant);
+}

@@ -1,0 +1,378 @@
+#include "salle_resultats.h"
+
+#include "platform/flexgrid.h"
+#include "platform/formulaires.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabBar>
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+constexpr quint32 vert = 0x00FF00;
+constexpr quint32 rouge = 0x0000FF;
+constexpr quint32 blanc = 0xFFFFFF;
+
+const QString manqres = u"manqres"_qs;
+const QString valresu = u"valresu"_qs;
+const QString groupes = u"Groupes"_qs;
+
+class VuesResultats : public SalleResultats
+{
+protected:
+    void montre(const QString &bouton)
+    {
+        prog.clique(u"EResultats"_qs, bouton);
+        QApplication::processEvents();
+    }
+    FlexGrid *grille(const QString &forme, const QString &nom) { return prog.controle<FlexGrid>(forme, nom); }
+    FlexGrid *attendus() { return grille(manqres, u"les_resultats_0"_qs); }
+    FlexGrid *classement() { return grille(manqres, u"les_resultats_1"_qs); }
+    FlexGrid *joues() { return grille(valresu, u"les_resultats"_qs); }
+
+    static QString ligne(const FlexGrid &grille, int rang)
+    {
+        QStringList textes;
+        for (int colonne = 0; colonne < grille.Cols(); ++colonne)
+            textes += grille.TextMatrix(rang, colonne);
+        return textes.join(u' ').trimmed();
+    }
+    static int rangDe(const FlexGrid &grille, int equipe, int colonne = 1)
+    {
+        for (int rang = 1; rang < grille.Rows(); ++rang) {
+            if (grille.TextMatrix(rang, colonne) == QString::number(equipe))
+                return rang;
+        }
+        return -1;
+    }
+    static void presse(FlexGrid *grille, int rang, int colonne, Qt::MouseButton bouton = Qt::LeftButton)
+    {
+        // A click makes the window under it the active one, as window systems do.
+        grille->window()->activateWindow();
+        QApplication::processEvents();
+        const QPoint ou = grille->visualRect(grille->model()->index(rang - 1, colonne)).center();
+        QTest::mouseClick(grille->viewport(), bouton, {}, ou);
+        QApplication::processEvents();
+    }
+    QLineEdit *champ(const QString &nom) { return prog.controle<QLineEdit>(u"EResultats"_qs, nom); }
+    QStringList valeurs(const QString &sql)
+    {
+        QStringList lues;
+        store::Instruction lecture(prog.base().native(), sql);
+        while (lecture.avance())
+            lues += lecture.valeur(0).texte();
+        return lues;
+    }
+};
+
+TEST_F(VuesResultats, SansRencontreLesGrillesNOntQueLeurTitre)
+{
+    ouvre(4);
+    montre(u"manquants"_qs);
+    montre(u"VALIDATION"_qs);
+    EXPECT_EQ(attendus()->Rows(), 1);
+    EXPECT_EQ(classement()->Rows(), 1);
+    EXPECT_EQ(joues()->Rows(), 1);
+    EXPECT_EQ(joues()->TextMatrix(0, 1), u"Equ 1        "_qs);
+    EXPECT_EQ(joues()->ColWidth(1), 600);
+    EXPECT_EQ(joues()->ColWidth(2), 650);
+    EXPECT_FALSE(prog.formulaires().estVisible(groupes)); // no ranking, nothing to show
+}
+
+TEST_F(VuesResultats, AttendusSuiventChaqueResultatEtLeClavierResteALaSaisie)
+{
+    ouvre(5);
+    tire();
+    const std::vector<MatchEssai> tires = matchs();
+    prog.tape(QString::number(tires[0].equipe1));
+    montre(u"manquants"_qs);
+    montre(u"VALIDATION"_qs);
+    ASSERT_TRUE(prog.formulaires().estVisible(manqres));
+    EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
+
+    // The bye stands among the played ones from the draw on, never among the pending ones.
+    EXPECT_EQ(attendus()->Rows(), 3);
+    ASSERT_EQ(joues()->Rows(), 2);
+    EXPECT_EQ(joues()->TextMatrix(1, 2), prog.partage().mes(42));
+    EXPECT_EQ(joues()->TextMatrix(1, 3) + joues()->TextMatrix(1, 4), u"137"_qs);
+    EXPECT_EQ(joues()->CellBackColor(1, 1), vert);
+    EXPECT_GE(joues()->ColWidth(2), joues()->LargeurTexte(prog.partage().mes(42)));
+
+    // What had been typed before the click still stands, and typing goes on through both refreshes.
+    prog.tape(u"\n"_qs);
+    EXPECT_EQ(prog.focus(), u"Score1"_qs);
+    prog.tape(u"7\n"_qs);
+    QApplication::processEvents();
+    EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
+    EXPECT_EQ(QApplication::activeWindow(), controle(u"Equipe1"_qs)->window());
+    EXPECT_EQ(attendus()->Rows(), 2);
+    ASSERT_EQ(joues()->Rows(), 3);
+    const int rang = rangDe(*joues(), tires[0].equipe1);
+    ASSERT_GE(rang, 1);
+    EXPECT_EQ(ligne(*joues(), rang), u"1 %1 %2 7 13"_qs.arg(tires[0].equipe1).arg(tires[0].equipe2));
+    EXPECT_EQ(joues()->CellBackColor(rang, 1), rouge);
+    EXPECT_EQ(joues()->CellBackColor(rang, 2), vert);
+    EXPECT_FALSE(joues()->CellFontBold(rang, 1));
+    EXPECT_TRUE(joues()->CellFontBold(rang, 2));
+    EXPECT_EQ(classement()->Rows(), 6);
+}
+
+TEST_F(VuesResultats, MotsEtDoubleClics)
+{
+    ouvre(4);
+    tire();
+    montre(u"VALIDATION"_qs);
+    const std::vector<MatchEssai> tires = matchs();
+    prog.tape(u"%1\n%2\n"_qs.arg(tires[0].equipe1).arg(prog.partage().mes(43)));
+    prog.tape(u"%1\n"_qs.arg(tires[1].equipe1));
+    prog.doubleClique(u"EResultats"_qs, u"Equipe1"_qs);
+    QApplication::processEvents();
+    EXPECT_EQ(ligne(*joues(), rangDe(*joues(), tires[0].equipe1)),
+              u"1 %1 %2 %3 13"_qs.arg(tires[0].equipe1).arg(tires[0].equipe2).arg(prog.partage().mes(43)));
+    // Won by a double click: told by colour and weight, not by points.
+    const int rang = rangDe(*joues(), tires[1].equipe1);
+    EXPECT_EQ(ligne(*joues(), rang), u"1 %1 %2"_qs.arg(tires[1].equipe1).arg(tires[1].equipe2));
+    EXPECT_EQ(joues()->CellBackColor(rang, 1), vert);
+}
+
+TEST_F(VuesResultats, UnResultatCliqueRevientASaisirPuisSeCorrige)
+{
+    ouvre(5);
+    tire();
+    const std::vector<MatchEssai> tires = matchs();
+    prog.tape(u"%1\n7\n"_qs.arg(tires[1].equipe1));
+    montre(u"VALIDATION"_qs);
+    presse(joues(), rangDe(*joues(), tires[1].equipe1), 0, Qt::MiddleButton); // nothing but the two buttons acts
+    EXPECT_EQ(champs(), u"   "_qs);
+    presse(joues(), rangDe(*joues(), tires[1].equipe1), 0);
+    EXPECT_EQ(champs(), u"%1 %2 7 13"_qs.arg(tires[1].equipe1).arg(tires[1].equipe2));
+    EXPECT_EQ(prog.focus(), u"Score1"_qs);
+    EXPECT_TRUE(champ(u"Equipe2"_qs)->styleSheet().contains(u"#00ff00"_qs));
+    EXPECT_TRUE(champ(u"Equipe1"_qs)->styleSheet().contains(u"#ff0000"_qs));
+
+    prog.tape(u"11\n"_qs);
+    QApplication::processEvents();
+    EXPECT_EQ(matchs()[1].score1, 11);
+    EXPECT_EQ(ligne(*joues(), rangDe(*joues(), tires[1].equipe1)),
+              u"1 %1 %2 11 13"_qs.arg(tires[1].equipe1).arg(tires[1].equipe2));
+    EXPECT_EQ(champ(u"Equipe1"_qs)->styleSheet(), QString()); // white again with its text gone
+    EXPECT_EQ(champ(u"Equipe2"_qs)->styleSheet(), QString());
+
+    // A bye is not for correction, and neither is anything while a right press is being handled.
+    const int exempt = joues()->TextMatrix(1, 2) == prog.partage().mes(42) ? 1 : 2;
+    presse(joues(), exempt, 1);
+    prog.partage().ClicGrille = false;
+    presse(joues(), 3 - exempt, 1);
+    EXPECT_EQ(champs(), u"   "_qs);
+    prog.partage().ClicGrille = true;
+}
+
+TEST_F(VuesResultats, ClicDroitTrieSurLaColonne)
+{
+    ouvre(8);
+    tire();
+    joueTour();
+    montre(u"VALIDATION"_qs);
+    const auto colonne = [&](int numero) {
+        std::vector<int> nombres;
+        for (int rang = 1; rang < joues()->Rows(); ++rang)
+            nombres.push_back(joues()->TextMatrix(rang, numero).toInt());
+        return nombres;
+    };
+    ASSERT_EQ(colonne(1).size(), 4u);
+    presse(joues(), 2, 2, Qt::RightButton);
+    EXPECT_TRUE(std::ranges::is_sorted(colonne(2)));
+    EXPECT_EQ(joues()->Col(), 2);
+    EXPECT_EQ(joues()->ColSel(), 4);
+    EXPECT_EQ(joues()->CellBackColor(1, 1), vert); // colours go with their rows
+    presse(joues(), 2, 0, Qt::RightButton); // the round sorts by the first team
+    EXPECT_TRUE(std::ranges::is_sorted(colonne(1)));
+    EXPECT_TRUE(prog.partage().ClicGrille);
+    EXPECT_EQ(champs(), u"   "_qs);
+    EXPECT_EQ(QApplication::activeWindow(), controle(u"Equipe1"_qs)->window());
+    EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
+}
+
+TEST_F(VuesResultats, ClicDroitLanceUneRencontreEtElleSeule)
+{
+    ouvre(8);
+    tire();
+    montre(u"manquants"_qs);
+    const QString sql = u"select lancee from scores order by rowid"_qs;
+    const QStringList avant = valeurs(sql);
+    const std::vector<MatchEssai> tires = matchs();
+    const int rang = rangDe(*attendus(), tires[2].equipe1);
+    EXPECT_EQ(attendus()->CellBackColor(rang, 1), rouge);
+    EXPECT_TRUE(attendus()->CellFontBold(rang, 2));
+    presse(attendus(), rang, 0, Qt::RightButton);
+    EXPECT_EQ(attendus()->CellBackColor(rang, 1), blanc);
+    EXPECT_EQ(attendus()->CellBackColor(rang, 2), blanc);
+    EXPECT_FALSE(attendus()->CellFontBold(rang, 2));
+    QStringList apres = avant;
+    apres[2] = u"-1"_qs;
+    EXPECT_EQ(valeurs(sql), apres);
+
+    // Launched matches come first once the grid is filled anew.
+    prog.tape(u"%1\n7\n"_qs.arg(tires[0].equipe1));
+    QApplication::processEvents();
+    EXPECT_EQ(attendus()->TextMatrix(1, 1), QString::number(tires[2].equipe1));
+    presse(attendus(), 1, 2, Qt::RightButton);
+    EXPECT_EQ(attendus()->CellBackColor(1, 1), rouge);
+    EXPECT_EQ(valeurs(sql), avant);
+
+    prog.clique(manqres, u"classement"_qs);
+    presse(classement(), 1, 1, Qt::RightButton);
+    EXPECT_EQ(valeurs(sql), avant);
+}
+
+TEST_F(VuesResultats, LeBoutonBasculeEntreAttendusEtClassement)
+{
+    ouvre(4);
+    tire();
+    montre(u"manquants"_qs);
+    auto *bouton = prog.controle<QPushButton>(manqres, u"classement"_qs);
+    const QWidget *forme = prog.formulaires().forme(manqres);
+    const auto etat = [&] {
+        return QStringList{forme->windowTitle(), bouton->text(), bouton->property("bascule").toString(),
+                           attendus()->isVisible() ? u"0"_qs : QString(),
+                           classement()->isVisible() ? u"1"_qs : QString()}
+            .join(u'|');
+    };
+    EXPECT_EQ(etat(), u"Résultats attendus|Classement|rose|0|"_qs);
+    EXPECT_EQ(bouton->grab().toImage().pixelColor(8, 8), QColor(255, 128, 255));
+    prog.clique(manqres, u"classement"_qs);
+    EXPECT_EQ(etat(), u"Classement victoires G.a.|Attendus|vert||1"_qs);
+    EXPECT_EQ(classement()->pos(), attendus()->pos());
+    EXPECT_NE(bouton->grab().toImage().pixelColor(8, 8), QColor(255, 128, 255));
+    bouton->window()->activateWindow();
+    QApplication::processEvents();
+    prog.clique(manqres, u"classement"_qs);
+    QApplication::processEvents();
+    EXPECT_EQ(etat(), u"Résultats attendus|Classement|rose|0|"_qs);
+    EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
+}
+
+/// Wins and points of each team counted anew from the rows of the file.
+TEST_F(VuesResultats, ClassementEtGroupesDAccordAvecLeFichier)
+{
+    ouvre(21);
+    tire();
+    joueEtTire();
+    joueTour();
+    montre(u"manquants"_qs);
+    struct Compte
+    {
+        int gagnees = 0, perdues = 0, pp = 0, pc = 0;
+    };
+    std::map<int, Compte> comptes;
+    for (int tour : {1, 2}) {
+        for (const MatchEssai &match : matchs(tour)) {
+            Compte &un = comptes[match.equipe1];
+            Compte &deux = comptes[match.equipe2];
+            ++(*match.score1 == 13 ? un.gagnees : un.perdues);
+            ++(*match.score1 == 13 ? deux.perdues : deux.gagnees);
+            un.pp += *match.score1, un.pc += *match.score2;
+            deux.pp += *match.score2, deux.pc += *match.score1;
+        }
+    }
+    for (const QString &exempte : valeurs(u"select equipe_1 from scores where equipe_2 = 0"_qs)) {
+        Compte &compte = comptes[exempte.toInt()];
+        ++compte.gagnees, compte.pp += 13, compte.pc += 7;
+    }
+    ASSERT_EQ(comptes.size(), 21u);
+    ASSERT_EQ(classement()->Rows(), 22);
+    EXPECT_EQ(classement()->Cols(), 7);
+    auto *onglets = prog.controle<QTabBar>(groupes, u"TabStrip1"_qs);
+    ASSERT_EQ(onglets->count(), 3);
+    EXPECT_EQ(onglets->tabText(0), u"0 victoire"_qs);
+    EXPECT_EQ(onglets->tabText(2), u"2 victoires"_qs);
+    EXPECT_EQ(onglets->currentIndex(), 2);
+    for (const auto &[numero, compte] : comptes) {
+        const int ga = compte.pp - compte.pc;
+        const QString signe = ga > 0 ? u"+%1"_qs.arg(ga) : QString::number(ga);
+        int devant = 0;
+        for (const auto &[autre, c] : comptes)
+            devant += c.gagnees > compte.gagnees || (c.gagnees == compte.gagnees && c.pp - c.pc > ga);
+        const FlexGrid &general = *classement();
+        const int rang = rangDe(general, numero);
+        ASSERT_GE(rang, 1) << numero;
+        const QString attendu = u"%1 %2 %3 %4 %5 %6"_qs.arg(numero).arg(compte.gagnees).arg(compte.perdues)
+                                    .arg(compte.pp).arg(compte.pc).arg(signe);
+        EXPECT_EQ(ligne(general, rang).section(u' ', 1), attendu);
+        EXPECT_EQ(general.CellBackColor(rang, 6), ga > 0 ? vert : ga < 0 ? rouge : FlexGrid::FondFenetre);
+        if (general.TextMatrix(rang, 0) != u"-"_qs) {
+            EXPECT_EQ(general.TextMatrix(rang, 0).toInt(), devant + 1);
+        }
+
+        const FlexGrid &groupe = *grille(groupes, u"les_resultats_%1"_qs.arg(compte.gagnees + 1));
+        const int place = rangDe(groupe, numero);
+        ASSERT_GE(place, 1) << numero;
+        EXPECT_EQ(groupe.TextMatrix(place, 2).toInt(), compte.gagnees + compte.perdues);
+        EXPECT_EQ(groupe.TextMatrix(place, 7), signe);
+        if (!groupe.TextMatrix(place, 0).isEmpty()) {
+            EXPECT_EQ(groupe.TextMatrix(place, 0).toInt(), devant + 1);
+        }
+    }
+    EXPECT_EQ(classement()->TextMatrix(1, 0), u"1"_qs);
+}
+
+TEST_F(VuesResultats, UnOngletMontreSonGroupeEtUneCorrectionEnRetire)
+{
+    ouvre(4);
+    tire();
+    joueTour();
+    montre(u"manquants"_qs);
+    auto *onglets = prog.controle<QTabBar>(groupes, u"TabStrip1"_qs);
+    ASSERT_EQ(onglets->count(), 2);
+    FlexGrid *aucune = grille(groupes, u"les_resultats_1"_qs);
+    FlexGrid *une = grille(groupes, u"les_resultats_2"_qs);
+    EXPECT_TRUE(une->isVisible() && !aucune->isVisible());
+    EXPECT_FALSE(grille(groupes, u"les_resultats_0"_qs)->isVisible());
+    QTest::mouseClick(onglets, Qt::LeftButton, {}, onglets->tabRect(0).center());
+    EXPECT_TRUE(aucune->isVisible() && !une->isVisible());
+    EXPECT_EQ(aucune->Rows(), 3);
+
+    // Without a winner left, nobody stands under the second tab.
+    execute(u"update scores set score_1 = null, score_2 = null"_qs);
+    montre(u"manquants"_qs);
+    EXPECT_EQ(onglets->count(), 1);
+    EXPECT_TRUE(aucune->isVisible() && !une->isVisible());
+    EXPECT_EQ(ligne(*classement(), 1).section(u' ', 2), u"0 0 - - -"_qs);
+}
+
+TEST_F(VuesResultats, LesVuesPartentAvecLeTirageEtRienNeCouvreLaSaisie)
+{
+    if (QApplication::primaryScreen()->geometry().width() < 1366)
+        GTEST_SKIP() << "needs the screen of portable.json";
+    ouvre(8);
+    tire();
+    montre(u"manquants"_qs);
+    montre(u"VALIDATION"_qs);
+    const QWidget *saisie = prog.formulaires().forme(u"EResultats"_qs);
+    for (const QString &vue : {manqres, valresu, groupes}) {
+        const QWidget *fenetre = prog.formulaires().forme(vue);
+        ASSERT_NE(fenetre, nullptr);
+        EXPECT_TRUE(fenetre->isVisible());
+        for (const QString &nom : {u"Equipe1"_qs, u"Equipe2"_qs, u"Score1"_qs, u"Score2"_qs}) {
+            const QWidget *champ = controle(nom);
+            const QRect place(champ->mapToGlobal(QPoint()), champ->size());
+            EXPECT_FALSE(fenetre->frameGeometry().intersects(place)) << vue.toStdString();
+        }
+    }
+    const Formulaire *groupe = prog.formulaires().forme(groupes);
+    EXPECT_EQ(groupe->Left(), prog.formulaires().forme(u"EResultats"_qs)->Left() - groupe->Width());
+    EXPECT_EQ(groupe->pos().y(), 3);
+    EXPECT_EQ(saisie, QApplication::activeWindow());
+
+    joueTour();
+    EXPECT_TRUE(prog.formulaires().estVisible(manqres));
+    tire();
+    for (const QString &vue : {manqres, valresu, groupes})
+        EXPECT_FALSE(prog.formulaires().estVisible(vue)) << vue.toStdString();
+}
+
+} // namespace
