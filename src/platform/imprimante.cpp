@@ -85,8 +85,6 @@ void Imprimante::alaLigne()
 void Imprimante::Line(int x1, int y1, int x2, int y2)
 {
     m_pages.back().dessins.push_back({.genre = Dessin::Trait, .x1 = x1, .y1 = y1, .x2 = x2, .y2 = y2});
-    CurrentX = x2;
-    CurrentY = y2;
 }
 
 void Imprimante::NewPage()

@@ -78,6 +78,7 @@ public:
     /// Prints at the current place and moves it behind the text, or to the start of the next line with
     /// \p finDeLigne. A line break inside the text does the same.
     void Print(const QString &texte, bool finDeLigne = true);
+    /// Draws a straight line; the place of the next text stays.
     void Line(int x1, int y1, int x2, int y2);
     void NewPage();
     /// Ends the document and sends it. A printer that fails is passed over.

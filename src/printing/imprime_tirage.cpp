@@ -122,6 +122,7 @@ void FeuilleTirage::tirage(int tour)
     const QString duTour = u"where concours = %1 and tour = %2"_qs.arg(partage.ConcoursCourant).arg(tour);
     const qint64 nombre = ValeurUnique(partage, u"Select count(equipe_1) as nbe from scores "_qs + duTour).entier();
     if (nombre > 0) {
+        m_papier.CurrentX = 0;
         m_papier.Print(u"        "_qs + QString::number(nombre * 2) + u" Equipes"_qs);
         m_papier.CurrentY += 150;
         Recordset scores =
@@ -186,8 +187,10 @@ void FeuilleTirage::classement(bool detail)
         PasseErreur([&] { ligne(rangs, montre ? aligneDroite(position, 4) : QString()); });
         m_cadre.saute(limite());
         m_papier.CurrentY += detail ? 700 : 350;
-        if (detail)
-            PasseErreur([&] { membres(rangs[u"Equipe"].entier()); });
+        if (!detail)
+            continue;
+        m_cadre.saute(limite()); // the step down may have led into the footer
+        PasseErreur([&] { membres(rangs[u"Equipe"].entier()); });
     }
     m_cadre.termine();
 }
