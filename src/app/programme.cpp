@@ -3,6 +3,7 @@
 #include "app/accueil.h"
 #include "app/torvik.h"
 #include "competitions/econcours.h"
+#include "printing/i_tirage.h"
 #include "registration/eequipes.h"
 #include "registration/listesoc.h"
 #include "results/detail_resultats.h"
@@ -40,6 +41,7 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
+    m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
     m_formulaires.enregistre(u"valresu"_qs, fabrique<valresu>());

@@ -1,8 +1,12 @@
 #include "platform/boites.h"
 
+#include "platform/destinations.h"
+
 #include <QApplication>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 
 namespace {
 
@@ -28,6 +32,8 @@ QMessageBox::Icon image(int drapeaux)
 }
 
 } // namespace
+
+Boites::~Boites() = default;
 
 ReponseBoite BoitesQt::MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
@@ -66,4 +72,14 @@ std::optional<QString> BoitesQt::InputBox(const QString &texte, const QString &t
     const QString saisi = QInputDialog::getText(QApplication::activeWindow(), titreOuProgramme(titre), texte,
                                                 QLineEdit::Normal, QString(), &valide);
     return valide ? std::optional(saisi) : std::nullopt;
+}
+
+std::unique_ptr<Destination> BoitesQt::ShowPrinter()
+{
+    compte();
+    auto imprimante = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialogue(imprimante.get(), QApplication::activeWindow());
+    if (dialogue.exec() != QDialog::Accepted)
+        return nullptr;
+    return std::make_unique<DestinationImprimante>(std::move(imprimante));
 }

@@ -2,9 +2,10 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
-class QWidget;
+class Destination;
 
 /// Buttons and picture of a message box, added up.
 enum DrapeauBoite {
@@ -23,12 +24,14 @@ enum class ReponseBoite { OK = 1, Annuler = 2, Oui = 6, Non = 7 };
 class Boites
 {
 public:
-    virtual ~Boites() = default;
+    virtual ~Boites();
     /// Shows \p texte with the buttons and the picture of \p drapeaux, under the program's name when \p titre is empty.
     /// Closing the box counts as its most harmless button.
     virtual ReponseBoite MsgBox(const QString &texte, int drapeaux = vbOKOnly, const QString &titre = {}) = 0;
     /// Asks for a line of text; nothing when the operator cancels.
     virtual std::optional<QString> InputBox(const QString &texte, const QString &titre) = 0;
+    /// Lets the operator choose a printer; nothing when he cancels.
+    virtual std::unique_ptr<Destination> ShowPrinter() = 0;
 
     /// Boxes shown so far: whoever moves the focus can tell whether the operator was stopped meanwhile.
     int nombre() const { return m_nombre; }
@@ -46,4 +49,5 @@ class BoitesQt : public Boites
 public:
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::unique_ptr<Destination> ShowPrinter() override;
 };

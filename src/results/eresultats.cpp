@@ -49,7 +49,7 @@ void EResultats::relie()
     surClick(m_ui->imprimer, [this] { imprimer_Click(); });
     surClick(m_ui->hit, [this] { hit_Click(); });
     // A click on these leaves the focus in the field that is being typed in.
-    for (QPushButton *vue : {m_ui->manquants, m_ui->VALIDATION})
+    for (QPushButton *vue : {m_ui->manquants, m_ui->VALIDATION, m_ui->imprimer, m_ui->hit})
         vue->setFocusPolicy(Qt::TabFocus);
     surClick(m_ui->manquants, [this] { manquants_Click(); });
     surClick(m_ui->VALIDATION, [this] { VALIDATION_Click(); });
@@ -78,11 +78,11 @@ void EResultats::Form_Load()
         return;
     }
     m_ui->listconcours->clear();
-    if (partage().ConcoursCourant == 0) {
+    if (partage().ConcoursCourant == 0)
         partage().ConcoursCourant =
             qint32(ValeurUnique(partage(), u"SELECT max(concours)as maxc from [concours]"_qs).entier());
-        ChargeConcours(partage(), partage().ConcoursCourant);
-    }
+    // A competition just created is not in the texts of the sheets yet.
+    ChargeConcours(partage(), partage().ConcoursCourant);
     for (; !concours.Eof(); concours.MoveNext())
         m_ui->listconcours->addItem(ZeroPad(concours[u"concours"].entier(), largeurNumero));
     afficheConcours(partage().ConcoursCourant);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/boites.h"
+#include "platform/imprimante.h"
 
 #include <QStringList>
 
@@ -24,6 +25,7 @@ public:
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::unique_ptr<Destination> ShowPrinter() override { return nullptr; }
 
     int derniersDrapeaux = 0;
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "platform/boites.h"
+#include "platform/imprimante.h"
 
+#include <functional>
 #include <QStringList>
 
 #include <deque>
@@ -28,6 +30,10 @@ public:
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::unique_ptr<Destination> ShowPrinter() override { return imprimante ? imprimante() : nullptr; }
+
+    /// Makes the printer that the operator chooses; without it he cancels.
+    std::function<std::unique_ptr<Destination>()> imprimante;
 
 private:
     struct Attendue

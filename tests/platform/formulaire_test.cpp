@@ -1,4 +1,5 @@
 #include "platform/formulaires.h"
+#include "platform/imprimante.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -21,6 +22,7 @@ public:
         return ReponseBoite::OK;
     }
     std::optional<QString> InputBox(const QString &, const QString &) override { return {}; }
+    std::unique_ptr<Destination> ShowPrinter() override { return nullptr; }
 
     QStringList vues;
 };

@@ -1,6 +1,7 @@
 #include "boites_pilotees.h"
 
 #include "incident.h"
+#include "platform/destinations.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -98,6 +99,16 @@ std::optional<QString> BoitesPilotees::InputBox(const QString &texte, const QStr
     compte();
     retientFaute(u"Question inattendue : « %1 »."_qs.arg(texte));
     return std::nullopt;
+}
+
+std::unique_ptr<Destination> BoitesPilotees::ShowPrinter()
+{
+    compte();
+    if (m_document.isEmpty()) {
+        retientFaute(u"Impression inattendue."_qs);
+        return nullptr;
+    }
+    return std::make_unique<DestinationPdf>(std::exchange(m_document, QString()));
 }
 
 } // namespace demonstration

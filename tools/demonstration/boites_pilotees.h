@@ -34,11 +34,14 @@ public:
     void attend(Boite boite, const QString &extrait, ReponseBoite reponse, QStringView image);
     /// Times that such a box came up so far.
     int fois(Boite boite) const { return m_fois.value(boite); }
+    /// The next document goes to this PDF file; a printer asked for without it is a fault.
+    void imprimeDans(const QString &fichier) { m_document = fichier; }
     /// What was unexpected since the start; empty when nothing was.
     const QString &faute() const { return m_faute; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::unique_ptr<Destination> ShowPrinter() override;
 
 private:
     struct Consigne
@@ -55,6 +58,7 @@ private:
 
     Photographe &m_photographe;
     std::vector<Consigne> m_consignes;
+    QString m_document;
     QHash<Boite, int> m_fois;
     QString m_faute;
 };

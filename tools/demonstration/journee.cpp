@@ -22,6 +22,7 @@ Journee::Journee(const Options &options, const Plateau &plateau, Hasard &hasard)
     , m_programme(options.dossier, m_alea, m_horloge, m_boites)
     , m_main(m_programme, m_boites)
     , m_inscription(m_programme, m_main, m_boites, m_photographe)
+    , m_impressions(m_main, m_boites, m_photographe, options.dossier)
     , m_resultats(m_programme, m_main, plateau, hasard, m_photographe)
 {
 }
@@ -34,6 +35,8 @@ void Journee::joue()
     m_resultats.ouvre();
     m_photographe.prend(u"resultats-avant-depart", *m_main.fenetre(u"EResultats"_qs));
     joueTours();
+    m_impressions.classement(u"classement.pdf"_qs, false);
+    m_impressions.classement(u"classement-detail.pdf"_qs, true);
 }
 
 void Journee::demarre()
@@ -136,6 +139,8 @@ void Journee::joueTours()
         tireTour();
         if (m_resultats.tour() == 1 && m_plateau.avecRetardataire())
             inscritRetardataire();
+        if (m_resultats.tour() == 1)
+            m_impressions.tirage(u"tirage-tour1.pdf"_qs);
         const int rencontres = m_resultats.saisitTour();
         dit(u"Tour %1 : %2 résultats saisis en %3 s"_qs.arg(m_resultats.tour())
                 .arg(rencontres)

@@ -3,6 +3,7 @@
 #include "app/programme.h"
 #include "boites_pilotees.h"
 #include "hasard.h"
+#include "impressions.h"
 #include "inscription.h"
 #include "operateur.h"
 #include "options.h"
@@ -55,6 +56,7 @@ private:
     Programme m_programme;
     Operateur m_main;
     Inscription m_inscription;
+    Impressions m_impressions;
     Resultats m_resultats;
     std::set<int> m_avertis;
 };

@@ -35,6 +35,7 @@ constexpr QStringView catalogue[] = {
     u"equipes-retardataire",
     u"boite-rencontre-lancee",
     u"boite-retardataire",
+    u"impression-tirage",
     u"resultats-rencontre-appelee",
     u"resultats-gagnant-tape",
     u"resultats-mot",
@@ -44,6 +45,7 @@ constexpr QStringView catalogue[] = {
     u"boite-deja-rencontrees",
     u"bureau-resultats",
     u"resultats-termine",
+    u"impression-classement",
 };
 
 constexpr int hauteurTitre = 30;

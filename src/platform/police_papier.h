@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+
+/// A font as it stands on paper, measured in twips and without regard to any screen.
+class PolicePapier
+{
+public:
+    PolicePapier(const QString &famille, double points, bool gras, bool italique);
+
+    const QFont &police() const { return m_police; }
+    int largeur(const QString &texte) const;
+    int hauteur() const;
+    int montee() const;
+
+private:
+    QFont m_police;
+    QFontMetricsF m_mesures;
+};

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/formulaire.h"
+#include "platform/imprimante.h"
+
+#include <functional>
+#include <memory>
+
+/// What all sheets share: the printer dialog, the page head, the footer and the page counter of one document. Positions
+/// are in twips.
+class Cadre
+{
+public:
+    /// Height that the sheets leave free below the last block.
+    static constexpr int margePage = 2000;
+    static constexpr int piedHabituel = 1500;
+    static constexpr int piedTirage = 800;
+
+    /// Asks for the printer. Nothing when the operator cancels, who is told so.
+    static std::unique_ptr<Cadre> ouvre(const Contexte &contexte);
+
+    Imprimante &papier() { return m_papier; }
+    /// What stands at the head of every page, drawn when the document begins and behind every page break.
+    void setEntete(std::function<void()> entete) { m_entete = std::move(entete); }
+    /// Height of the footer above the lower edge.
+    void setPied(int hauteur) { m_pied = hauteur; }
+
+    /// Draws the head of the first page.
+    void commence() { m_entete(); }
+    /// Ends the page and begins the next one when the last block has passed \p limite.
+    void saute(int limite);
+    /// Draws the last footer and sends the document; the next sheet begins in portrait again.
+    void termine();
+
+    /// Prints the date, the place, and at \p colonne the team size and the category, with a blank line behind them.
+    void ecritConcours(int colonne);
+
+private:
+    Cadre(const Contexte &contexte, std::unique_ptr<Destination> destination);
+    void ecritPied();
+
+    const Partage &m_partage;
+    Imprimante m_papier;
+    std::function<void()> m_entete;
+    int m_pied = piedHabituel;
+    int m_page = 0;
+};
+
+/// Last \p largeur characters of \p texte with blanks before it.
+QString aligneDroite(const QString &texte, int largeur);
+QString aligneDroite(qint64 nombre, int largeur);

@@ -1,0 +1,155 @@
+#include "printing/i_tirage.h"
+
+#include "app/routines.h"
+#include "engine/routines_tirage.h"
+#include "platform/formulaires.h"
+#include "printing/imprime_tirage.h"
+#include "ui_i_tirage.h"
+
+namespace {
+
+constexpr int largeurNumero = 6;
+const QString tous = u"*"_qs;
+
+int valeur(const QString &texte)
+{
+    constexpr double borne = 100000;
+    return int(std::clamp(store::Val(texte), -borne, borne));
+}
+
+} // namespace
+
+I_tirage::I_tirage(const Contexte &contexte, QWidget *parent)
+    : Formulaire(contexte, parent)
+    , m_ui(std::make_unique<Ui::I_tirage>())
+{
+    m_ui->setupUi(this);
+    prepareControles();
+    surClick(m_ui->Option1, [this] { Option1_Click(); });
+    surClick(m_ui->Option3, [this] { Option3_Click(); });
+    surClick(m_ui->Imprime, [this] { Imprime_Click(); });
+    surClick(m_ui->sortie, [this] { sortie_Click(); });
+    surMouseDown(m_ui->Label3, [this](int, int) { Label3_Click(); });
+    surMouseDown(m_ui->Label2, [this](int, int) { m_ui->D_tail->toggle(); });
+}
+
+I_tirage::~I_tirage() = default;
+
+void I_tirage::Form_Load()
+{
+    FenetreDessus(*this, false);
+}
+
+void I_tirage::Form_Activate()
+{
+    effaceChoix();
+    m_ui->Tour->setText(QString::number(partage().TourCourant));
+}
+
+/// The results screen that opened the dialog takes the keyboard back.
+void I_tirage::Form_Unload()
+{
+    const Formulaire *resultats = formulaires().forme(u"EResultats"_qs);
+    if (resultats != nullptr && resultats->isVisible())
+        formulaires().Montre(u"EResultats"_qs);
+}
+
+/// No sheet is chosen: the operator must pick one first.
+void I_tirage::effaceChoix()
+{
+    m_ui->Option1->setChecked(false);
+    m_ui->Option3->setChecked(false);
+    QWidget *const controles[] = {m_ui->Imprime, m_ui->D_tail, m_ui->Label2, m_ui->Tour, m_ui->Label1, m_ui->Label3};
+    for (QWidget *controle : controles)
+        controle->hide();
+}
+
+void I_tirage::Option1_Click()
+{
+    effaceChoix();
+    if (partage().TourCourant < 1)
+        return;
+    m_ui->Option1->setChecked(true);
+    QWidget *const controles[] = {m_ui->Imprime, m_ui->Tour, m_ui->D_tail, m_ui->Label2, m_ui->Label1, m_ui->Label3};
+    for (QWidget *controle : controles)
+        controle->show();
+}
+
+void I_tirage::Option3_Click()
+{
+    effaceChoix();
+    if (partage().TourCourant < 1)
+        return;
+    m_ui->Option3->setChecked(true);
+    QWidget *const controles[] = {m_ui->Imprime, m_ui->D_tail, m_ui->Label2, m_ui->Label3};
+    for (QWidget *controle : controles)
+        controle->show();
+}
+
+void I_tirage::Imprime_Click()
+{
+    if (m_ui->Option1->isChecked())
+        imprimeTirages();
+    else if (m_ui->Option3->isChecked())
+        imprimeClassement();
+}
+
+/// Rounds that `Tour` asks for: one, two with a hyphen between them, a star for all or, behind the hyphen, for the last.
+std::optional<I_tirage::Intervalle> I_tirage::toursDemandes() const
+{
+    const QString dernierTire = QString::number(partage().TourCourant);
+    const QString texte = m_ui->Tour->text();
+    const qsizetype tiret = texte.indexOf(u'-');
+    QString premier = texte.left(tiret);
+    QString dernier = tiret < 0 ? premier : texte.mid(tiret + 1);
+    if (premier == tous) {
+        premier = u"1"_qs;
+        dernier = dernierTire;
+    }
+    if (dernier == tous || valeur(dernier) > partage().TourCourant)
+        dernier = dernierTire;
+    const Intervalle tours{valeur(premier), valeur(dernier)};
+    if (tours.premier == 0 || tours.premier > partage().TourCourant || tours.premier > tours.dernier)
+        return std::nullopt;
+    return tours;
+}
+
+void I_tirage::imprimeTirages()
+{
+    const std::optional<Intervalle> tours = toursDemandes();
+    if (!tours) {
+        m_ui->Tour->clear();
+        return;
+    }
+    for (int tour = tours->premier; tour <= tours->dernier; ++tour)
+        ImprimeTirage(contexte(), ModeTirage::Tirage, m_ui->D_tail->isChecked(), tour, QString());
+}
+
+void I_tirage::imprimeClassement()
+{
+    CalculClassement(partage(), ZeroPad(partage().ConcoursCourant, largeurNumero));
+    ImprimeTirage(contexte(), ModeTirage::Classement, m_ui->D_tail->isChecked(), partage().TourCourant,
+                  etatDuConcours());
+}
+
+/// What the results screen says of the state of the competition.
+QString I_tirage::etatDuConcours() const
+{
+    const Formulaire *resultats = formulaires().forme(u"EResultats"_qs);
+    if (resultats == nullptr)
+        return {};
+    QStringList textes;
+    for (const QString &nom : {u"Label2"_qs, u"tour_P1"_qs})
+        textes += resultats->findChild<QLabel *>(nom)->text();
+    return textes.join(u' ');
+}
+
+void I_tirage::Label3_Click()
+{
+    formulaires().Decharge(Name());
+}
+
+void I_tirage::sortie_Click()
+{
+    formulaires().Decharge(Name());
+}

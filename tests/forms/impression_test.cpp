@@ -1,0 +1,187 @@
+#include "commun/programme_essai.h"
+
+#include "platform/destinations.h"
+
+#include <QFile>
+#include <QLineEdit>
+
+namespace {
+
+const QString D = u"I_tirage"_qs;
+using Pages = std::vector<PageDessinee>;
+
+/// A printer that keeps what it is sent.
+class DestinationGardee final : public Destination
+{
+public:
+    explicit DestinationGardee(std::vector<Pages> &documents) : m_documents(documents) {}
+    QSize papier() const override { return papierA4; }
+    QMargins marges() const override { return margesHabituelles; }
+    bool recoit(const Pages &pages, int) override
+    {
+        m_documents.push_back(pages);
+        return true;
+    }
+
+private:
+    std::vector<Pages> &m_documents;
+};
+
+QString texteDe(const PageDessinee &page)
+{
+    QStringList textes;
+    for (const Dessin &dessin : page.dessins)
+        textes += dessin.texte.trimmed();
+    textes.removeAll(QString());
+    return textes.join(u'|');
+}
+
+const Dessin *trouve(const PageDessinee &page, const QString &texte)
+{
+    for (const Dessin &dessin : page.dessins) {
+        if (dessin.genre == Dessin::Texte && dessin.texte.trimmed() == texte)
+            return &dessin;
+    }
+    return nullptr;
+}
+
+/// A doublette competition of \p n teams whose rounds are rows of the test.
+class Impression : public ProgrammeEssai
+{
+protected:
+    void prepare(int equipes, int tours)
+    {
+        creeConcours({});
+        for (int equipe = 1; equipe <= equipes; ++equipe) {
+            for (int doublon = 0; doublon < 2; ++doublon)
+                execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) values "
+                        "(1, %1, %2, 'NOM%1', 'P%2', 'L%1%2', 'Club %1')"_qs.arg(equipe).arg(doublon));
+        }
+        for (int tour = 1; tour <= tours; ++tour) {
+            for (int equipe = 1; equipe <= equipes; equipe += 2) {
+                const bool exempt = equipe == equipes;
+                execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) values "
+                        "(1, 1, %1, %2, %3, 13, %4)"_qs.arg(tour).arg(equipe).arg(exempt ? 0 : equipe + 1).arg(equipe % 13));
+            }
+        }
+        execute(u"update concours set tourpri = %1"_qs.arg(tours));
+        boites().imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);
+        clic(u"EResultats"_qs, u"imprimer"_qs);
+    }
+
+    std::vector<Pages> documents;
+};
+
+TEST_F(Impression, TheDialogOffersOnlyWhatCanBePrinted)
+{
+    prepare(4, 0);
+    clic(D, u"Option1"_qs);
+    EXPECT_FALSE(visible(D, u"Imprime"_qs));
+    execute(u"update concours set tourpri = 1"_qs);
+    partage().TourCourant = 1;
+    clic(D, u"Option1"_qs);
+    EXPECT_TRUE(visible(D, u"Imprime"_qs) && visible(D, u"Tour"_qs));
+    clic(D, u"Option3"_qs);
+    EXPECT_TRUE(visible(D, u"Imprime"_qs));
+    EXPECT_FALSE(visible(D, u"Tour"_qs));
+    clic(D, u"sortie"_qs);
+    EXPECT_EQ(forme(D), nullptr);
+}
+
+TEST_F(Impression, EachRoundAskedForIsADocumentOfItsOwn)
+{
+    prepare(5, 3);
+    clic(D, u"Option1"_qs);
+    const std::pair<QString, QString> cas[] = {
+        {u"2"_qs, u"2"_qs},       {u"1-2"_qs, u"1 2"_qs}, {u"*"_qs, u"1 2 3"_qs}, {u"2-*"_qs, u"2 3"_qs},
+        {u"2-9"_qs, u"2 3"_qs},   {u"9"_qs, u""_qs},      {u"0"_qs, u""_qs},      {u"abc"_qs, u""_qs},
+        {u"3-1"_qs, u""_qs},      {u"1x-2y"_qs, u"1 2"_qs},
+    };
+    for (const auto &[saisie, attendus] : cas) {
+        documents.clear();
+        champ(D, u"Tour"_qs)->setText(saisie);
+        clic(D, u"Imprime"_qs);
+        QStringList tours;
+        for (const Pages &document : documents) {
+            for (int tour = 1; tour <= 3; ++tour) {
+                if (trouve(document.front(), u"Tour N° %1"_qs.arg(tour)))
+                    tours += QString::number(tour);
+            }
+        }
+        EXPECT_EQ(tours.join(u' '), attendus) << saisie.toStdString();
+        EXPECT_EQ(champ(D, u"Tour"_qs)->text(), attendus.isEmpty() ? QString() : saisie);
+    }
+}
+
+TEST_F(Impression, ADrawSheetHoldsEveryMatchAboveItsFooter)
+{
+    prepare(37, 1);
+    clic(D, u"Option1"_qs);
+    clic(D, u"Imprime"_qs);
+    ASSERT_EQ(documents.size(), 1u);
+    const Pages &pages = documents.front();
+    ASSERT_EQ(pages.size(), 2u);
+    EXPECT_TRUE(texteDe(pages[0]).startsWith(
+        u"03/05/2026|Draguignan|Doublettes|Seniors|Tour N° 1|Terrain|38 Equipes|1|(Club 1)|2|(Club 2)|3|"_qs))
+        << texteDe(pages[0]).toStdString();
+    EXPECT_TRUE(texteDe(pages[1]).contains(u"37|(Club 37)|Exempt|"_qs));
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+        const Dessin *pied = trouve(pages[page], u"Page %1"_qs.arg(page + 1));
+        ASSERT_NE(pied, nullptr);
+        EXPECT_EQ(pied->y1, 16838 - 480 - 800);
+        for (const Dessin &dessin : pages[page].dessins) {
+            if (dessin.genre != Dessin::Texte)
+                continue;
+            EXPECT_LE(dessin.y2, pied->y2) << dessin.texte.toStdString();
+            EXPECT_TRUE(dessin.x1 >= 0 && dessin.x2 <= 11906 - 240) << dessin.texte.toStdString();
+        }
+    }
+    const Dessin *numero = trouve(pages[0], u"1"_qs);
+    EXPECT_TRUE(numero->gras && numero->taille == 33 && numero->x1 == 100);
+    EXPECT_EQ(trouve(pages[0], u"2"_qs)->x1, 11906 / 2);
+}
+
+TEST_F(Impression, TheRankingLeavesThePlaceOfATieEmpty)
+{
+    prepare(4, 1);
+    execute(u"update scores set score_2 = 3"_qs);
+    clic(D, u"Option3"_qs);
+    clic(D, u"Label2"_qs);
+    clic(D, u"Imprime"_qs);
+    ASSERT_EQ(documents.size(), 1u);
+    const QString texte = texteDe(documents.front().front());
+    EXPECT_TRUE(texte.contains(u"Clt|Equipe|J|G|P|Pp|Pc|Ga|1|-|1|(Club 1)|1|1|0|13|3|10|NOM1 P0 (L10)|NOM1 P1 (L11)|-|3|"
+                               "(Club 3)|1|1|0|13|3|10|"_qs))
+        << texte.toStdString();
+    EXPECT_TRUE(texte.contains(u"|3|-|2|(Club 2)|1|0|1|3|13|-10|"_qs)) << texte.toStdString();
+}
+
+TEST_F(Impression, CancellingIsToldAndPrintsNothing)
+{
+    prepare(4, 2);
+    boites().imprimante = nullptr;
+    clic(D, u"Option1"_qs);
+    champ(D, u"Tour"_qs)->setText(u"*"_qs);
+    boites().attend(u"Impression annulée"_qs);
+    boites().attend(u"Impression annulée"_qs);
+    clic(D, u"Imprime"_qs);
+    EXPECT_TRUE(documents.empty());
+}
+
+TEST_F(Impression, APdfHoldsThePagesWithTheirFonts)
+{
+    prepare(37, 1);
+    const QString fichier = dossier() + u"/tirage.pdf"_qs;
+    boites().imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
+    clic(D, u"Option1"_qs);
+    clic(D, u"Imprime"_qs);
+    QFile pdf(fichier);
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    const QByteArray octets = pdf.readAll();
+    EXPECT_TRUE(octets.startsWith("%PDF-"));
+    EXPECT_EQ(octets.count("/Type /Page\n"), 2);
+    EXPECT_TRUE(octets.contains("/FontFile2"));
+}
+
+} // namespace
