@@ -157,9 +157,9 @@ void Bilan::verifieExempts(int tour)
         faute(tour, u"%1 exempts pour %2 équipes."_qs.arg(exempts).arg(m_niveaux.size()));
 }
 
-/// A repeat is told of, or could not be helped. The draw looks for another opponent in the rows that follow and then from
-/// the top of its table, as long as the level stays the same: only in the highest level has it seen every pair, and in the
-/// others a repeat may stand untold.
+/// A repeat is told of, or could not be helped. The draw looks for another opponent in the rows that follow and then
+/// from the top of its table, as long as the level stays the same: only in the highest level has it seen every pair,
+/// and in the others a repeat may stand untold.
 void Bilan::verifieRepetitions(int tour)
 {
     const Tour &rencontres = m_tours[size_t(tour) - 1];

@@ -42,7 +42,8 @@ void BoitesPilotees::attend(Boite boite, const QString &extrait, ReponseBoite re
 
 const BoitesPilotees::Consigne *BoitesPilotees::consigne(const QString &texte) const
 {
-    const auto trouvee = std::ranges::find_if(m_consignes, [&](const Consigne &c) { return texte.contains(c.extrait); });
+    const auto trouvee =
+        std::ranges::find_if(m_consignes, [&](const Consigne &c) { return texte.contains(c.extrait); });
     return trouvee == m_consignes.end() ? nullptr : &*trouvee;
 }
 

@@ -30,7 +30,8 @@ class BoitesPilotees : public BoitesQt
 public:
     explicit BoitesPilotees(Photographe &photographe) : m_photographe(photographe) {}
 
-    /// A box whose text holds \p extrait is a \p boite, and gets \p reponse; its first one is taken as picture \p image.
+    /// A box whose text holds \p extrait is a \p boite, and gets \p reponse; the first one is taken as picture
+    /// \p image.
     void attend(Boite boite, const QString &extrait, ReponseBoite reponse, QStringView image);
     /// Times that such a box came up so far.
     int fois(Boite boite) const { return m_fois.value(boite); }

@@ -115,7 +115,8 @@ QPoint Operateur::place(const QWidget &controle) const
 }
 
 /// A hand that has clicked moves out of the window: nothing stays lit under it. The desktop would tell the window; the
-/// moves before bring its idea of the control under the mouse up to date, which a click that opens a form leaves behind.
+/// moves before bring its idea of the control under the mouse up to date, which a click that opens a form leaves
+/// behind.
 void Operateur::ecarteSouris(const QWidget &fenetre, QPoint point) const
 {
     QTest::mouseMove(fenetre.windowHandle(), QPoint(3, fenetre.height() - 3));

@@ -24,8 +24,9 @@ const std::vector<QString> prenoms{
     u"Marcel"_qs,  u"Marie-Jo"_qs, u"Maurice"_qs, u"Michèle"_qs, u"Nathalie"_qs, u"Noël"_qs,     u"Patrick"_qs,
     u"Paul"_qs,    u"Raymond"_qs, u"René"_qs,    u"Roger"_qs,    u"Simone"_qs,  u"Sylvain"_qs,   u"Thérèse"_qs,
     u"Yves"_qs};
-const std::vector<QString> enseignes{u"Boule Ferrée"_qs,  u"Boule d'Or"_qs,   u"Amicale Bouliste"_qs, u"Joyeux Pointeurs"_qs,
-                                     u"Pétanque Club"_qs, u"Les Platanes"_qs, u"Carreau"_qs,          u"Cochonnet"_qs};
+const std::vector<QString> enseignes{
+    u"Boule Ferrée"_qs,  u"Boule d'Or"_qs,   u"Amicale Bouliste"_qs, u"Joyeux Pointeurs"_qs,
+    u"Pétanque Club"_qs, u"Les Platanes"_qs, u"Carreau"_qs,          u"Cochonnet"_qs};
 const std::vector<QString> villages{
     u"Aiglun"_qs,  u"Aubagne"_qs, u"Banon"_qs,   u"Bédoin"_qs,  u"Cabriès"_qs, u"Carcès"_qs,  u"Cotignac"_qs,
     u"Draguignan"_qs, u"Éguilles"_qs, u"Flassans"_qs, u"Fuveau"_qs, u"Gardanne"_qs, u"Gordes"_qs, u"Istres"_qs,

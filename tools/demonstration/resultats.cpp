@@ -165,7 +165,8 @@ void Resultats::doubleClique(const Rencontre &rencontre, bool premierGagne)
 {
     appelle(rencontre);
     m_main.doubleClique(m_main.controle(forme, premierGagne ? u"Equipe1"_qs : u"Equipe2"_qs));
-    verifie(rencontre, premierGagne ? Score{gagnant, perdantSansPoints, false} : Score{perdantSansPoints, gagnant, false});
+    verifie(rencontre, premierGagne ? Score{gagnant, perdantSansPoints, false}
+                                    : Score{perdantSansPoints, gagnant, false});
 }
 
 /// Calls a match up again and gives it another score.
