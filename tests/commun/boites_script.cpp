@@ -2,14 +2,35 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+
+namespace {
+
+/// Shows a box for a moment. Without a desktop nobody but the test hands the front back to the window behind it.
+void montreUnInstant(const QString &texte, const QString &titre)
+{
+    const QPointer<QWidget> fenetre = QApplication::activeWindow();
+    QMessageBox boite(QMessageBox::NoIcon, titre, texte, QMessageBox::Ok, fenetre);
+    QTimer::singleShot(0, &boite, &QDialog::accept);
+    boite.exec();
+    if (fenetre != nullptr)
+        fenetre->activateWindow();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
 BoitesScript::~BoitesScript()
 {
     verifie();
 }
 
-void BoitesScript::attend(const QString &partie, ReponseBoite reponse)
+void BoitesScript::attend(const QString &partie, ReponseBoite reponse, const QString &titre)
 {
-    m_attendues.push_back({.partie = partie, .reponse = reponse});
+    m_attendues.push_back({.partie = partie, .reponse = reponse, .titre = titre});
 }
 
 void BoitesScript::attendSaisie(const QString &partie, const std::optional<QString> &saisie)
@@ -36,6 +57,7 @@ std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &text
     const Attendue attendue = m_attendues.front();
     m_attendues.pop_front();
     EXPECT_EQ(attendue.saisie, saisie) << texte.toStdString();
+    EXPECT_TRUE(attendue.titre.isEmpty() || titre == attendue.titre) << titre.toStdString();
     EXPECT_TRUE(texte.contains(attendue.partie))
         << "expected: " << attendue.partie.toStdString() << "\nshown: " << texte.toStdString();
     return attendue;
@@ -43,6 +65,12 @@ std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &text
 
 ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
+    m_drapeaux = drapeaux;
+    if (m_muette) {
+        compte();
+        return ReponseBoite::OK;
+    }
+    montreUnInstant(texte, titre);
     const int boutons = drapeaux & 0x7;
     const bool question = boutons == vbYesNo || boutons == vbYesNoCancel;
     const std::optional<Attendue> attendue = suivante(texte, titre, false);

@@ -3,13 +3,14 @@
 #include "platform/boites.h"
 #include "platform/imprimante.h"
 
-#include <functional>
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 
 /// Boxes that answer by themselves: each one shown must be the next that was expected. An unexpected box fails the
-/// test, and so does one that was expected and never came.
+/// test, and so does one that was expected and never came. What is shown are real boxes, answered at once, so that the
+/// focus comes and goes as it does for an operator.
 class BoitesScript final : public Boites
 {
 public:
@@ -17,16 +18,20 @@ public:
     ~BoitesScript() override;
     Q_DISABLE_COPY_MOVE(BoitesScript)
 
-    /// The next box holds \p partie in its text, and \p reponse is the button pressed.
-    void attend(const QString &partie, ReponseBoite reponse = ReponseBoite::OK);
+    /// The next box holds \p partie in its text (and bears \p titre when one is given), and \p reponse is the button
+    /// pressed.
+    void attend(const QString &partie, ReponseBoite reponse = ReponseBoite::OK, const QString &titre = {});
+    /// From now on every box is answered with OK and looked at no more: for measures, which have nobody to answer.
+    void repondATout() { m_muette = true; }
     /// The next box asks for a line of text and gets \p saisie.
     void attendSaisie(const QString &partie, const std::optional<QString> &saisie);
     /// All expected boxes have been shown; the others are forgotten.
     void verifie();
     /// Texts of all boxes shown, in order.
     const QStringList &textes() const { return m_textes; }
-    /// Title of the last box.
+    /// Title and flags of the last box.
     const QString &titre() const { return m_titre; }
+    int drapeaux() const { return m_drapeaux; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
@@ -40,6 +45,7 @@ private:
     {
         QString partie;
         ReponseBoite reponse = ReponseBoite::OK;
+        QString titre = {};
         bool saisie = false;
         std::optional<QString> texteSaisi = {};
     };
@@ -49,4 +55,6 @@ private:
     std::deque<Attendue> m_attendues;
     QStringList m_textes;
     QString m_titre;
+    int m_drapeaux = 0;
+    bool m_muette = false;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/programme.h"
-#include "commun/boites_annoncees.h"
+#include "commun/boites_script.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -57,7 +57,7 @@ public:
     /// Opens a family of forms from the main window, by its button.
     void ouvre(const QString &bouton);
 
-    BoitesAnnoncees boites;
+    BoitesScript boites;
     AleaFixe alea;
     HorlogeArretee horloge;
 

@@ -88,7 +88,7 @@ TEST_F(TirageResultats, EchecDuTirageLaisseLeProgrammeUtilisable)
     execute(u"drop trigger coupe"_qs);
     prog.boites.attend(u"le tirage a déjà été fait. Voulez vous recommencer?"_qs, ReponseBoite::Oui);
     tire();
-    EXPECT_EQ(prog.boites.derniersDrapeaux, 52);
+    EXPECT_EQ(prog.boites.drapeaux(), 52);
     EXPECT_EQ(matchs().size(), 4u);
     EXPECT_EQ(tourpri(), 1);
 }

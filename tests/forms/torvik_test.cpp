@@ -121,7 +121,7 @@ TEST(FenetrePrincipale, BaseInutilisableFinitParUneBoite)
         prog.boites.attend(u"VarloBase.mdb"_qs);
         EXPECT_FALSE(prog.demarre());
         prog.boites.verifie();
-        EXPECT_EQ(prog.boites.derniersDrapeaux, vbCritical);
+        EXPECT_EQ(prog.boites.drapeaux(), vbCritical);
         EXPECT_FALSE(visible(prog, u"Accueil"_qs));
         EXPECT_EQ(contenu(prog.fichier()), avant);
         EXPECT_EQ(QFile::exists(prog.fichier()), cas != u"absente");
