@@ -141,6 +141,8 @@ void Journee::joueTours()
             inscritRetardataire();
         if (m_resultats.tour() == 1)
             m_impressions.tirage(u"tirage-tour1.pdf"_qs);
+        if (m_resultats.tour() == 2)
+            m_resultats.ouvreVues();
         const int rencontres = m_resultats.saisitTour();
         dit(u"Tour %1 : %2 résultats saisis en %3 s"_qs.arg(m_resultats.tour())
                 .arg(rencontres)

@@ -152,6 +152,21 @@ void Resultats::tapeScore(const Rencontre &rencontre, const Score &score, QStrin
     verifie(rencontre, score);
 }
 
+/// The views stand beside the entry for the whole round, and leave the keyboard to it.
+void Resultats::ouvreVues()
+{
+    const QString attendus = u"manqres"_qs;
+    const QString joues = u"valresu"_qs;
+    m_main.clique(m_main.controle(forme, u"manquants"_qs));
+    m_main.exigeFocus(forme, u"Equipe1"_qs);
+    m_photographe.prend(u"vue-attendus", *m_main.fenetre(attendus));
+    m_main.clique(m_main.controle(attendus, u"classement"_qs));
+    m_photographe.prend(u"vue-classement", *m_main.fenetre(attendus));
+    m_main.clique(m_main.controle(forme, u"VALIDATION"_qs));
+    m_main.exigeFocus(forme, u"Equipe1"_qs);
+    m_photographe.prend(u"vue-joues", *m_main.fenetre(joues));
+}
+
 void Resultats::tapeMot(const Rencontre &rencontre)
 {
     appelle(rencontre);

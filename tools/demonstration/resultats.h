@@ -21,6 +21,8 @@ public:
     void tire(bool deuxFois);
     /// Types every result of the current round; gives their number.
     int saisitTour();
+    /// Opens the views of pending and played matches beside the entry.
+    void ouvreVues();
 
     bool termine() const;
     /// Whether the form offers the draw of another round.
