@@ -1,5 +1,6 @@
 #include "app/torvik.h"
 
+#include "app/base.h"
 #include "app/langue.h"
 #include "app/routines.h"
 #include "platform/formulaires.h"
@@ -12,8 +13,6 @@
 #include <QToolButton>
 
 namespace {
-
-constexpr QStringView connexionBase = u";PWD=qz7tkn42";
 
 /// What an entry of the main window does to the forms, in this order.
 struct Famille
@@ -96,7 +95,7 @@ void Torvik::Form_Load()
     Partage &partage = m_contexte.partage;
     partage.EspaceTravail = &partage.moteur.Workspaces(0);
     partage.BaseDonnees = partage.EspaceTravail->OpenDatabase(
-        QDir(partage.DossierProgramme).filePath(u"VarloBase.mdb"_qs), false, false, connexionBase.toString());
+        QDir(partage.DossierProgramme).filePath(u"VarloBase.mdb"_qs), false, false, connexionBase);
     ChargeLangue(partage);
     LegendesTorvik();
     setGeometry(screen()->geometry());

@@ -1,5 +1,6 @@
 #include "fabrique.h"
 
+#include "app/base.h"
 #include "lecteur.h"
 #include "store/base_native.h"
 #include "store/erreur.h"
@@ -220,7 +221,7 @@ void remplitLangues(BaseNative &base, const QDir &dossier)
 
 void ecrit(const QDir &dossier, const QString &fichier)
 {
-    BaseNative base(fichier, motDePasseBase.toString(), BaseNative::Mode::Creation);
+    BaseNative base(fichier, motDePasseBase, BaseNative::Mode::Creation);
     base.execute(u"begin"_qs);
     creeTables(base, dossier);
     remplitLangues(base, dossier);

@@ -1,10 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
-
-/// Password of every base file.
-inline constexpr QStringView motDePasseBase = u"qz7tkn42";
 
 /// Makes the base file \p cible from the schema and the rows under \p dossier. The file takes its name once it is
 /// whole; a file of that name is replaced. Throws ErreurDonnees on a fault in the data and store::Erreur when the

@@ -1,5 +1,6 @@
 #include "bilan.h"
 
+#include "app/base.h"
 #include "store/database.h"
 
 #include <algorithm>
@@ -35,7 +36,7 @@ Bilan::Bilan(const QString &base, const Plateau &plateau, const Options &options
 
 void Bilan::lit(const QString &base)
 {
-    store::Database ouverte = store::DBEngine().Workspaces(0).OpenDatabase(base, false, false, u";PWD=qz7tkn42"_qs);
+    store::Database ouverte = store::DBEngine().Workspaces(0).OpenDatabase(base, false, false, connexionBase);
     store::Recordset equipes = ouverte.OpenRecordset(u"select * from equipes where concours = 1 and doublon = 0",
                                                      store::dbOpenSnapshot);
     for (; !equipes.Eof(); equipes.MoveNext())

@@ -1,5 +1,6 @@
 #include "plateau.h"
 
+#include "app/base.h"
 #include "app/routines.h"
 #include "store/database.h"
 
@@ -108,7 +109,7 @@ EquipeDuJour Plateau::compose(int numero, Hasard &hasard)
 
 void Plateau::preenregistre(const QString &base) const
 {
-    store::Database ouverte = store::DBEngine().Workspaces(0).OpenDatabase(base, false, false, u";PWD=qz7tkn42"_qs);
+    store::Database ouverte = store::DBEngine().Workspaces(0).OpenDatabase(base, false, false, connexionBase);
     ouverte.EcritEnGroupe([&] {
         store::Recordset joueurs = ouverte.OpenRecordset(u"equipes", store::dbOpenTable);
         int numero = 0;
