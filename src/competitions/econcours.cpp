@@ -195,20 +195,20 @@ void Econcours::Text2_KeyDown(int KeyCode, int)
 
 void Econcours::Text3_KeyDown(int KeyCode, int)
 {
-    if (KeyCode == Touche::Entree || KeyCode == Touche::Droite)
+    if (Touche::Avance(KeyCode))
         SetFocus(m_ui->Text4);
 }
 
 void Econcours::Text4_KeyDown(int KeyCode, int)
 {
-    if (KeyCode == Touche::Entree || KeyCode == Touche::Droite)
+    if (Touche::Avance(KeyCode))
         SetFocus(m_ui->Combo1);
 }
 
 /// Enter leaves for the top of the entry; the check of the type runs on the way out, and may call the focus back.
 void Econcours::Combo1_KeyDown(int KeyCode, int)
 {
-    if (KeyCode == Touche::Entree || KeyCode == Touche::Droite) {
+    if (Touche::Avance(KeyCode)) {
         SetFocus(m_ui->Text2);
     } else if (KeyCode == Touche::Echap) {
         m_ancienType = rienDeLu;

@@ -52,24 +52,6 @@ void ecritClassement(Partage &partage, qint64 concours, const std::vector<LigneC
     }
 }
 
-std::vector<LigneClassement> litClassement(Partage &partage)
-{
-    std::vector<LigneClassement> lignes;
-    Instruction lecture(partage.BaseDonnees.native(),
-                        u"select equipe, gagnées, perdues, pp, pc, ga, pt, repechage, alea from tbclass"_qs);
-    while (lecture.avance())
-        lignes.push_back({.equipe = int(lecture.nombre(0)),
-                          .gagnées = int(lecture.nombre(1)),
-                          .perdues = int(lecture.nombre(2)),
-                          .pp = optionnel(lecture, 3),
-                          .pc = optionnel(lecture, 4),
-                          .ga = optionnel(lecture, 5),
-                          .pt = int(lecture.nombre(6)),
-                          .repechage = optionnel(lecture, 7),
-                          .alea = int(lecture.nombre(8))});
-    return lignes;
-}
-
 void metAJourClassement(Partage &partage, const std::vector<LigneClassement> &avant,
                         const std::vector<LigneClassement> &apres)
 {
@@ -185,6 +167,25 @@ void CalculClassement(Partage &partage, const QString &concours)
     partage.BaseDonnees.EcritEnGroupe([&] { ecritClassement(partage, numero, lignes); });
 }
 
+std::vector<LigneClassement> LitClassement(Partage &partage)
+{
+    std::vector<LigneClassement> lignes;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select equipe, gagnées, perdues, pp, pc, ga, pt, repechage, alea from tbclass "
+                        u"order by pt desc, ga desc, equipe"_qs);
+    while (lecture.avance())
+        lignes.push_back({.equipe = int(lecture.nombre(0)),
+                          .gagnées = int(lecture.nombre(1)),
+                          .perdues = int(lecture.nombre(2)),
+                          .pp = optionnel(lecture, 3),
+                          .pc = optionnel(lecture, 4),
+                          .ga = optionnel(lecture, 5),
+                          .pt = int(lecture.nombre(6)),
+                          .repechage = optionnel(lecture, 7),
+                          .alea = int(lecture.nombre(8))});
+    return lignes;
+}
+
 void ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
 {
     const QString tirage =
@@ -227,7 +228,7 @@ void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau,
 
 void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur)
 {
-    const std::vector<LigneClassement> avant = litClassement(partage);
+    const std::vector<LigneClassement> avant = LitClassement(partage);
     std::vector<LigneClassement> apres = avant;
     const QHash<int, QString> clubsDesEquipes = litClubs(partage);
     std::vector<QString> clubs;
@@ -260,7 +261,7 @@ void LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
     const int tour = partage.TourCourant + 1;
-    const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, litClassement(partage), tour);
+    const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
     // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
         ecritRencontres(partage, 1, rencontres);

@@ -1,11 +1,17 @@
 #pragma once
 
 #include "app/partage.h"
+#include "engine/classement.h"
+
+#include <vector>
 
 class Interlocuteur;
 
 /// Rebuilds `tbclass` from all matches of the competition whose number is \p concours.
 void CalculClassement(Partage &partage, const QString &concours);
+
+/// Rows of `tbclass`, best team first (the order of `rankkey`).
+std::vector<moteur::LigneClassement> LitClassement(Partage &partage);
 
 /// Draws round 1 of the current competition, once the operator has agreed to lose a draw without results; refuses when
 /// there are results.

@@ -1,6 +1,7 @@
 #include "printing/imprime_tirage.h"
 
 #include "app/routines.h"
+#include "engine/clubs.h"
 #include "printing/cadre.h"
 
 #include <optional>
@@ -232,7 +233,7 @@ void FeuilleTirage::membres(qint64 equipe)
         const QString nom = m_equipes[u"nom"].texte();
         const QString prenom = m_equipes[u"prenom"].texte();
         const QString licence = m_equipes[u"licence"].texte();
-        const QString note = m_equipes[u"Societe"].texte() == u"*Panachée" ? noteClub(licence) : QString();
+        const QString note = m_equipes[u"Societe"].texte() == moteur::clubPanache ? noteClub(licence) : QString();
         m_papier.CurrentX = 1450;
         const bool vide = ((nom + prenom + licence).trimmed() + note).isEmpty();
         m_papier.Print(vide ? u"."_qs : nom + u' ' + prenom + u" ("_qs + licence + note + u')');

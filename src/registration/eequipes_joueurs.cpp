@@ -1,6 +1,7 @@
 #include "registration/eequipes.h"
 
 #include "app/routines.h"
+#include "engine/clubs.h"
 #include "platform/formulaires.h"
 #include "store/collation.h"
 #include "ui_eequipes.h"
@@ -11,7 +12,7 @@ using store::Recordset;
 
 namespace {
 
-const QString clubPanache = u"*Panachée"_qs;
+const QString clubPanache = moteur::clubPanache.toString();
 const QString titreEnregistrement = u"Enregistrement des équipes"_qs;
 constexpr int largeurListe = 4500; // twips
 

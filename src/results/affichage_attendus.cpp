@@ -16,23 +16,6 @@ namespace {
 constexpr int largeurTitre = 10; // characters of a team's heading
 const QString tiret = u"-"_qs;
 
-std::vector<LigneClassement> litClassement(Partage &partage)
-{
-    std::vector<LigneClassement> lignes;
-    Recordset classement = partage.BaseDonnees.OpenRecordset(u"tbclass", store::dbOpenTable);
-    classement.Index(u"rankkey");
-    const auto champ = [&](const char16_t *nom) { return classement[nom].valeur(); };
-    for (; !classement.Eof(); classement.MoveNext())
-        lignes.push_back({.equipe = int(champ(u"equipe").entier()),
-                          .gagnées = int(champ(u"gagnées").entier()),
-                          .perdues = int(champ(u"perdues").entier()),
-                          .pp = champ(u"pp").entierOptionnel(),
-                          .pc = champ(u"pc").entierOptionnel(),
-                          .ga = champ(u"ga").entierOptionnel(),
-                          .pt = int(champ(u"pt").entier())});
-    return lignes;
-}
-
 void afficheRencontres(Partage &partage, FlexGrid &grille, qint64 concours)
 {
     const grille::GardeDefilement defilement(grille);
@@ -127,7 +110,7 @@ void AfficheAttendus(Partage &partage, Formulaires &formulaires)
     const qint64 concours = grille::concoursAffiche(partage, formulaires);
     afficheRencontres(partage, vue->grille(0), concours);
     CalculClassement(partage, QString::number(concours));
-    const std::vector<LigneClassement> lignes = litClassement(partage);
+    const std::vector<LigneClassement> lignes = LitClassement(partage);
     afficheGeneral(vue->grille(1), lignes);
     if (auto *groupes = qobject_cast<Groupes *>(formulaires.Charge(u"Groupes"_qs)))
         afficheGroupes(partage, *groupes, lignes);

@@ -130,7 +130,7 @@ bool EResultats::afficheConcours(qint64 numero)
 
 void EResultats::listconcours_KeyDown(int KeyCode, int)
 {
-    if (KeyCode != Touche::Entree && KeyCode != Touche::Droite)
+    if (!Touche::Avance(KeyCode))
         return;
     formulaires().Cache(u"manqres"_qs);
     formulaires().Cache(u"valresu"_qs);

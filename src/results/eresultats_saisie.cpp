@@ -25,7 +25,7 @@ void poseTexte(QLineEdit *champ, const QString &texte)
 
 void EResultats::Equipe1_KeyDown(int KeyCode, int)
 {
-    if (KeyCode != Touche::Entree && KeyCode != Touche::Droite)
+    if (!Touche::Avance(KeyCode))
         return;
     const qint64 equipe = store::Valeur(m_ui->Equipe1->text()).entier();
     if (equipe == 0) {
@@ -120,7 +120,7 @@ void EResultats::Score2_KeyDown(int KeyCode, int)
 
 void EResultats::saisieScore(Cote cote, int KeyCode)
 {
-    if (KeyCode != Touche::Entree && KeyCode != Touche::Droite) {
+    if (!Touche::Avance(KeyCode)) {
         m_scoreReel = true;
         return;
     }
