@@ -3,6 +3,7 @@
 #include "app/accueil.h"
 #include "app/torvik.h"
 #include "competitions/econcours.h"
+#include "maintenance/alerte.h"
 #include "printing/i_tirage.h"
 #include "registration/eequipes.h"
 #include "registration/listesoc.h"
@@ -39,6 +40,7 @@ Programme::~Programme()
 void Programme::enregistreFormes()
 {
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
+    m_formulaires.enregistre(u"Alerte"_qs, fabrique<Alerte>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
