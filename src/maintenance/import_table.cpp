@@ -3,6 +3,8 @@
 #include "maintenance/lecteur_delimite.h"
 #include "store/base_native.h"
 
+#include <algorithm>
+
 using store::Valeur;
 
 namespace {
@@ -22,7 +24,9 @@ Valeur codeLu(const QString &texte)
 /// A date of birth, with a time of day behind it in some exports.
 Valeur dateLue(const QString &texte)
 {
-    const QDate date = store::LireDate(texte.section(u' ', 0, 0).section(u'T', 0, 0));
+    constexpr int sansAnnee = 0; // a birthday alone is no date
+    const auto fin = std::ranges::find_if(texte, [](QChar c) { return c == u' ' || c == u'T'; });
+    const QDate date = store::LireDate(QStringView(texte.begin(), fin), sansAnnee);
     return date.isValid() ? Valeur(date) : Valeur();
 }
 
