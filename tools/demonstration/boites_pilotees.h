@@ -21,6 +21,10 @@ enum class Boite {
     Retardataire,
     MemeClub,
     DejaRencontrees,
+    Importation,
+    EquipeImportee,
+    Purge,
+    PurgeReussie,
 };
 
 /// The boxes of the desktop, answered by a click on the button that an organiser would take. A box that no instruction
