@@ -2,12 +2,16 @@
 
 #include "app/base.h"
 #include "app/langue.h"
+#include "app/langues.h"
 #include "app/routines.h"
 #include "platform/formulaires.h"
+#include "ui/apparence.h"
 #include "ui_torvik.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QToolButton>
@@ -112,6 +116,8 @@ void Torvik::LegendesTorvik()
                             u"L'image %1 est introuvable ou illisible."_qs.arg(
                                 QDir::toNativeSeparators(partage.IconeLangue)));
     m_ui->f_accueil->setIcon(icone);
+    if (const QString &locale = partage.mes(128); !locale.isEmpty())
+        parleLangue(*qApp, QLocale(locale));
     setWindowTitle(nomProgramme + versionProgramme);
 
     const auto legende = [](QToolButton *bouton, const QString &texte) {
@@ -131,6 +137,7 @@ void Torvik::LegendesTorvik()
     m_ui->mnu_equipes->setVisible(true);
     m_ui->Mnu_resultats->setVisible(true);
     m_ui->Mnu_accueil->menuAction()->setVisible(true);
+    update();
 }
 
 void Torvik::f_accueil_Click()
@@ -167,7 +174,10 @@ void Torvik::f_resultats_Click()
 
 void Torvik::traduction_Click()
 {
-    m_contexte.formulaires.Montre(u"langues"_qs);
+    const QString nom = u"langues"_qs;
+    if (auto *choix = qobject_cast<langues *>(m_contexte.formulaires.Charge(nom)))
+        connect(choix, &langues::langueChargee, this, &Torvik::LegendesTorvik, Qt::UniqueConnection);
+    m_contexte.formulaires.Montre(nom);
 }
 
 void Torvik::chrono_Click()
