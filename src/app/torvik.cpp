@@ -2,14 +2,18 @@
 
 #include "app/base.h"
 #include "app/langue.h"
+#include "app/langues.h"
 #include "app/routines.h"
 #include "maintenance/import_listes.h"
 #include "maintenance/purge.h"
 #include "platform/formulaires.h"
+#include "ui/apparence.h"
 #include "ui_torvik.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QToolButton>
@@ -138,6 +142,8 @@ void Torvik::LegendesTorvik()
                             u"L'image %1 est introuvable ou illisible."_qs.arg(
                                 QDir::toNativeSeparators(partage.IconeLangue)));
     m_ui->f_accueil->setIcon(icone);
+    if (const QString &locale = partage.mes(128); !locale.isEmpty())
+        parleLangue(*qApp, QLocale(locale));
     setWindowTitle(nomProgramme + versionProgramme);
 
     const auto legende = [](QToolButton *bouton, const QString &texte) {
@@ -157,6 +163,7 @@ void Torvik::LegendesTorvik()
     m_ui->mnu_equipes->setVisible(true);
     m_ui->Mnu_resultats->setVisible(true);
     m_ui->Mnu_accueil->menuAction()->setVisible(true);
+    update();
 }
 
 void Torvik::f_accueil_Click()
@@ -193,7 +200,10 @@ void Torvik::f_resultats_Click()
 
 void Torvik::traduction_Click()
 {
-    m_contexte.formulaires.Montre(u"langues"_qs);
+    const QString nom = u"langues"_qs;
+    if (auto *choix = qobject_cast<langues *>(m_contexte.formulaires.Charge(nom)))
+        connect(choix, &langues::langueChargee, this, &Torvik::LegendesTorvik, Qt::UniqueConnection);
+    m_contexte.formulaires.Montre(nom);
 }
 
 void Torvik::chrono_Click()
