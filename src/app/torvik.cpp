@@ -4,6 +4,7 @@
 #include "app/langue.h"
 #include "app/langues.h"
 #include "app/routines.h"
+#include "app/sauvegarde.h"
 #include "platform/formulaires.h"
 #include "ui/apparence.h"
 #include "ui_torvik.h"
@@ -102,6 +103,8 @@ void Torvik::Form_Load()
         QDir(partage.DossierProgramme).filePath(u"VarloBase.mdb"_qs), false, false, connexionBase);
     ChargeLangue(partage);
     LegendesTorvik();
+    if (const QString echec = SauveBase(partage); !echec.isEmpty())
+        m_contexte.boites.MsgBox(echec, vbExclamation);
     setGeometry(screen()->geometry());
     show();
     m_contexte.formulaires.Montre(u"Accueil"_qs);

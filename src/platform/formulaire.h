@@ -108,6 +108,8 @@ protected:
     const Contexte &contexte() const { return m_contexte; }
     /// Keeps the controls in proportion to the form.
     void RedimForm();
+    /// Puts a copy of the base aside before rows go for good. A copy that fails is told in a box and stops nothing.
+    void gardeUneCopie() const;
     const QString &mes(int numero) const { return m_contexte.partage.mes(numero); }
     ReponseBoite MsgBox(const QString &texte, int drapeaux = vbOKOnly, const QString &titre = {}) const
     {
