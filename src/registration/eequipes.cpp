@@ -215,7 +215,7 @@ void Eequipes::changeConcours(const Recordset &concours)
     poseTexte(m_ui->Equipe, QString());
     remplitEquipes();
     if (m_ui->Equipe->currentText().isEmpty())
-        poseTexte(m_ui->Equipe, ZeroPad(1, largeurNumero));
+        poseTexte(m_ui->Equipe, NumeroAffiche(1));
     libelleCompte(m_ui->Label7->text().toDouble());
     videSaisie();
     numeroConnu(false);
@@ -263,7 +263,7 @@ bool Eequipes::montreConnu(Recordset &equipes)
     evolution.Seek(u"=", {partage().ConcoursCourant, numero});
     if (evolution.NoMatch())
         return false;
-    poseNumero(ZeroPad(numero, largeurNumero));
+    poseNumero(NumeroAffiche(numero));
     m_ui->Société->setText(equipes[u"societe"].texte());
     afficheMembres(equipes);
     numeroConnu(true);

@@ -78,7 +78,7 @@ void FormeInscription::poseNumero(const QString &texte)
 
 void FormeInscription::proposeSuivante(std::optional<qint64> maxe)
 {
-    poseNumero(ZeroPad(maxe.value_or(0) + 1, largeurNumero));
+    poseNumero(NumeroAffiche(maxe.value_or(0) + 1));
 }
 
 std::size_t FormeInscription::remplitNumeros()
@@ -87,9 +87,9 @@ std::size_t FormeInscription::remplitNumeros()
     const std::vector<qint64> numeros = NumerosDesEquipes(partage(), concoursSaisi());
     QStringList lignes;
     for (const qint64 numero : numeros)
-        lignes += ZeroPad(numero, largeurNumero);
+        lignes += NumeroAffiche(numero);
     if (!numeros.empty())
-        proposition = ZeroPad(numeros.back() + 1, largeurNumero);
+        proposition = NumeroAffiche(numeros.back() + 1);
     m_champs.Equipe->clear();
     m_champs.Equipe->addItems(lignes);
     poseNumero(proposition);
@@ -131,7 +131,7 @@ void FormeInscription::Equipe_LostFocus()
 void FormeInscription::refuseNumero(std::optional<qint64> maxe)
 {
     MsgBox(mes(81) + u"\r\n"_qs + mes(82));
-    poseNumero(ZeroPad(maxe.value_or(1), largeurNumero));
+    poseNumero(NumeroAffiche(maxe.value_or(1)));
     SetFocus(m_champs.Equipe);
     m_champs.Equipe->lineEdit()->selectAll();
 }

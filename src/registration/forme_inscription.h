@@ -50,7 +50,6 @@ protected:
     };
     /// Width in twips of the list of clubs beside the form.
     static constexpr int largeurClubs = 4500;
-    static constexpr int largeurNumero = 4;
 
     /// Connects what is common. Called after the controls are made.
     void relie(const Champs &champs);
