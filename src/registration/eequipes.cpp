@@ -107,6 +107,8 @@ void Eequipes::premiereActivation()
     const Recordset concours = partage().BaseDonnees.OpenRecordset(
         u"SELECT * FROM [Concours] Where [concours] = %1"_qs.arg(partage().ConcoursCourant));
     afficheConcours(concours);
+    // A competition just created is not in the texts of the sheets yet.
+    memorise(concours);
     videSaisie();
     montreMembres();
     poseTexte(m_ui->Equipe, u"00001"_qs);

@@ -39,8 +39,20 @@ void FormeListe::remplit(const QString &format, const std::function<void()> &lig
     m_grille->setRows(1);
     m_grille->setFormatString(format);
     lignes();
+    elargitNumeros();
     for (const Tri &tri : m_tris)
         applique(tri);
+}
+
+/// The heading of the numbers can be shorter than they are.
+void FormeListe::elargitNumeros()
+{
+    QString plusLong;
+    for (int ligne = 1; ligne < m_grille->Rows(); ++ligne) {
+        if (const QString numero = m_grille->TextMatrix(ligne, 0); numero.size() > plusLong.size())
+            plusLong = numero;
+    }
+    m_grille->setColWidth(0, std::max(m_grille->ColWidth(0), m_grille->LargeurTexte(plusLong)));
 }
 
 void FormeListe::ajoute(std::initializer_list<QString> cellules)

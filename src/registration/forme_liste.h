@@ -43,6 +43,7 @@ private:
         int ordre;
     };
     void applique(const Tri &tri);
+    void elargitNumeros();
 
     FlexGrid *m_grille = nullptr;
     Respiration m_respiration;
