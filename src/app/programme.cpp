@@ -4,6 +4,7 @@
 #include "app/langues.h"
 #include "app/torvik.h"
 #include "competitions/econcours.h"
+#include "maintenance/alerte.h"
 #include "printing/i_tirage.h"
 #include "registration/eequipes.h"
 #include "registration/ejoueurs.h"
@@ -44,6 +45,7 @@ Programme::~Programme()
 void Programme::enregistreFormes()
 {
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
+    m_formulaires.enregistre(u"Alerte"_qs, fabrique<Alerte>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
     m_formulaires.enregistre(u"langues"_qs, fabrique<langues>());

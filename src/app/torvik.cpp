@@ -4,6 +4,8 @@
 #include "app/langue.h"
 #include "app/langues.h"
 #include "app/routines.h"
+#include "maintenance/import_listes.h"
+#include "maintenance/purge.h"
 #include "platform/formulaires.h"
 #include "ui/apparence.h"
 #include "ui_torvik.h"
@@ -88,6 +90,9 @@ void Torvik::relie()
     surClick(m_ui->Mnu_resultats, &Torvik::f_resultats_Click);
     surClick(m_ui->apropo, &Torvik::f_accueil_Click);
     surClick(m_ui->traduction, &Torvik::traduction_Click);
+    surClick(m_ui->mnu_iclub, &Torvik_mnu_iclub_Click);
+    surClick(m_ui->mnu_ijoueur, &Torvik_mnu_ijoueur_Click);
+    surClick(m_ui->mnu_base, &Torvik_mnu_base_Click);
 }
 
 void Torvik::surClick(QAction *action, void (Torvik::*traitement)())
@@ -96,12 +101,33 @@ void Torvik::surClick(QAction *action, void (Torvik::*traitement)())
             [this, traitement] { Execute(m_contexte.boites, [&] { (this->*traitement)(); }); });
 }
 
-void Torvik::Form_Load()
+void Torvik::surClick(QAction *action, void (*traitement)(const Contexte &))
+{
+    connect(action, &QAction::triggered, this,
+            [this, traitement] { Execute(m_contexte.boites, [&] { traitement(m_contexte); }); });
+}
+
+void Torvik::ouvreBase()
 {
     Partage &partage = m_contexte.partage;
     partage.EspaceTravail = &partage.moteur.Workspaces(0);
-    partage.BaseDonnees = partage.EspaceTravail->OpenDatabase(
-        QDir(partage.DossierProgramme).filePath(u"VarloBase.mdb"_qs), false, false, connexionBase);
+    try {
+        partage.BaseDonnees = partage.EspaceTravail->OpenDatabase(
+            QDir(partage.DossierProgramme).filePath(nomBase), false, false, connexionBase);
+    } catch (const store::Erreur &erreur) {
+        const QString conseil = erreur.numero() == store::Erreur::FichierAbsent
+            ? ConseilBaseTemporaire(partage.DossierProgramme)
+            : QString();
+        if (conseil.isEmpty())
+            throw;
+        throw store::Erreur(erreur.numero(), erreur.phrase() + u"\r\n\r\n"_qs + conseil);
+    }
+}
+
+void Torvik::Form_Load()
+{
+    Partage &partage = m_contexte.partage;
+    ouvreBase();
     ChargeLangue(partage);
     LegendesTorvik();
     setGeometry(screen()->geometry());

@@ -55,6 +55,7 @@ void Eequipes::relie()
     surChoix(m_ui->référence, [this] { référence_KeyDown(Touche::Entree, 0); });
     surClick(m_ui->Okc, [this] { Okc_Click(); });
     surClick(m_ui->SupprimerC, [this] { SupprimerC_Click(); });
+    surClick(m_ui->cImport, [this] { cImport_Click(); });
     surClick(m_ui->Command1, [this] { Command1_Click(); });
     surClick(m_ui->Command2, [this] { Command2_Click(); });
 }

@@ -34,6 +34,7 @@ public:
     void Société_KeyDown(int KeyCode, int Shift);
     void Okc_Click();
     void SupprimerC_Click();
+    void cImport_Click();
     void Command1_Click();
     void Command2_Click();
 
@@ -84,6 +85,9 @@ private:
     bool inscrit(const EquipeSaisie &equipe, Retardataire entree);
     bool corrige(const EquipeSaisie &equipe);
     void signaleEchec(qint64 numero);
+
+    // Teams from a file
+    void importeEquipe(const QString &ligne);
 
     std::unique_ptr<Ui::Eequipes> m_ui;
     ChampsMembres m_NomJ{};

@@ -21,6 +21,10 @@ enum class Boite {
     Retardataire,
     MemeClub,
     DejaRencontrees,
+    Importation,
+    EquipeImportee,
+    Purge,
+    PurgeReussie,
 };
 
 /// The boxes of the desktop, answered by a click on the button that an organiser would take. A box that no instruction
@@ -37,12 +41,15 @@ public:
     int fois(Boite boite) const { return m_fois.value(boite); }
     /// The next document goes to this PDF file; a printer asked for without it is a fault.
     void imprimeDans(const QString &fichier) { m_document = fichier; }
+    /// The file dialog chooses this file next; one that is asked for without it is a fault.
+    void choisit(const QString &fichier) { m_fichier = fichier; }
     /// What was unexpected since the start; empty when nothing was.
     const QString &faute() const { return m_faute; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
     std::unique_ptr<Destination> ShowPrinter() override;
+    QString ShowOpen(const BoiteFichier &dialogue) override;
 
 private:
     struct Consigne
@@ -60,6 +67,7 @@ private:
     Photographe &m_photographe;
     std::vector<Consigne> m_consignes;
     QString m_document;
+    QString m_fichier;
     QHash<Boite, int> m_fois;
     QString m_faute;
 };

@@ -49,6 +49,11 @@ constexpr QStringView catalogue[] = {
     u"bureau-resultats",
     u"resultats-termine",
     u"impression-classement",
+    u"boite-importation",
+    u"boite-equipe-importee",
+    u"equipes-importees",
+    u"boite-purge",
+    u"boite-purge-reussie",
 };
 
 constexpr int hauteurTitre = 30;
