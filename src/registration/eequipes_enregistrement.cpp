@@ -117,6 +117,7 @@ void Eequipes::signaleEchec(qint64 numero)
 void Eequipes::SupprimerC_Click()
 {
     const qint64 numero = numeroEquipe();
+    GardeUneCopie(contexte());
     const bool retiree = RetireEquipe(partage(), partage().ConcoursCourant, numero);
     retireDeLaListe(numero);
     if (!retiree)
