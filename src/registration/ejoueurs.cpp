@@ -244,6 +244,7 @@ void Ejoueurs::ecritSexe(Recordset &joueurs) const
 void Ejoueurs::SupprimerC_Click()
 {
     const qint64 numero = numeroEquipe();
+    GardeUneCopie(contexte());
     partage().BaseDonnees.Execute(
         u"delete * from equipes where concours = %1 and equipe = %2"_qs.arg(fichierJoueurs).arg(numero));
     retireDeLaListe(numero);

@@ -4,9 +4,10 @@
 
 #include <QStringList>
 
+/// Pages of one printed document.
 using Pages = std::vector<PageDessinee>;
 
-/// A printer that keeps what it is sent.
+/// A printer of plain A4 that keeps what it is sent.
 class DestinationGardee final : public Destination
 {
 public:
@@ -23,6 +24,16 @@ private:
     std::vector<Pages> &m_documents;
 };
 
+/// First text of a page that reads \p texte, blanks at its ends aside; null when there is none.
+inline const Dessin *trouve(const PageDessinee &page, const QString &texte)
+{
+    for (const Dessin &dessin : page.dessins) {
+        if (dessin.genre == Dessin::Texte && dessin.texte.trimmed() == texte)
+            return &dessin;
+    }
+    return nullptr;
+}
+
 /// Texts of a page in the order in which they were drawn, a bar between two.
 inline QString texteDe(const PageDessinee &page)
 {
@@ -31,14 +42,4 @@ inline QString texteDe(const PageDessinee &page)
         textes += dessin.texte.trimmed();
     textes.removeAll(QString());
     return textes.join(u'|');
-}
-
-/// First drawing of that text, null when the page has none.
-inline const Dessin *trouve(const PageDessinee &page, const QString &texte)
-{
-    for (const Dessin &dessin : page.dessins) {
-        if (dessin.genre == Dessin::Texte && dessin.texte.trimmed() == texte)
-            return &dessin;
-    }
-    return nullptr;
 }
