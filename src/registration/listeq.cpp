@@ -3,6 +3,7 @@
 #include "app/routines.h"
 #include "engine/clubs.h"
 #include "platform/formulaires.h"
+#include "printing/imprime_detail.h"
 #include "printing/imprime_liste.h"
 #include "registration/clubs_connus.h"
 #include "registration/fichier_equipes.h"
@@ -155,6 +156,7 @@ void listeq::donneNumero(const QString &numero)
 
 void listeq::imprimer_Click()
 {
+    ImprimeDetail(contexte());
 }
 
 void listeq::imprimer_selection_Click()

@@ -37,6 +37,8 @@ void Journee::joue()
     joueTours();
     m_impressions.classement(u"classement.pdf"_qs, false);
     m_impressions.classement(u"classement-detail.pdf"_qs, true);
+    m_impressions.palmares(u"palmares.pdf"_qs, u"palmares-detail.pdf"_qs);
+    m_impressions.club(u"equipe-club.pdf"_qs);
 }
 
 void Journee::demarre()
