@@ -9,7 +9,11 @@
 #include "printing/palmares.h"
 #include "printing/resusoc.h"
 #include "registration/eequipes.h"
+#include "registration/ejoueurs.h"
+#include "registration/listco.h"
+#include "registration/listeq.h"
 #include "registration/listesoc.h"
+#include "registration/listjo.h"
 #include "results/detail_resultats.h"
 #include "results/eresultats.h"
 #include "results/groupes.h"
@@ -47,8 +51,12 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
     m_formulaires.enregistre(u"langues"_qs, fabrique<langues>());
+    m_formulaires.enregistre(u"Ejoueurs"_qs, fabrique<Ejoueurs>());
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
+    m_formulaires.enregistre(u"Listco"_qs, fabrique<Listco>());
+    m_formulaires.enregistre(u"listeq"_qs, fabrique<listeq>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
+    m_formulaires.enregistre(u"listjo"_qs, fabrique<listjo>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
     m_formulaires.enregistre(u"palmares"_qs, fabrique<palmares>());
     m_formulaires.enregistre(u"Resusoc"_qs, fabrique<Resusoc>());
