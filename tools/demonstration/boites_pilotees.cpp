@@ -95,7 +95,7 @@ void BoitesPilotees::repond(QMessageBox &boite, const Consigne *consigne)
     QTest::mouseClick(bouton, Qt::LeftButton);
 }
 
-std::optional<QString> BoitesPilotees::InputBox(const QString &texte, const QString &)
+std::optional<QString> BoitesPilotees::InputBox(const QString &texte, const QString &, std::optional<QPoint>)
 {
     compte();
     retientFaute(u"Question inattendue : « %1 »."_qs.arg(texte));

@@ -41,7 +41,7 @@ public:
     const QString &faute() const { return m_faute; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
-    std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
 
 private:
