@@ -2,6 +2,7 @@
 
 #include "app/accueil.h"
 #include "app/torvik.h"
+#include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
 #include "printing/i_tirage.h"
 #include "registration/eequipes.h"
@@ -41,6 +42,7 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
+    m_formulaires.enregistre(u"FrmHorloge"_qs, fabrique<FrmHorloge>());
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
