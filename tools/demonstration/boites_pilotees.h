@@ -35,6 +35,8 @@ public:
     void attend(Boite boite, const QString &extrait, ReponseBoite reponse, QStringView image);
     /// Times that such a box came up so far.
     int fois(Boite boite) const { return m_fois.value(boite); }
+    /// The next question for a line of text holds \p extrait, gets \p saisie, and is taken as picture \p image.
+    void saisit(const QString &extrait, const QString &saisie, QStringView image);
     /// The next document goes to this PDF file; a printer asked for without it is a fault.
     void imprimeDans(const QString &fichier) { m_document = fichier; }
     /// What was unexpected since the start; empty when nothing was.
@@ -53,12 +55,21 @@ private:
         QString image;
     };
 
+    struct Saisie
+    {
+        QString extrait;
+        QString texte;
+        QString image;
+    };
+
     const Consigne *consigne(const QString &texte) const;
     void repond(QMessageBox &boite, const Consigne *consigne);
+    void photographie(const QString &image, QWidget &boite);
     void retientFaute(const QString &phrase);
 
     Photographe &m_photographe;
     std::vector<Consigne> m_consignes;
+    std::optional<Saisie> m_saisie;
     QString m_document;
     QHash<Boite, int> m_fois;
     QString m_faute;

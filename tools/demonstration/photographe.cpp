@@ -49,6 +49,9 @@ constexpr QStringView catalogue[] = {
     u"bureau-resultats",
     u"resultats-termine",
     u"impression-classement",
+    u"outils-tirage",
+    u"boite-alarme",
+    u"outils",
 };
 
 constexpr int hauteurTitre = 30;
