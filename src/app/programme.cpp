@@ -1,9 +1,11 @@
 #include "app/programme.h"
 
 #include "app/accueil.h"
+#include "app/langues.h"
 #include "app/torvik.h"
 #include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
+#include "maintenance/alerte.h"
 #include "printing/i_tirage.h"
 #include "registration/eequipes.h"
 #include "registration/listesoc.h"
@@ -40,9 +42,11 @@ Programme::~Programme()
 void Programme::enregistreFormes()
 {
     m_formulaires.enregistre(u"Accueil"_qs, fabrique<Accueil>());
+    m_formulaires.enregistre(u"Alerte"_qs, fabrique<Alerte>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
     m_formulaires.enregistre(u"FrmHorloge"_qs, fabrique<FrmHorloge>());
+    m_formulaires.enregistre(u"langues"_qs, fabrique<langues>());
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());

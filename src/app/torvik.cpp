@@ -2,12 +2,18 @@
 
 #include "app/base.h"
 #include "app/langue.h"
+#include "app/langues.h"
 #include "app/routines.h"
+#include "maintenance/import_listes.h"
+#include "maintenance/purge.h"
 #include "platform/formulaires.h"
+#include "ui/apparence.h"
 #include "ui_torvik.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QToolButton>
@@ -82,6 +88,9 @@ void Torvik::relie()
     surClick(m_ui->Mnu_resultats, &Torvik::f_resultats_Click);
     surClick(m_ui->apropo, &Torvik::f_accueil_Click);
     surClick(m_ui->traduction, &Torvik::traduction_Click);
+    surClick(m_ui->mnu_iclub, &Torvik_mnu_iclub_Click);
+    surClick(m_ui->mnu_ijoueur, &Torvik_mnu_ijoueur_Click);
+    surClick(m_ui->mnu_base, &Torvik_mnu_base_Click);
 }
 
 void Torvik::surClick(QAction *action, void (Torvik::*traitement)())
@@ -90,12 +99,33 @@ void Torvik::surClick(QAction *action, void (Torvik::*traitement)())
             [this, traitement] { Execute(m_contexte.boites, [&] { (this->*traitement)(); }); });
 }
 
-void Torvik::Form_Load()
+void Torvik::surClick(QAction *action, void (*traitement)(const Contexte &))
+{
+    connect(action, &QAction::triggered, this,
+            [this, traitement] { Execute(m_contexte.boites, [&] { traitement(m_contexte); }); });
+}
+
+void Torvik::ouvreBase()
 {
     Partage &partage = m_contexte.partage;
     partage.EspaceTravail = &partage.moteur.Workspaces(0);
-    partage.BaseDonnees = partage.EspaceTravail->OpenDatabase(
-        QDir(partage.DossierProgramme).filePath(u"VarloBase.mdb"_qs), false, false, connexionBase);
+    try {
+        partage.BaseDonnees = partage.EspaceTravail->OpenDatabase(
+            QDir(partage.DossierProgramme).filePath(nomBase), false, false, connexionBase);
+    } catch (const store::Erreur &erreur) {
+        const QString conseil = erreur.numero() == store::Erreur::FichierAbsent
+            ? ConseilBaseTemporaire(partage.DossierProgramme)
+            : QString();
+        if (conseil.isEmpty())
+            throw;
+        throw store::Erreur(erreur.numero(), erreur.phrase() + u"\r\n\r\n"_qs + conseil);
+    }
+}
+
+void Torvik::Form_Load()
+{
+    Partage &partage = m_contexte.partage;
+    ouvreBase();
     ChargeLangue(partage);
     LegendesTorvik();
     setGeometry(screen()->geometry());
@@ -112,6 +142,8 @@ void Torvik::LegendesTorvik()
                             u"L'image %1 est introuvable ou illisible."_qs.arg(
                                 QDir::toNativeSeparators(partage.IconeLangue)));
     m_ui->f_accueil->setIcon(icone);
+    if (const QString &locale = partage.mes(128); !locale.isEmpty())
+        parleLangue(*qApp, QLocale(locale));
     setWindowTitle(nomProgramme + versionProgramme);
 
     const auto legende = [](QToolButton *bouton, const QString &texte) {
@@ -131,6 +163,7 @@ void Torvik::LegendesTorvik()
     m_ui->mnu_equipes->setVisible(true);
     m_ui->Mnu_resultats->setVisible(true);
     m_ui->Mnu_accueil->menuAction()->setVisible(true);
+    update();
 }
 
 void Torvik::f_accueil_Click()
@@ -167,7 +200,10 @@ void Torvik::f_resultats_Click()
 
 void Torvik::traduction_Click()
 {
-    m_contexte.formulaires.Montre(u"langues"_qs);
+    const QString nom = u"langues"_qs;
+    if (auto *choix = qobject_cast<langues *>(m_contexte.formulaires.Charge(nom)))
+        connect(choix, &langues::langueChargee, this, &Torvik::LegendesTorvik, Qt::UniqueConnection);
+    m_contexte.formulaires.Montre(nom);
 }
 
 void Torvik::chrono_Click()

@@ -40,6 +40,8 @@ protected:
 private:
     void relie();
     void surClick(QAction *action, void (Torvik::*traitement)());
+    void surClick(QAction *action, void (*traitement)(const Contexte &));
+    void ouvreBase();
     void Form_Click();
     void Form_Unload();
 

@@ -4,6 +4,7 @@
 #include "platform/twips.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -85,4 +86,17 @@ std::unique_ptr<Destination> BoitesQt::ShowPrinter()
     if (dialogue.exec() != QDialog::Accepted)
         return nullptr;
     return std::make_unique<DestinationImprimante>(std::move(imprimante));
+}
+
+QString BoitesQt::ShowOpen(const BoiteFichier &dialogue)
+{
+    compte();
+    QFileDialog choix(QApplication::activeWindow(), titreOuProgramme(dialogue.DialogTitle));
+    choix.setAcceptMode(QFileDialog::AcceptOpen);
+    choix.setFileMode(QFileDialog::ExistingFile);
+    choix.setDefaultSuffix(dialogue.DefaultExt);
+    choix.setNameFilters({dialogue.FileName, u"*"_qs});
+    if (choix.exec() != QDialog::Accepted || choix.selectedFiles().isEmpty())
+        return dialogue.FileName;
+    return choix.selectedFiles().constFirst();
 }

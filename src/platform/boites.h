@@ -19,6 +19,14 @@ enum DrapeauBoite {
     vbInformation = 64,
 };
 
+/// What the file dialog starts with.
+struct BoiteFichier
+{
+    QString DialogTitle;
+    QString DefaultExt; ///< Added to a name typed without an extension.
+    QString FileName; ///< A pattern such as "*.dat": only files that fit it are shown at first.
+};
+
 enum class ReponseBoite { OK = 1, Annuler = 2, Oui = 6, Non = 7 };
 
 /// The one gateway for everything that stops the operator until it is answered.
@@ -35,6 +43,9 @@ public:
                                             std::optional<QPoint> coin = {}) = 0;
     /// Lets the operator choose a printer; nothing when he cancels.
     virtual std::unique_ptr<Destination> ShowPrinter() = 0;
+    /// Lets the operator choose a file to read; gives its full path, or \p dialogue.FileName as it stands when he
+    /// cancels.
+    virtual QString ShowOpen(const BoiteFichier &dialogue) = 0;
 
     /// Boxes shown so far: whoever moves the focus can tell whether the operator was stopped meanwhile.
     int nombre() const { return m_nombre; }
@@ -53,4 +64,5 @@ public:
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
+    QString ShowOpen(const BoiteFichier &dialogue) override;
 };

@@ -207,7 +207,8 @@ void Formulaire::prepareControles()
         controle->installEventFilter(this);
         if (auto *combo = qobject_cast<QComboBox *>(controle)) {
             combo->setInsertPolicy(QComboBox::NoInsert);
-            combo->setCompleter(nullptr);
+            if (combo->isEditable())
+                combo->setCompleter(nullptr);
         }
     }
 }

@@ -73,6 +73,7 @@ void Eequipes::relie()
     surMouseDown(m_ui->Label1, [this](int, int) { Label1_Click(); });
     surClick(m_ui->Okc, [this] { Okc_Click(); });
     surClick(m_ui->SupprimerC, [this] { SupprimerC_Click(); });
+    surClick(m_ui->cImport, [this] { cImport_Click(); });
     surClick(m_ui->Command1, [this] { Command1_Click(); });
     surClick(m_ui->Command2, [this] { Command2_Click(); });
 }

@@ -42,6 +42,7 @@ public:
     void Label1_Click();
     void Okc_Click();
     void SupprimerC_Click();
+    void cImport_Click();
     void Command1_Click();
     void Command2_Click();
 
@@ -114,6 +115,9 @@ private:
     bool inscrit(const EquipeSaisie &equipe, Retardataire entree);
     bool corrige(const EquipeSaisie &equipe);
     void signaleEchec(qint64 numero);
+
+    // Teams from a file
+    void importeEquipe(const QString &ligne);
 
     std::unique_ptr<Ui::Eequipes> m_ui;
     ChampsMembres m_NomJ{};

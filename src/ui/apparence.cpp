@@ -59,10 +59,13 @@ static void chargeRessources()
 
 void parleLangue(QApplication &application, const QLocale &langue)
 {
-    for (QTranslator *ancienne : application.findChildren<QTranslator *>(nomTraduction))
-        delete ancienne;
+    auto *ancienne = application.findChild<QTranslator *>(nomTraduction);
+    if (ancienne != nullptr && ancienne->property("langue").toLocale() == langue)
+        return;
+    delete ancienne;
     auto *traduction = new QTranslator(&application);
     traduction->setObjectName(nomTraduction);
+    traduction->setProperty("langue", langue);
     if (traduction->load(langue, QStringLiteral("qtbase"), QStringLiteral("_"),
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(traduction);

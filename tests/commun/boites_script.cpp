@@ -35,7 +35,12 @@ void BoitesScript::attend(const QString &partie, ReponseBoite reponse, const QSt
 
 void BoitesScript::attendSaisie(const QString &partie, const std::optional<QString> &saisie)
 {
-    m_attendues.push_back({.partie = partie, .saisie = true, .texteSaisi = saisie});
+    m_attendues.push_back({.partie = partie, .genre = Genre::Saisie, .texteSaisi = saisie});
+}
+
+void BoitesScript::attendFichier(const QString &titre, const std::optional<QString> &fichier)
+{
+    m_attendues.push_back({.partie = {}, .titre = titre, .genre = Genre::Fichier, .texteSaisi = fichier});
 }
 
 void BoitesScript::verifie()
@@ -45,7 +50,7 @@ void BoitesScript::verifie()
     m_attendues.clear();
 }
 
-std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &texte, const QString &titre, bool saisie)
+std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &texte, const QString &titre, Genre genre)
 {
     compte();
     m_textes += texte;
@@ -56,7 +61,7 @@ std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &text
     }
     const Attendue attendue = m_attendues.front();
     m_attendues.pop_front();
-    EXPECT_EQ(attendue.saisie, saisie) << texte.toStdString();
+    EXPECT_EQ(attendue.genre, genre) << texte.toStdString();
     EXPECT_TRUE(attendue.titre.isEmpty() || titre == attendue.titre) << titre.toStdString();
     EXPECT_TRUE(texte.contains(attendue.partie))
         << "expected: " << attendue.partie.toStdString() << "\nshown: " << texte.toStdString();
@@ -73,7 +78,7 @@ ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QStr
     montreUnInstant(texte, titre);
     const int boutons = drapeaux & 0x7;
     const bool question = boutons == vbYesNo || boutons == vbYesNoCancel;
-    const std::optional<Attendue> attendue = suivante(texte, titre, false);
+    const std::optional<Attendue> attendue = suivante(texte, titre, Genre::Message);
     if (!attendue)
         return question ? ReponseBoite::Non : ReponseBoite::OK;
     EXPECT_EQ(question, attendue->reponse != ReponseBoite::OK) << "no such button: " << texte.toStdString();
@@ -84,6 +89,12 @@ ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QStr
 std::optional<QString> BoitesScript::InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin)
 {
     m_coin = coin;
-    const std::optional<Attendue> attendue = suivante(texte, titre, true);
+    const std::optional<Attendue> attendue = suivante(texte, titre, Genre::Saisie);
     return attendue ? attendue->texteSaisi : std::nullopt;
+}
+
+QString BoitesScript::ShowOpen(const BoiteFichier &dialogue)
+{
+    const std::optional<Attendue> attendue = suivante(dialogue.FileName, dialogue.DialogTitle, Genre::Fichier);
+    return attendue && attendue->texteSaisi ? *attendue->texteSaisi : dialogue.FileName;
 }

@@ -25,6 +25,8 @@ public:
     void repondATout() { m_muette = true; }
     /// The next box asks for a line of text and gets \p saisie.
     void attendSaisie(const QString &partie, const std::optional<QString> &saisie);
+    /// The next box chooses a file, under the title \p titre: it gets \p fichier, or is cancelled.
+    void attendFichier(const QString &titre, const std::optional<QString> &fichier);
     /// All expected boxes have been shown; the others are forgotten.
     void verifie();
     /// Texts of all boxes shown, in order.
@@ -38,21 +40,24 @@ public:
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override { return imprimante ? imprimante() : nullptr; }
+    QString ShowOpen(const BoiteFichier &dialogue) override;
 
     /// Makes the printer that the operator chooses; without it he cancels.
     std::function<std::unique_ptr<Destination>()> imprimante;
 
 private:
+    enum class Genre { Message, Saisie, Fichier };
+
     struct Attendue
     {
         QString partie;
         ReponseBoite reponse = ReponseBoite::OK;
         QString titre = {};
-        bool saisie = false;
+        Genre genre = Genre::Message;
         std::optional<QString> texteSaisi = {};
     };
 
-    std::optional<Attendue> suivante(const QString &texte, const QString &titre, bool saisie);
+    std::optional<Attendue> suivante(const QString &texte, const QString &titre, Genre genre);
 
     std::deque<Attendue> m_attendues;
     QStringList m_textes;

@@ -41,7 +41,6 @@ ProgrammePilote::ProgrammePilote(quint32 graine)
     QPixmap drapeau(16, 16);
     drapeau.fill(Qt::blue);
     drapeau.save(m_dossier.filePath(u"1.ico"_qs), "PNG");
-    m_programme = std::make_unique<Programme>(dossier(), alea, horloge, boites);
 }
 
 ProgrammePilote::~ProgrammePilote()
@@ -51,6 +50,7 @@ ProgrammePilote::~ProgrammePilote()
 
 bool ProgrammePilote::demarre()
 {
+    m_programme = std::make_unique<Programme>(dossier(), alea, horloge, boites);
     return m_programme->demarre();
 }
 

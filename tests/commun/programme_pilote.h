@@ -28,7 +28,7 @@ public:
     explicit ProgrammePilote(quint32 graine = 1);
     ~ProgrammePilote();
 
-    /// Starts the program; what Programme::demarre() gives.
+    /// Starts the program, again after termine(); what Programme::demarre() gives.
     bool demarre();
     void termine();
 

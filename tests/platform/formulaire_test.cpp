@@ -23,6 +23,7 @@ public:
     }
     std::optional<QString> InputBox(const QString &, const QString &, std::optional<QPoint>) override { return {}; }
     std::unique_ptr<Destination> ShowPrinter() override { return nullptr; }
+    QString ShowOpen(const BoiteFichier &dialogue) override { return dialogue.FileName; }
 
     QStringList vues;
 };

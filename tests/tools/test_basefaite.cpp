@@ -228,7 +228,8 @@ TEST_F(BaseFaite, ApporteTypesCategoriesEtLeSeulClubPanache)
     EXPECT_EQ(nombre(u"select Nbjoueurs from typconcours where type = '1' and lang = 1"_qs), 2);
     EXPECT_EQ(nombre(u"select Nbjoueurs from typconcours where type = '2' and lang = 1"_qs), 3);
     EXPECT_EQ(nombre(u"select Nbjoueurs from typconcours where type = '3' and lang = 1"_qs), 1);
-    EXPECT_EQ(nombre(u"select count(*) from typconcours"_qs), 3);
+    EXPECT_EQ(nombre(u"select count(*) from typconcours"_qs), 3 * 6);
+    EXPECT_EQ(nombre(u"select count(distinct lang) from catégories"_qs), 6);
     EXPECT_GT(nombre(u"select count(*) from catégories where lang = 1"_qs), 0);
     EXPECT_EQ(nombre(u"select count(*) from societes"_qs), 1);
     EXPECT_EQ(nombre(u"select codesoc from societes where societe = '*Panachée'"_qs), 1);

@@ -77,7 +77,7 @@ TEST_F(Creebase, MontreLaLigneFautive)
         {"langues.txt", "numero\tcode\tdesignation\tactif\n1\tfr\tF\tvrai\n", "langues.txt:2 ", "oui ou non"},
         {"langues.txt", "numero\tcode\tdesignation\tactif\n1\tfr\tF\tnon\n", "langues.txt ", "active"},
         {"langues.txt", "numero\tcode\tdesignation\tactif\n1\tfr\tF\toui\n2\ten\tE\toui\n", "langues.txt ", "active"},
-        {"langues.txt", "numero\tcode\tdesignation\tactif\n1\tde\tD\toui\n", "messages.de.txt ", ""},
+        {"langues.txt", "numero\tcode\tdesignation\tactif\n1\txx\tX\toui\n", "messages.xx.txt ", ""},
         {"schema.sql", "create tabel x (y);", "schema.sql ", "tabel"},
     };
     for (const Cas &c : cas) {
@@ -92,6 +92,35 @@ TEST_F(Creebase, MontreLaLigneFautive)
             m_donnees.remove(nom);
         else
             ecrit(nom, avant);
+    }
+}
+
+TEST_F(Creebase, ToutesLesLanguesDisentLesMemesMessages)
+{
+    struct Cas
+    {
+        const char *ancien, *nouveau, *constat;
+    };
+    const Cas cas[] = {
+        {"\n49\t", "\n# 49\t", "le message 49 manque"},
+        {"\n49\t", "\n48\t\"x\"\n49\t", "le message 48 n'est pas dans messages.fr.txt"},
+        {"\n49\t\"", "\n49\t\" ", "le message 49 n'a pas les espaces"},
+        {"\n95\t\"Competition saved under the number ", "\n95\t\"Saved under", "le message 95 n'a pas les espaces"},
+        {"\n24\t\"", "\n24\t\"Team number one of them all", "le message 24 a plus de 22"},
+        {"\"Retired\"", "\"FORFEIT\"", "le message 44 est aussi le message 43"},
+        {"\n64\t\"Tour 1\"", "\n64\t\"Round 1\"", "le message 64 est le même"},
+        {"dd/mm/yyyy", "mm/dd/yyyy", "le message 117 n'est pas un format"},
+        {"en_GB", "english", "le message 128 n'est pas une langue"},
+    };
+    const QString nom = u"messages.en.txt"_qs;
+    const QByteArray juste = contenu(m_donnees.filePath(nom));
+    for (const Cas &c : cas) {
+        SCOPED_TRACE(c.constat);
+        QByteArray faux = juste;
+        ASSERT_TRUE(faux.contains(c.ancien));
+        ecrit(nom, faux.replace(c.ancien, c.nouveau));
+        const QString phrase = refus();
+        EXPECT_TRUE(phrase.contains(QString::fromUtf8(c.constat))) << qPrintable(phrase);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "fabrique.h"
 
 #include "app/base.h"
+#include "controle_langues.h"
 #include "lecteur.h"
 #include "store/base_native.h"
 #include "store/erreur.h"
@@ -191,7 +192,7 @@ void creeTables(BaseNative &base, const QDir &dossier)
     }
 }
 
-/// Languages and their messages: one language is active and complete, the others may come without their file.
+/// Languages and their messages: one language is active, and all hold the same messages.
 void remplitLangues(BaseNative &base, const QDir &dossier)
 {
     const QString nom = u"langues.txt"_qs;
@@ -203,17 +204,22 @@ void remplitLangues(BaseNative &base, const QDir &dossier)
 
     const qsizetype placeCode = langues.place(u"code");
     const qsizetype placeNumero = langues.place(u"numero");
-    const qsizetype placeActif = langues.place(u"actif");
     if (placeCode < 0)
         throw ErreurDonnees(nom, langues.ligneEntete, u"la colonne « code » manque"_qs);
     QStringList presents = dossier.entryList({u"messages.*.txt"_qs}, QDir::Files);
+    std::optional<FichierDonnees> reference;
     for (const LigneDonnees &ligne : langues.lignes) {
         if (!ligne.champs[placeCode])
             throw ErreurDonnees(nom, ligne.numero, u"la colonne « code » est vide"_qs);
-        const QString messages = u"messages.%1.txt"_qs.arg(*ligne.champs[placeCode]);
-        if (presents.removeAll(messages) > 0 || ligne.champs[placeActif] == u"oui"_qs)
-            remplit(base, dossier, messages,
-                    {u"langues"_qs, {u"num"_qs}, {u"mes"_qs}, {}, ligne.champs[placeNumero]->toLongLong()});
+        const FichierDonnees messages =
+            litFichier(dossier.filePath(u"messages.%1.txt"_qs.arg(*ligne.champs[placeCode])));
+        presents.removeAll(messages.nom);
+        Remplissage(base, messages,
+                    {u"langues"_qs, {u"num"_qs}, {u"mes"_qs}, {}, ligne.champs[placeNumero]->toLongLong()})
+            .execute();
+        if (!reference)
+            reference = messages;
+        controleMessages(messages, *reference);
     }
     if (!presents.isEmpty())
         throw ErreurDonnees(presents.first(), 0, u"aucune langue de %1 n'a ce code"_qs.arg(nom));

@@ -138,4 +138,14 @@ std::unique_ptr<Destination> BoitesPilotees::ShowPrinter()
     return std::make_unique<DestinationPdf>(std::exchange(m_document, QString()));
 }
 
+QString BoitesPilotees::ShowOpen(const BoiteFichier &dialogue)
+{
+    compte();
+    if (m_fichier.isEmpty()) {
+        retientFaute(u"Choix d'un fichier inattendu : « %1 »."_qs.arg(dialogue.DialogTitle));
+        return dialogue.FileName;
+    }
+    return std::exchange(m_fichier, QString());
+}
+
 } // namespace demonstration

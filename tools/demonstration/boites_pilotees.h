@@ -21,6 +21,10 @@ enum class Boite {
     Retardataire,
     MemeClub,
     DejaRencontrees,
+    Importation,
+    EquipeImportee,
+    Purge,
+    PurgeReussie,
 };
 
 /// The boxes of the desktop, answered by a click on the button that an organiser would take. A box that no instruction
@@ -39,12 +43,15 @@ public:
     void saisit(const QString &extrait, const QString &saisie, QStringView image);
     /// The next document goes to this PDF file; a printer asked for without it is a fault.
     void imprimeDans(const QString &fichier) { m_document = fichier; }
+    /// The file dialog chooses this file next; one that is asked for without it is a fault.
+    void choisit(const QString &fichier) { m_fichier = fichier; }
     /// What was unexpected since the start; empty when nothing was.
     const QString &faute() const { return m_faute; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
     std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
+    QString ShowOpen(const BoiteFichier &dialogue) override;
 
 private:
     struct Consigne
@@ -71,6 +78,7 @@ private:
     std::vector<Consigne> m_consignes;
     std::optional<Saisie> m_saisie;
     QString m_document;
+    QString m_fichier;
     QHash<Boite, int> m_fois;
     QString m_faute;
 };

@@ -126,7 +126,6 @@ void Inscription::corrige(const EquipeDuJour &equipe)
     verifieBase(equipe, equipe.joueurs.front().nom);
 }
 
-/// The team stands in the base as it was typed, \p nom being the name of its first player.
 void Inscription::verifieBase(const EquipeDuJour &equipe, const QString &nom) const
 {
     store::Database &base = m_programme.partage().BaseDonnees;

@@ -18,13 +18,14 @@ public:
     void inscrit(const EquipeDuJour &equipe);
     /// Calls a team back by its number and mends the name of its first player.
     void corrige(const EquipeDuJour &equipe);
+    /// Ends the day unless the team stands in the base as it came in, \p nom being the name of its first player.
+    void verifieBase(const EquipeDuJour &equipe, const QString &nom) const;
 
 private:
     void saisitJoueur(const EquipeDuJour &equipe, int place);
     void saisitClub(const EquipeDuJour &equipe);
     void enregistre();
     void photographie(const EquipeDuJour &equipe);
-    void verifieBase(const EquipeDuJour &equipe, const QString &nom) const;
 
     Programme &m_programme;
     Operateur &m_main;

@@ -1,4 +1,5 @@
 #include "bilan.h"
+#include "cloture.h"
 #include "ecran.h"
 #include "incident.h"
 #include "journee.h"
@@ -39,7 +40,7 @@ void prepareDossier(const QDir &dossier)
           u"Le dossier %1 contient une base qui n'est pas celle d'une démonstration ; elle reste intacte. "
           u"Choisissez un autre dossier."_qs.arg(QDir::toNativeSeparators(dossier.path())));
     for (const QString &nom : QStringList{base, base + u"-wal"_qs, base + u"-shm"_qs, icone}
-             + Photographe::fichiers() + Impressions::fichiers())
+             + Photographe::fichiers() + Impressions::fichiers() + Cloture::fichiers())
         exige(!dossier.exists(nom) || QFile::remove(dossier.filePath(nom)),
               u"Le fichier %1 ne peut pas être remplacé."_qs.arg(QDir::toNativeSeparators(dossier.filePath(nom))));
     const QDir programme(QApplication::applicationDirPath());
@@ -76,6 +77,7 @@ void joue(const Options &options)
         dit(ligne);
     gardeCompteRendu(dossier, lignes + bilan.fautes());
     exige(bilan.fautes().isEmpty(), u"La journée enfreint %1 règle(s)."_qs.arg(bilan.fautes().size()));
+    Cloture(options, plateau).joue();
     dit(u"Concours terminé en %1 s ; la base et les images sont dans %2"_qs
             .arg(double(chronometre.elapsed()) / 1000, 0, 'f', 1)
             .arg(QDir::toNativeSeparators(dossier.absolutePath())));

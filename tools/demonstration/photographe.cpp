@@ -52,6 +52,11 @@ constexpr QStringView catalogue[] = {
     u"outils-tirage",
     u"boite-alarme",
     u"outils",
+    u"boite-importation",
+    u"boite-equipe-importee",
+    u"equipes-importees",
+    u"boite-purge",
+    u"boite-purge-reussie",
 };
 
 constexpr int hauteurTitre = 30;

@@ -1,0 +1,22 @@
+# Fails when the sources under SOURCES read a message by a number that MESSAGES does not hold, and stamps TEMOIN.
+cmake_minimum_required(VERSION 3.25)
+
+file(STRINGS ${MESSAGES} lignes REGEX "^[0-9]+\t")
+set(connus "")
+foreach(ligne IN LISTS lignes)
+  string(REGEX MATCH "^[0-9]+" numero "${ligne}")
+  list(APPEND connus ${numero})
+endforeach()
+
+file(GLOB_RECURSE sources ${SOURCES}/*.cpp ${SOURCES}/*.h)
+foreach(source IN LISTS sources)
+  file(READ ${source} texte)
+  string(REGEX MATCHALL "mes\\([0-9]+\\)" lectures "${texte}")
+  foreach(lecture IN LISTS lectures)
+    string(REGEX MATCH "[0-9]+" numero ${lecture})
+    if(NOT numero IN_LIST connus)
+      message(SEND_ERROR "${source} reads message ${numero}, which is not in ${MESSAGES}")
+    endif()
+  endforeach()
+endforeach()
+file(TOUCH ${TEMOIN})

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/formulaire.h"
+
+/// The operations on whole base files that the purge is made of. The tests make each of them fail.
+class FichiersBase
+{
+public:
+    virtual ~FichiersBase();
+
+    /// Removes the base file \p fichier and, before it, what the engine keeps beside it: a new file of that name must
+    /// not find them. Throws store::Erreur.
+    virtual void supprime(const QString &fichier) const;
+    /// Rewrites the closed base \p source into the new file \p cible, and proves that the new file can be read. Throws
+    /// store::Erreur; \p cible is gone again then.
+    virtual void compacte(const QString &source, const QString &cible) const;
+    /// Throws store::Erreur.
+    virtual void renomme(const QString &ancien, const QString &nouveau) const;
+    /// Opens the base \p fichier for the whole program. Throws store::Erreur.
+    virtual store::Database ouvre(const store::Workspace &espace, const QString &fichier) const;
+};
+
+/// Asks, and empties the base of all competitions at the end of a season: the clubs and the pre-registered players
+/// stay. The file is rewritten without the room that the rows took.
+void Torvik_mnu_base_Click(const Contexte &contexte);
+/// The same on other file operations.
+void PurgeBase(const Contexte &contexte, const FichiersBase &fichiers);
+
+/// What an operator can do at a start without a base, when a purge that was cut short has left the whole base under its
+/// temporary name in \p dossier; empty when there is no such file.
+QString ConseilBaseTemporaire(const QString &dossier);

@@ -1,0 +1,162 @@
+#include "cloture.h"
+
+#include "app/base.h"
+#include "app/routines.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace demonstration {
+
+namespace {
+
+const QString copieDuJour = u"VarloBase-journee.mdb"_qs;
+const QString fichierEquipes = u"equipes.dat"_qs;
+const QString fichierJoueurs = u"joueurs.txt"_qs;
+const QString fichierClubs = u"clubs.txt"_qs;
+/// More would show nothing that these do not.
+constexpr std::size_t equipesImportees = 24;
+
+QString ligneEquipe(const EquipeDuJour &equipe)
+{
+    QStringList champs{equipe.club};
+    for (const Joueur &joueur : equipe.joueurs)
+        champs += {joueur.nom, joueur.prenom, joueur.licence};
+    // The bar at the end may be there or not.
+    return champs.join(u'|') + (equipe.numero % 2 == 0 ? u"|"_qs : QString());
+}
+
+void ecrit(const QString &chemin, const QStringList &lignes)
+{
+    QFile fichier(chemin);
+    const QByteArray octets = lignes.join(u"\r\n").toUtf8() + "\r\n";
+    exige(fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size(),
+          u"Le fichier %1 ne peut pas être écrit."_qs.arg(QDir::toNativeSeparators(chemin)));
+}
+
+} // namespace
+
+Cloture::Cloture(const Options &options, const Plateau &plateau)
+    : m_options(options)
+    , m_plateau(plateau)
+    , m_equipes(std::span(plateau.equipes()).first(std::min(plateau.equipes().size(), equipesImportees)))
+    , m_photographe(options.dossier)
+    , m_boites(m_photographe)
+    , m_alea(options.graine)
+    , m_programme(options.dossier, m_alea, m_horloge, m_boites)
+    , m_main(m_programme, m_boites)
+    , m_inscription(m_programme, m_main, m_boites, m_photographe)
+{
+}
+
+QStringList Cloture::fichiers()
+{
+    return {copieDuJour, fichierEquipes, fichierJoueurs, fichierClubs};
+}
+
+QString Cloture::chemin(const QString &nom) const
+{
+    return QDir(m_options.dossier).filePath(nom);
+}
+
+qint64 Cloture::nombre(const QString &lignes)
+{
+    return ValeurUnique(m_programme.partage(), u"select count(*) from "_qs + lignes).entier();
+}
+
+void Cloture::joue()
+{
+    exige(QFile::copy(chemin(nomBase), chemin(copieDuJour)), u"La base du jour n'a pas pu être copiée."_qs);
+    ecritFichiers();
+    const bool pret = m_programme.demarre();
+    exige(pret && m_boites.faute().isEmpty(), u"Le programme n'a pas redémarré. "_qs + m_boites.faute());
+    exige(QTest::qWaitForWindowActive(m_main.fenetre(u"Accueil"_qs)), u"Accueil ne vient pas devant."_qs);
+    prevoitBoites();
+    importeEquipes();
+    importeListes();
+    purge();
+    m_programme.termine();
+}
+
+void Cloture::ecritFichiers() const
+{
+    QStringList equipes;
+    for (const EquipeDuJour &equipe : m_equipes)
+        equipes += ligneEquipe(equipe);
+    ecrit(chemin(fichierEquipes), equipes);
+    QStringList joueurs{u"N° licence;Nom;Prénom;Nom du club"_qs};
+    for (const EquipeDuJour &equipe : m_plateau.equipes()) {
+        for (const Joueur &joueur : equipe.joueurs)
+            joueurs += QStringList{joueur.licence, joueur.nom, joueur.prenom, u'"' + joueur.club + u'"'}.join(u';');
+    }
+    ecrit(chemin(fichierJoueurs), joueurs);
+    QStringList clubs{u"Code club;Nom du club"_qs};
+    for (const QString &club : m_plateau.clubs())
+        clubs += u"%1;%2"_qs.arg(clubs.size()).arg(club);
+    ecrit(chemin(fichierClubs), clubs);
+}
+
+void Cloture::prevoitBoites()
+{
+    const TableMessages &mes = m_programme.partage().mes;
+    m_boites.attend(Boite::Importation, mes(100), ReponseBoite::Oui, u"boite-importation");
+    m_boites.attend(Boite::EquipeImportee, mes(101), ReponseBoite::Oui, u"boite-equipe-importee");
+    m_boites.attend(Boite::Panachees, u"Les équipes panachées sont-elles autorisées"_qs, ReponseBoite::Oui,
+                    u"boite-panachees");
+    m_boites.attend(Boite::Purge, u"Attention cette opération est irréversible"_qs, ReponseBoite::Oui, u"boite-purge");
+    m_boites.attend(Boite::PurgeReussie, u"Opération réussie"_qs, ReponseBoite::OK, u"boite-purge-reussie");
+}
+
+/// The teams of the day come back for a competition of the same type.
+void Cloture::importeEquipes()
+{
+    m_programme.partage().BaseDonnees.Execute(
+        u"insert into concours ([date], lieu, type, categorie, pro) select [date], lieu, type, categorie, pro from "
+        u"concours");
+    m_inscription.ouvre();
+    m_boites.choisit(chemin(fichierEquipes));
+    m_main.clique(m_main.controle(u"Eequipes"_qs, u"cImport"_qs));
+    exige(m_boites.fois(Boite::Importation) == 1 && m_boites.fois(Boite::EquipeImportee) == int(m_equipes.size()),
+          u"Le fichier des équipes n'a pas été lu jusqu'au bout."_qs);
+    for (const EquipeDuJour &equipe : m_equipes)
+        m_inscription.verifieBase(equipe, equipe.joueurs.front().nom);
+    m_photographe.prend(u"equipes-importees", *m_main.fenetre(u"Eequipes"_qs));
+    dit(u"Importation : %1 équipes du fichier %2"_qs.arg(m_equipes.size()).arg(fichierEquipes));
+}
+
+void Cloture::importeListes()
+{
+    choisit(u"mnu_ijoueur"_qs);
+    choisit(u"mnu_iclub"_qs);
+    const qint64 joueurs = nombre(u"joueurs where licence is not null and nom is not null and societe is not null"_qs);
+    exige(joueurs == qint64(m_plateau.equipes().size()) * m_options.joueurs() && nombre(u"clubs"_qs) == qint64(m_plateau.clubs().size()),
+          u"Les listes des joueurs et des clubs ne sont pas entrées."_qs);
+    dit(u"Importation : %1 joueurs, %2 clubs"_qs.arg(joueurs).arg(m_plateau.clubs().size()));
+}
+
+void Cloture::purge()
+{
+    const qint64 preenregistres = nombre(u"equipes where concours = 0"_qs);
+    const qint64 clubs = nombre(u"societes"_qs);
+    choisit(u"mnu_base"_qs);
+    exige(m_boites.fois(Boite::PurgeReussie) == 1, u"La remise à zéro n'a pas abouti."_qs);
+    exige(nombre(u"equipes"_qs) == preenregistres && nombre(u"equipes where concours = 0"_qs) == preenregistres
+              && nombre(u"societes"_qs) == clubs,
+          u"La remise à zéro n'a pas gardé les joueurs et les clubs."_qs);
+    for (const QString &table : {u"concours"_qs, u"scores"_qs, u"evolution"_qs})
+        exige(nombre(table) == 0, u"La remise à zéro a laissé des lignes dans %1."_qs.arg(table));
+    dit(u"Remise à zéro : %1 joueurs pré-enregistrés gardés ; la base du jour est dans %2"_qs.arg(preenregistres)
+            .arg(copieDuJour));
+}
+
+void Cloture::choisit(const QString &entree)
+{
+    auto *action = m_main.fenetre(u"Torvik"_qs)->findChild<QAction *>(entree);
+    exige(action != nullptr, u"Le menu n'a pas d'entrée %1."_qs.arg(entree));
+    action->trigger();
+    exige(m_boites.faute().isEmpty(), m_boites.faute());
+}
+
+} // namespace demonstration
