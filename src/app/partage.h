@@ -29,6 +29,7 @@ struct Partage
     store::DBEngine moteur;
     store::Workspace *EspaceTravail = nullptr;
     store::Database BaseDonnees;
+    bool AvecCopies = true; ///< Safety copies are made.
 
     // Current competition
     qint32 ConcoursCourant = 0; ///< 0 for none.

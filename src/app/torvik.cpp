@@ -128,6 +128,7 @@ void Torvik::Form_Load()
     ouvreBase();
     ChargeLangue(partage);
     LegendesTorvik();
+    GardeUneCopie(m_contexte);
     setGeometry(screen()->geometry());
     show();
     m_contexte.formulaires.Montre(u"Accueil"_qs);

@@ -123,6 +123,7 @@ void Eequipes::signaleEchec(qint64 numero)
 void Eequipes::SupprimerC_Click()
 {
     const qint64 numero = numeroEquipe();
+    GardeUneCopie(contexte());
     const bool retiree = RetireEquipe(partage(), partage().ConcoursCourant, numero);
     const QString tape = m_ui->Equipe->currentText();
     for (int i = m_ui->Equipe->count() - 1; i >= 0; --i) {

@@ -28,6 +28,8 @@ public:
     explicit ProgrammePilote(quint32 graine = 1);
     ~ProgrammePilote();
 
+    /// Safety copies are made from the next start on; without them a test is quicker.
+    void avecCopies() { m_copies = true; }
     /// Starts the program, again after termine(); what Programme::demarre() gives.
     bool demarre();
     void termine();
@@ -68,5 +70,6 @@ private:
     QWidget *cherche(const QString &forme, const QString &nom);
 
     QTemporaryDir m_dossier;
+    bool m_copies = false;
     std::unique_ptr<Programme> m_programme;
 };
