@@ -3,6 +3,7 @@
 #include "app/accueil.h"
 #include "app/langues.h"
 #include "app/torvik.h"
+#include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
 #include "maintenance/alerte.h"
 #include "printing/i_tirage.h"
@@ -50,6 +51,7 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"Alerte"_qs, fabrique<Alerte>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
+    m_formulaires.enregistre(u"FrmHorloge"_qs, fabrique<FrmHorloge>());
     m_formulaires.enregistre(u"langues"_qs, fabrique<langues>());
     m_formulaires.enregistre(u"Ejoueurs"_qs, fabrique<Ejoueurs>());
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
