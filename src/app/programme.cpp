@@ -6,6 +6,8 @@
 #include "competitions/econcours.h"
 #include "maintenance/alerte.h"
 #include "printing/i_tirage.h"
+#include "printing/palmares.h"
+#include "printing/resusoc.h"
 #include "registration/eequipes.h"
 #include "registration/listesoc.h"
 #include "results/detail_resultats.h"
@@ -48,6 +50,8 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
+    m_formulaires.enregistre(u"palmares"_qs, fabrique<palmares>());
+    m_formulaires.enregistre(u"Resusoc"_qs, fabrique<Resusoc>());
     m_formulaires.enregistre(u"valresu"_qs, fabrique<valresu>());
     m_formulaires.enregistre(u"manqres"_qs, fabrique<manqres>());
     m_formulaires.enregistre(u"Groupes"_qs, fabrique<Groupes>());

@@ -3,7 +3,6 @@
 namespace {
 
 const QString policeFeuilles = u"Times New Roman"_qs;
-const QString adresseEditeur = u"www.varlotour.example"_qs;
 constexpr int gauchePied = 400;
 constexpr int droitePied = 2200;
 

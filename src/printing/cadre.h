@@ -6,6 +6,9 @@
 #include <functional>
 #include <memory>
 
+/// Address at the foot of every page.
+inline const QString adresseEditeur = u"www.varlotour.example"_qs;
+
 /// What all sheets share: the printer dialog, the page head, the footer and the page counter of one document. Positions
 /// are in twips.
 class Cadre
