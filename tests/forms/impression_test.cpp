@@ -1,3 +1,4 @@
+#include "commun/papier_garde.h"
 #include "commun/programme_essai.h"
 
 #include "platform/destinations.h"
@@ -8,24 +9,6 @@
 namespace {
 
 const QString D = u"I_tirage"_qs;
-using Pages = std::vector<PageDessinee>;
-
-/// A printer that keeps what it is sent.
-class DestinationGardee final : public Destination
-{
-public:
-    explicit DestinationGardee(std::vector<Pages> &documents) : m_documents(documents) {}
-    QSize papier() const override { return papierA4; }
-    QMargins marges() const override { return margesHabituelles; }
-    bool recoit(const Pages &pages, int) override
-    {
-        m_documents.push_back(pages);
-        return true;
-    }
-
-private:
-    std::vector<Pages> &m_documents;
-};
 
 QString texteDe(const PageDessinee &page)
 {
@@ -34,15 +17,6 @@ QString texteDe(const PageDessinee &page)
         textes += dessin.texte.trimmed();
     textes.removeAll(QString());
     return textes.join(u'|');
-}
-
-const Dessin *trouve(const PageDessinee &page, const QString &texte)
-{
-    for (const Dessin &dessin : page.dessins) {
-        if (dessin.genre == Dessin::Texte && dessin.texte.trimmed() == texte)
-            return &dessin;
-    }
-    return nullptr;
 }
 
 /// A doublette competition of \p n teams whose rounds are rows of the test.

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/imprimante.h"
+
+#include <QStringList>
+
+/// Pages of one printed document.
+using Pages = std::vector<PageDessinee>;
+
+/// A printer of plain A4 that keeps what it is sent.
+class DestinationGardee final : public Destination
+{
+public:
+    explicit DestinationGardee(std::vector<Pages> &documents) : m_documents(documents) {}
+    QSize papier() const override { return papierA4; }
+    QMargins marges() const override { return margesHabituelles; }
+    bool recoit(const Pages &pages, int) override
+    {
+        m_documents.push_back(pages);
+        return true;
+    }
+
+private:
+    std::vector<Pages> &m_documents;
+};
+
+/// First text of a page that reads \p texte, blanks at its ends aside; null when there is none.
+inline const Dessin *trouve(const PageDessinee &page, const QString &texte)
+{
+    for (const Dessin &dessin : page.dessins) {
+        if (dessin.genre == Dessin::Texte && dessin.texte.trimmed() == texte)
+            return &dessin;
+    }
+    return nullptr;
+}
