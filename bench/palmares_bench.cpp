@@ -12,10 +12,6 @@
 
 namespace {
 
-constexpr int equipesDuPalmares = 512;
-constexpr int toursDuPalmares = 14;
-constexpr int equipesDuTirage = 1024;
-
 /// Every round has as many matches as teams allow: the list at its longest.
 std::vector<moteur::Rencontre> toursComplets(int equipes, int tours)
 {
@@ -23,7 +19,8 @@ std::vector<moteur::Rencontre> toursComplets(int equipes, int tours)
     for (int tour = 1; tour <= tours; ++tour) {
         for (int equipe = 1; equipe < equipes; equipe += 2) {
             const int perdant = (equipe + tour) % 13;
-            rencontres.push_back({.tour = tour, .equipe1 = equipe, .equipe2 = equipe + 1, .score1 = 13, .score2 = perdant});
+            rencontres.push_back(
+                {.tour = tour, .equipe1 = equipe, .equipe2 = equipe + 1, .score1 = 13, .score2 = perdant});
         }
     }
     return rencontres;
@@ -39,9 +36,9 @@ void prepare(ProgrammePilote &prog, int equipes, int tours)
 
 void Palmares(benchmark::State &etat)
 {
-    limite(etat, 300);
+    limite(etat, double(etat.range(2)));
     ProgrammePilote prog;
-    prepare(prog, equipesDuPalmares, toursDuPalmares);
+    prepare(prog, int(etat.range(0)), int(etat.range(1)));
     for (auto _ : etat) {
         prog.formulaires().Montre(u"palmares"_qs);
         QApplication::processEvents();
@@ -51,13 +48,13 @@ void Palmares(benchmark::State &etat)
         etat.ResumeTiming();
     }
 }
-BENCHMARK(Palmares)->Unit(benchmark::kMillisecond);
+BENCHMARK(Palmares)->ArgNames({"equipes", "tours", ""})->Args({512, 14, 300})->Unit(benchmark::kMillisecond);
 
 void FeuilleTirage(benchmark::State &etat)
 {
-    limite(etat, 2000);
+    limite(etat, double(etat.range(1)));
     ProgrammePilote prog;
-    prepare(prog, equipesDuTirage, 1);
+    prepare(prog, int(etat.range(0)), 1);
     const QString fichier = prog.dossier() + u"/tirage.pdf"_qs;
     prog.boites.imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
     for (auto _ : etat)
@@ -65,6 +62,6 @@ void FeuilleTirage(benchmark::State &etat)
     if (QFileInfo(fichier).size() == 0)
         etat.SkipWithError("nothing was printed");
 }
-BENCHMARK(FeuilleTirage)->Unit(benchmark::kMillisecond);
+BENCHMARK(FeuilleTirage)->ArgNames({"equipes", ""})->Args({1024, 2000})->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -5,6 +5,7 @@ namespace {
 const QString policeFeuilles = u"Times New Roman"_qs;
 constexpr int gauchePied = 400;
 constexpr int droitePied = 2200;
+constexpr double tailleLisible = 7; // points
 
 QString tailleEquipe(int joueurs)
 {
@@ -19,6 +20,15 @@ QString tailleEquipe(int joueurs)
 }
 
 } // namespace
+
+void ecritJusque(Imprimante &papier, const QString &texte, int fin)
+{
+    const double taille = papier.FontSize;
+    while (papier.CurrentX + papier.TextWidth(texte) > fin && papier.FontSize > tailleLisible)
+        papier.FontSize -= 1;
+    papier.Print(texte, false);
+    papier.FontSize = taille;
+}
 
 QString aligneDroite(const QString &texte, int largeur)
 {

@@ -8,7 +8,6 @@
 #include "printing/imprime_palmares.h"
 #include "printing/remplit_tour.h"
 #include "printing/resusoc.h"
-#include "results/grille_resultats.h"
 #include "ui_palmares.h"
 
 #include <array>
@@ -150,16 +149,18 @@ void palmares::ajouteTour(FlexGrid &grille, int tour)
 /// The columns have their usual widths unless a text would be cut; grid and form follow them, as far as the screen goes.
 void palmares::elargit(FlexGrid &grille)
 {
-    grille::LargeursUtiles largeurs;
-    for (int ligne = 1; ligne < grille.Rows(); ++ligne) {
-        for (int colonne = 0; colonne < grille.Cols(); ++colonne)
-            largeurs.note(colonne, grille.TextMatrix(ligne, colonne));
+    int voulue = ascenseur;
+    for (int colonne = 0; colonne < grille.Cols(); ++colonne) {
+        int texte = grille.LargeurTexte(grille.TextMatrix(0, colonne).trimmed(), true);
+        for (int ligne = 1; ligne < grille.Rows(); ++ligne)
+            texte = std::max(texte, grille.LargeurTexte(grille.TextMatrix(ligne, colonne)));
+        if (texte > grille.ColWidth(colonne))
+            grille.setColWidth(colonne, texte);
+        voulue += grille.ColWidth(colonne);
     }
-    largeurs.applique(grille);
-    int largeur = ascenseur;
-    for (int colonne = 0; colonne < grille.Cols(); ++colonne)
-        largeur += grille.ColWidth(colonne);
-    largeur = std::min(largeur, Ecran::Width() - autourGrille);
+    const int largeur = std::min(voulue, Ecran::Width() - autourGrille);
+    // The frame of the grid takes a few pixels of the last column: no reason to scroll sideways.
+    grille.setHorizontalScrollBarPolicy(largeur < voulue ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     grille.resize(enPixels(largeur), grille.height());
     m_ui->titre_1->setGeometry(grille.x(), m_ui->titre_1->y(), grille.width(), m_ui->titre_1->height());
     fixeLargeur(largeur + autourGrille);

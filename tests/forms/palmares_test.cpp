@@ -63,10 +63,9 @@ protected:
             const Ligne &attendue = attendues[std::size_t(ligne) - 1];
             for (int colonne = 0; colonne < 3; ++colonne)
                 EXPECT_EQ(grille().TextMatrix(ligne, colonne), attendue[std::size_t(colonne)]) << "row " << ligne;
-            if (attendue[1].contains(u" bat ") || attendue[1].contains(u" vs "))
-                EXPECT_EQ(grille().CellBackColor(ligne, 1), blanc);
-            else if (attendue[1].endsWith(u"Exempt"))
-                EXPECT_EQ(grille().CellBackColor(ligne, 1), cyan);
+            const bool label = attendue[0] == u"Finaliste" || attendue[0] == u"Vainqueur";
+            const quint32 fond = attendue[1].endsWith(u"Exempt") ? cyan : label ? FlexGrid::FondFenetre : blanc;
+            EXPECT_EQ(grille().CellBackColor(ligne, 1), fond);
         }
     }
 };
