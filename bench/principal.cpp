@@ -45,7 +45,7 @@ private:
                 nom.erase(place, nom.find('/', place + 1) - place);
         }
         // The limit itself is the one argument without a name.
-        if (const auto place = nom.rfind('/'); nom.find(':', place) == std::string::npos)
+        if (const auto place = nom.rfind('/'); place != std::string::npos && nom.find(':', place) == std::string::npos)
             nom.erase(place);
         const auto limite = mesure.counters.find("limite");
         std::printf("%-52s %12.3f", nom.c_str(), ms);

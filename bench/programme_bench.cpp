@@ -1,3 +1,4 @@
+#include "app/sauvegarde.h"
 #include "commun/base_essai.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
@@ -6,6 +7,7 @@
 #include "mesure.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QLineEdit>
 
 // What the operator waits for: the store, the forms and the disk included.
@@ -96,6 +98,27 @@ BENCHMARK(CalculClassement)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 
+/// A safety copy of a season's base, on the disk.
+void CopieDeSecurite(benchmark::State &etat)
+{
+    limite(etat, 100);
+    const BaseEssai base;
+    AleaFixe alea(1);
+    const Horloge horloge;
+    Partage partage(base.dossier(), alea, horloge);
+    partage.BaseDonnees = base.ouvre();
+    poseSaison(partage.BaseDonnees);
+    for (auto _ : etat) {
+        etat.PauseTiming();
+        partage.BaseDonnees.Execute(u"update concours set tourpri = 1");
+        etat.ResumeTiming();
+        if (!SauveBase(partage).isEmpty())
+            etat.SkipWithError("the copy has failed");
+    }
+    etat.counters["Mo"] = double(QFileInfo(base.fichier()).size()) / 1e6;
+}
+BENCHMARK(CopieDeSecurite)->Unit(benchmark::kMillisecond)->Iterations(25)->UseRealTime();
+
 /// From the click on the draw button to the form with the new round, which is safe on the disk by then.
 void ClicTirageSuivant(benchmark::State &etat)
 {
@@ -152,6 +175,7 @@ void Demarrage(benchmark::State &etat)
     limite(etat, 400);
     for (auto _ : etat) {
         ProgrammePilote prog;
+        prog.avecCopies();
         if (etat.range(0) != 0) {
             store::Database base =
                 store::DBEngine().Workspaces(0).OpenDatabase(prog.fichier(), false, false, BaseEssai::connexion());

@@ -8,7 +8,7 @@ mapfile -t voulus < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$liste"
 if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
     {
         echo "Ce système n'installe pas ses paquets par apt-get. VarloTour demande un compilateur C++20, CMake 3.25,"
-        echo "Ninja, pkg-config, Qt 6.4 (Base et Svg), SQLCipher, GoogleTest et Google Benchmark ; sous Debian 12 :"
+        echo "Ninja, pkg-config, Qt 6.4 (Base, Svg et Multimedia), SQLCipher, GoogleTest et Google Benchmark ; sous Debian 12 :"
         echo "  ${voulus[*]}"
     } >&2
     exit 1

@@ -6,6 +6,10 @@
 #include "engine/tirage_suivant.h"
 #include "store/database.h"
 
+#include <QDateTime>
+
+#include <vector>
+
 /// State that all screens share for one run. There is one object of it, made by the entry routine and passed on.
 struct Partage
 {
@@ -25,6 +29,7 @@ struct Partage
     store::DBEngine moteur;
     store::Workspace *EspaceTravail = nullptr;
     store::Database BaseDonnees;
+    bool AvecCopies = true; ///< Safety copies are made.
 
     // Current competition
     qint32 ConcoursCourant = 0; ///< 0 for none.
@@ -44,6 +49,11 @@ struct Partage
     // Draws
     moteur::TabTirage TabTirage; ///< Pairs between the draw and its writing.
     qint16 EssaisTirage = 0;
+
+    // Toolbox
+    std::vector<qint16> Tirages; ///< Numbers of the lottery: those still to be drawn come first.
+    qint16 &RestantTirages = EssaisTirage; ///< How many are still to be drawn; one storage for two uses.
+    QDateTime HeureAlarme;
 
     // Results
     bool AttendusAJour = false;

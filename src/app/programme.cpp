@@ -3,13 +3,18 @@
 #include "app/accueil.h"
 #include "app/langues.h"
 #include "app/torvik.h"
+#include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
 #include "maintenance/alerte.h"
 #include "printing/i_tirage.h"
 #include "printing/palmares.h"
 #include "printing/resusoc.h"
 #include "registration/eequipes.h"
+#include "registration/ejoueurs.h"
+#include "registration/listco.h"
+#include "registration/listeq.h"
 #include "registration/listesoc.h"
+#include "registration/listjo.h"
 #include "results/detail_resultats.h"
 #include "results/eresultats.h"
 #include "results/groupes.h"
@@ -46,9 +51,14 @@ void Programme::enregistreFormes()
     m_formulaires.enregistre(u"Alerte"_qs, fabrique<Alerte>());
     m_formulaires.enregistre(u"Econcours"_qs, fabrique<Econcours>());
     m_formulaires.enregistre(u"Eequipes"_qs, fabrique<Eequipes>());
+    m_formulaires.enregistre(u"FrmHorloge"_qs, fabrique<FrmHorloge>());
     m_formulaires.enregistre(u"langues"_qs, fabrique<langues>());
+    m_formulaires.enregistre(u"Ejoueurs"_qs, fabrique<Ejoueurs>());
     m_formulaires.enregistre(u"I_tirage"_qs, fabrique<I_tirage>());
+    m_formulaires.enregistre(u"Listco"_qs, fabrique<Listco>());
+    m_formulaires.enregistre(u"listeq"_qs, fabrique<listeq>());
     m_formulaires.enregistre(u"Listesoc"_qs, fabrique<Listesoc>());
+    m_formulaires.enregistre(u"listjo"_qs, fabrique<listjo>());
     m_formulaires.enregistre(u"EResultats"_qs, fabrique<EResultats>());
     m_formulaires.enregistre(u"palmares"_qs, fabrique<palmares>());
     m_formulaires.enregistre(u"Resusoc"_qs, fabrique<Resusoc>());

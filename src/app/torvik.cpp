@@ -29,23 +29,25 @@ struct Famille
 };
 
 const Famille familleAccueil{{u"Econcours"_qs, u"Eequipes"_qs, u"EResultats"_qs, u"Listesoc"_qs, u"manqres"_qs,
-                              u"palmares"_qs, u"valresu"_qs},
+                              u"palmares"_qs, u"valresu"_qs, u"Ejoueurs"_qs, u"listeq"_qs, u"Listco"_qs},
                              {},
                              u"Accueil"_qs};
 const Famille familleConcours{
-    {u"Eequipes"_qs, u"EResultats"_qs, u"Listesoc"_qs, u"manqres"_qs, u"palmares"_qs, u"valresu"_qs},
+    {u"Eequipes"_qs, u"EResultats"_qs, u"Listesoc"_qs, u"manqres"_qs, u"palmares"_qs, u"valresu"_qs, u"Ejoueurs"_qs,
+     u"listeq"_qs},
     {},
     u"Econcours"_qs};
 const Famille familleEquipes{
-    {u"Econcours"_qs, u"EResultats"_qs, u"manqres"_qs, u"palmares"_qs, u"valresu"_qs, u"Resusoc"_qs},
+    {u"Econcours"_qs, u"EResultats"_qs, u"manqres"_qs, u"palmares"_qs, u"valresu"_qs, u"Resusoc"_qs, u"Ejoueurs"_qs,
+     u"listeq"_qs, u"Listco"_qs},
     u"Listesoc"_qs,
     u"Eequipes"_qs};
 const Famille familleJoueurs{{u"Econcours"_qs, u"EResultats"_qs, u"Eequipes"_qs, u"Listesoc"_qs, u"manqres"_qs,
-                              u"palmares"_qs, u"valresu"_qs, u"Resusoc"_qs},
+                              u"palmares"_qs, u"valresu"_qs, u"Resusoc"_qs, u"listeq"_qs, u"Listco"_qs},
                              {},
                              u"Ejoueurs"_qs};
 const Famille familleResultats{{u"Econcours"_qs, u"Eequipes"_qs, u"Listesoc"_qs, u"manqres"_qs, u"palmares"_qs,
-                                u"valresu"_qs, u"Resusoc"_qs},
+                                u"valresu"_qs, u"Resusoc"_qs, u"Ejoueurs"_qs, u"listeq"_qs, u"Listco"_qs},
                                {},
                                u"EResultats"_qs};
 
@@ -128,6 +130,7 @@ void Torvik::Form_Load()
     ouvreBase();
     ChargeLangue(partage);
     LegendesTorvik();
+    GardeUneCopie(m_contexte);
     setGeometry(screen()->geometry());
     show();
     m_contexte.formulaires.Montre(u"Accueil"_qs);

@@ -341,5 +341,9 @@ void Econcours::enregistreEtVide(Recordset &concours)
 
 void Econcours::Command1_Click()
 {
-    formulaires().Montre(u"Listco"_qs);
+    const QString nom = u"Listco"_qs;
+    // A list left open may lack the competitions entered since.
+    if (Formulaire *liste = formulaires().forme(nom))
+        liste->Form_Load();
+    formulaires().Montre(nom);
 }

@@ -25,6 +25,7 @@ void Econcours::Supprimer_Click()
     }
     if (MsgBox(mes(54) + u' ' + mes(55) + u"\r\n"_qs + mes(96), vbYesNo) != ReponseBoite::Oui)
         return;
+    GardeUneCopie(contexte());
     supprimeConcours(concours);
     videSaisie();
     relitReferences();

@@ -1,6 +1,7 @@
 #include "engine/routines_tirage.h"
 
 #include "app/routines.h"
+#include "app/sauvegarde.h"
 #include "engine/controle_tours.h"
 #include "engine/interlocuteur.h"
 #include "engine/tirage_tour1.h"
@@ -200,6 +201,8 @@ void ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
     if (existe(tirage)) {
         if (!interlocuteur.demande(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs))
             return;
+        if (const QString echec = SauveBase(partage); !echec.isEmpty())
+            interlocuteur.avertit(echec);
         partage.BaseDonnees.EcritEnGroupe([&] {
             for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
                 partage.BaseDonnees.Execute(u"delete * from %1 where concours=%2 and tableau=1"_qs.arg(table).arg(

@@ -25,8 +25,9 @@ struct TableImportee
     std::vector<ColonneImportee> colonnes; ///< A list without the first one is none of this table.
 };
 
-/// `joueurs` from joueurs.txt: the columns nom, prenom, licence, societe, sexe and ne in any order, under the names that
-/// the federations' exports give them. The sex becomes M or F, the date of birth a date; a date that is none stays Null.
+/// `joueurs` from joueurs.txt: the columns nom, prenom, licence, societe, sexe and ne in any order, under the names
+/// that the federations' exports give them. The sex becomes M or F, the date of birth a date; a date that is none
+/// stays Null.
 const TableImportee &TableJoueurs();
 
 /// `clubs` from clubs.txt: the columns societe (the club's name) and codesoc.

@@ -138,6 +138,7 @@ void PurgeBase(const Contexte &contexte, const FichiersBase &fichiers)
         contexte.boites.MsgBox(u"Opération annulée"_qs);
         return;
     }
+    GardeUneCopie(contexte);
     {
         const Patience alerte(contexte, u"  Opération en cours....Patientez"_qs);
         videTables(contexte.partage.BaseDonnees);

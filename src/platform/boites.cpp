@@ -1,6 +1,7 @@
 #include "platform/boites.h"
 
 #include "platform/destinations.h"
+#include "platform/twips.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -66,13 +67,15 @@ ReponseBoite BoitesQt::MsgBox(const QString &texte, int drapeaux, const QString 
     }
 }
 
-std::optional<QString> BoitesQt::InputBox(const QString &texte, const QString &titre)
+std::optional<QString> BoitesQt::InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin)
 {
     compte();
-    bool valide = false;
-    const QString saisi = QInputDialog::getText(QApplication::activeWindow(), titreOuProgramme(titre), texte,
-                                                QLineEdit::Normal, QString(), &valide);
-    return valide ? std::optional(saisi) : std::nullopt;
+    QInputDialog boite(QApplication::activeWindow());
+    boite.setWindowTitle(titreOuProgramme(titre));
+    boite.setLabelText(texte);
+    if (coin)
+        boite.move(enPixels(coin->x()), enPixels(coin->y()));
+    return boite.exec() == QDialog::Accepted ? std::optional(boite.textValue()) : std::nullopt;
 }
 
 std::unique_ptr<Destination> BoitesQt::ShowPrinter()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPoint>
 #include <QString>
 
 #include <memory>
@@ -36,8 +37,10 @@ public:
     /// Shows \p texte with the buttons and the picture of \p drapeaux, under the program's name when \p titre is empty.
     /// Closing the box counts as its most harmless button.
     virtual ReponseBoite MsgBox(const QString &texte, int drapeaux = vbOKOnly, const QString &titre = {}) = 0;
-    /// Asks for a line of text; nothing when the operator cancels.
-    virtual std::optional<QString> InputBox(const QString &texte, const QString &titre) = 0;
+    /// Asks for a line of text; nothing when the operator cancels. The box stands where the desktop puts it unless
+    /// \p coin, in twips of the screen, gives its corner.
+    virtual std::optional<QString> InputBox(const QString &texte, const QString &titre,
+                                            std::optional<QPoint> coin = {}) = 0;
     /// Lets the operator choose a printer; nothing when he cancels.
     virtual std::unique_ptr<Destination> ShowPrinter() = 0;
     /// Lets the operator choose a file to read; gives its full path, or \p dialogue.FileName as it stands when he
@@ -59,7 +62,7 @@ class BoitesQt : public Boites
 {
 public:
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
-    std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
     QString ShowOpen(const BoiteFichier &dialogue) override;
 };

@@ -1,5 +1,6 @@
 #include "platform/formulaire.h"
 
+#include "app/sauvegarde.h"
 #include "platform/formulaires.h"
 #include "platform/twips.h"
 
@@ -168,6 +169,12 @@ void Formulaire::surClick(QAction *action, Traitement traitement)
 {
     connect(action, &QAction::triggered, this,
             [this, traitement = std::move(traitement)] { execute(traitement); });
+}
+
+void GardeUneCopie(const Contexte &contexte)
+{
+    if (const QString echec = SauveBase(contexte.partage); !echec.isEmpty())
+        contexte.boites.MsgBox(echec, vbExclamation);
 }
 
 void Formulaire::surChoix(QComboBox *combo, Traitement traitement)

@@ -38,6 +38,9 @@ void SetFocus(QWidget *controle);
 /// Runs a handler: a failure of the store or of the program ends it and is shown in one box.
 void Execute(Boites &boites, const std::function<void()> &traitement);
 
+/// Puts a copy of the base aside before rows go for good. A copy that fails is told in a box and stops nothing.
+void GardeUneCopie(const Contexte &contexte);
+
 /// Runs one statement of a handler that passes over the errors of the store; false when it failed.
 bool PasseErreur(const std::function<void()> &instruction);
 

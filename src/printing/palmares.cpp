@@ -44,6 +44,31 @@ void effaceSelection(FlexGrid &grille)
     grille.setCol(0);
 }
 
+/// Widest text of a column below its heading, reckoned by its letters: laying thousands of sentences out would be felt.
+QString texteLePlusLarge(const FlexGrid &grille, int colonne)
+{
+    grille.ensurePolished();
+    const QFontMetrics police = grille.fontMetrics();
+    QHash<QChar, int> largeurs;
+    QString lePlusLarge;
+    int record = 0;
+    for (int ligne = 1; ligne < grille.Rows(); ++ligne) {
+        const QString texte = grille.TextMatrix(ligne, colonne);
+        int largeur = 0;
+        for (const QChar lettre : texte) {
+            auto connue = largeurs.constFind(lettre);
+            if (connue == largeurs.constEnd())
+                connue = largeurs.insert(lettre, police.horizontalAdvance(lettre));
+            largeur += *connue;
+        }
+        if (largeur > record) {
+            record = largeur;
+            lePlusLarge = texte;
+        }
+    }
+    return lePlusLarge;
+}
+
 /// The texts of the two teams of a sentence; nothing when it tells of no match. They are parted at the first letters of
 /// the word between them, wherever these stand.
 std::optional<std::pair<QString, QString>> equipesDe(const QString &phrase)
@@ -151,9 +176,8 @@ void palmares::elargit(FlexGrid &grille)
 {
     int voulue = ascenseur;
     for (int colonne = 0; colonne < grille.Cols(); ++colonne) {
-        int texte = grille.LargeurTexte(grille.TextMatrix(0, colonne).trimmed(), true);
-        for (int ligne = 1; ligne < grille.Rows(); ++ligne)
-            texte = std::max(texte, grille.LargeurTexte(grille.TextMatrix(ligne, colonne)));
+        const int texte = std::max(grille.LargeurTexte(grille.TextMatrix(0, colonne).trimmed(), true),
+                                   grille.LargeurTexte(texteLePlusLarge(grille, colonne)));
         if (texte > grille.ColWidth(colonne))
             grille.setColWidth(colonne, texte);
         voulue += grille.ColWidth(colonne);

@@ -12,11 +12,7 @@ using store::Val;
 namespace {
 
 constexpr int largeurReference = 6;
-constexpr int largeurNumero = 4;
-// Twips
-constexpr int margeBasse = 1500;
-constexpr int margeGauche = 50;
-constexpr int largeurListe = 4000;
+constexpr int largeurListe = 4000; // twips
 
 /// Code and label of a competition type such as "2 - Triplettes".
 std::pair<QString, QString> codeEtLibelle(const QString &type)
@@ -25,17 +21,10 @@ std::pair<QString, QString> codeEtLibelle(const QString &type)
     return {type.left(tiret).trimmed(), type.mid(tiret + 2)};
 }
 
-/// Shows \p texte in an editable list; the item of that text becomes the current one.
-void poseTexte(QComboBox *combo, const QString &texte)
-{
-    combo->setCurrentIndex(combo->findText(texte));
-    combo->setEditText(texte);
-}
-
 } // namespace
 
 Eequipes::Eequipes(const Contexte &contexte, QWidget *parent)
-    : Formulaire(contexte, parent)
+    : FormeInscription(contexte, parent)
     , m_ui(std::make_unique<Ui::Eequipes>())
 {
     m_ui->setupUi(this);
@@ -51,48 +40,24 @@ Eequipes::~Eequipes() = default;
 
 void Eequipes::relie()
 {
+    FormeInscription::relie({.Equipe = m_ui->Equipe,
+                             .Société = m_ui->Société,
+                             .premierNom = m_NomJ[0],
+                             .Label1 = m_ui->Label1});
     const auto touche = [this](QWidget *controle, void (Eequipes::*traitement)(int, int)) {
         surKeyDown(controle, [this, traitement](int code, int maj) { (this->*traitement)(code, maj); });
     };
-    const auto sortie = [this](QWidget *controle, void (Eequipes::*traitement)()) {
-        surLostFocus(controle, [this, controle, traitement] {
-            if (m_sortieFaite != controle)
-                (this->*traitement)();
-        });
-    };
     touche(m_ui->référence, &Eequipes::référence_KeyDown);
-    touche(m_ui->Equipe, &Eequipes::Equipe_KeyDown);
     touche(m_ui->Société, &Eequipes::Société_KeyDown);
     surGotFocus(m_ui->référence, [this] { référence_GotFocus(); });
     surGotFocus(m_ui->Equipe, [this] { Equipe_GotFocus(); });
-    sortie(m_ui->référence, &Eequipes::référence_LostFocus);
-    sortie(m_ui->Equipe, &Eequipes::Equipe_LostFocus);
-    sortie(m_ui->Société, &Eequipes::Société_LostFocus);
+    surSortie(m_ui->référence, [this] { référence_LostFocus(); });
     surChoix(m_ui->référence, [this] { référence_KeyDown(Touche::Entree, 0); });
-    surChoix(m_ui->Equipe, [this] { Equipe_KeyDown(Touche::Entree, 0); });
-    surMouseDown(m_ui->Label1, [this](int, int) { Label1_Click(); });
     surClick(m_ui->Okc, [this] { Okc_Click(); });
     surClick(m_ui->SupprimerC, [this] { SupprimerC_Click(); });
     surClick(m_ui->cImport, [this] { cImport_Click(); });
     surClick(m_ui->Command1, [this] { Command1_Click(); });
     surClick(m_ui->Command2, [this] { Command2_Click(); });
-}
-
-/// In the two lists of numbers, wheel and arrows would walk through competitions and teams under the operator's hand:
-/// the arrows open the list instead.
-bool Eequipes::eventFilter(QObject *objet, QEvent *evenement)
-{
-    auto *combo = qobject_cast<QComboBox *>(objet);
-    if (combo != nullptr && evenement->type() == QEvent::Wheel)
-        return true;
-    if (combo != nullptr && evenement->type() == QEvent::KeyPress) {
-        const int touche = static_cast<QKeyEvent *>(evenement)->key();
-        if (touche == Qt::Key_Up || touche == Qt::Key_Down || touche == Qt::Key_PageUp || touche == Qt::Key_PageDown) {
-            combo->showPopup();
-            return true;
-        }
-    }
-    return Formulaire::eventFilter(objet, evenement);
 }
 
 void Eequipes::LegendesEequipes()
@@ -114,7 +79,7 @@ void Eequipes::LegendesEequipes()
 void Eequipes::Form_Load()
 {
     LegendesEequipes();
-    Move(margeGauche, Ecran::Height() - Height() - margeBasse);
+    placeForme();
 }
 
 void Eequipes::Form_Activate()
@@ -143,6 +108,8 @@ void Eequipes::premiereActivation()
     const Recordset concours = partage().BaseDonnees.OpenRecordset(
         u"SELECT * FROM [Concours] Where [concours] = %1"_qs.arg(partage().ConcoursCourant));
     afficheConcours(concours);
+    // A competition just created is not in the texts of the sheets yet.
+    memorise(concours);
     videSaisie();
     montreMembres();
     poseTexte(m_ui->Equipe, u"00001"_qs);
@@ -166,7 +133,8 @@ QStringList Eequipes::numerosDesConcours() const
 void Eequipes::choisitConcours(const QStringList &numeros)
 {
     m_ui->référence->addItems(numeros);
-    if (partage().ConcoursCourant < 1) {
+    // The current competition may have been removed since.
+    if (!numeros.contains(ZeroPad(partage().ConcoursCourant, largeurReference))) {
         partage().ConcoursCourant = numeros.last().toInt();
         ChargeConcours(partage(), partage().ConcoursCourant);
     }
@@ -250,7 +218,7 @@ void Eequipes::changeConcours(const Recordset &concours)
     poseTexte(m_ui->Equipe, QString());
     remplitEquipes();
     if (m_ui->Equipe->currentText().isEmpty())
-        poseTexte(m_ui->Equipe, ZeroPad(1, largeurNumero));
+        poseTexte(m_ui->Equipe, NumeroAffiche(1));
     libelleCompte(m_ui->Label7->text().toDouble());
     videSaisie();
     numeroConnu(false);
@@ -259,20 +227,9 @@ void Eequipes::changeConcours(const Recordset &concours)
     m_LicenceJ[0]->setFocus(Qt::OtherFocusReason);
 }
 
-/// Fills the list with the teams of the competition, and proposes the number behind the last one.
 void Eequipes::remplitEquipes()
 {
-    QString proposition = m_ui->Equipe->currentText();
-    const std::vector<qint64> numeros = NumerosDesEquipes(partage(), partage().ConcoursCourant);
-    QStringList lignes;
-    for (const qint64 numero : numeros)
-        lignes += ZeroPad(numero, largeurNumero);
-    if (!numeros.empty())
-        proposition = ZeroPad(numeros.back() + 1, largeurNumero);
-    m_ui->Equipe->clear();
-    m_ui->Equipe->addItems(lignes);
-    poseTexte(m_ui->Equipe, proposition);
-    m_ui->Label7->setText(QString::number(numeros.size()));
+    m_ui->Label7->setText(QString::number(remplitNumeros()));
 }
 
 void Eequipes::libelleCompte(double nombre)
@@ -293,24 +250,6 @@ void Eequipes::numeroConnu(bool connu)
     m_ui->SupprimerC->setVisible(connu);
 }
 
-/// The number in `Equipe`, 0 when the text is none.
-double Eequipes::numeroTape() const
-{
-    constexpr double borne = 1e9;
-    const QString texte = m_ui->Equipe->currentText();
-    return EstNumerique(texte) ? std::clamp(Val(texte), -borne, borne) : 0;
-}
-
-void Eequipes::poseNumero(const QString &texte)
-{
-    poseTexte(m_ui->Equipe, texte);
-}
-
-void Eequipes::proposeSuivante(std::optional<qint64> maxe)
-{
-    poseNumero(ZeroPad(maxe.value_or(0) + 1, largeurNumero));
-}
-
 void Eequipes::Equipe_GotFocus()
 {
     videMembres();
@@ -318,52 +257,16 @@ void Eequipes::Equipe_GotFocus()
     m_ui->Equipe->lineEdit()->selectAll();
 }
 
-void Eequipes::Equipe_KeyDown(int KeyCode, int)
-{
-    if (!Touche::Avance(KeyCode))
-        return;
-    const auto faite = sortieFaite(m_ui->Equipe);
-    Equipe_LostFocus();
-}
-
-void Eequipes::Equipe_LostFocus()
-{
-    std::optional<qint64> maxe;
-    PasseErreur([&] { maxe = PlusHautNumero(partage(), partage().ConcoursCourant); });
-    if (numeroTape() < 1 || (maxe && numeroTape() > double(*maxe + 1))) {
-        refuseNumero(maxe);
-        return;
-    }
-    bool lue = true;
-    PasseErreur([&] { lue = litEquipe(maxe); });
-    if (lue)
-        SetFocus(m_ui->Société);
-}
-
-void Eequipes::refuseNumero(std::optional<qint64> maxe)
-{
-    MsgBox(mes(81) + u"\r\n"_qs + mes(82));
-    poseNumero(ZeroPad(maxe.value_or(1), largeurNumero));
-    SetFocus(m_ui->Equipe);
-    m_ui->Equipe->lineEdit()->selectAll();
-}
-
-/// Shows the team of the number typed, or proposes the next free number instead of one that no team bears: gaps are
-/// never filled. False for a team that the competition does not know.
-bool Eequipes::litEquipe(std::optional<qint64> maxe)
+/// A team without its row of `evolution` is none that the competition knows.
+bool Eequipes::montreConnu(Recordset &equipes)
 {
     const qint64 numero = numeroEquipe();
-    Recordset equipes = partage().BaseDonnees.OpenRecordset(RequeteEquipe(partage().ConcoursCourant, numero));
-    if (equipes.Eof()) {
-        proposeSuivante(maxe);
-        return true;
-    }
     Recordset evolution = partage().BaseDonnees.OpenRecordset(u"Evolution", store::dbOpenTable);
     evolution.Index(u"PrimaryKey");
     evolution.Seek(u"=", {partage().ConcoursCourant, numero});
     if (evolution.NoMatch())
         return false;
-    poseNumero(ZeroPad(numero, largeurNumero));
+    poseNumero(NumeroAffiche(numero));
     m_ui->Société->setText(equipes[u"societe"].texte());
     afficheMembres(equipes);
     numeroConnu(true);

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "platform/formulaire.h"
 #include "registration/equipe_inscrite.h"
-
-#include <QScopedValueRollback>
+#include "registration/forme_inscription.h"
 
 #include <array>
 #include <memory>
@@ -13,7 +11,7 @@ class Eequipes;
 }
 
 /// Registration of the teams: licences call up the players, one click stores the team under the next free number.
-class Eequipes : public Formulaire
+class Eequipes : public FormeInscription
 {
     Q_OBJECT
 
@@ -24,22 +22,16 @@ public:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload() override;
-    void Form_Click() override;
-    void Form_Resize() override { RedimForm(); }
 
     void référence_GotFocus();
     void référence_KeyDown(int KeyCode, int Shift);
     void référence_LostFocus();
     void Equipe_GotFocus();
-    void Equipe_KeyDown(int KeyCode, int Shift);
-    void Equipe_LostFocus();
     void LicenceJ_KeyDown(int Index, int KeyCode, int Shift);
     void LicenceJ_LostFocus(int Index);
     void NomJ_KeyDown(int Index, int KeyCode, int Shift);
     void PrénomJ_KeyDown(int Index, int KeyCode, int Shift);
     void Société_KeyDown(int KeyCode, int Shift);
-    void Société_LostFocus();
-    void Label1_Click();
     void Okc_Click();
     void SupprimerC_Click();
     void cImport_Click();
@@ -47,30 +39,16 @@ public:
     void Command2_Click();
 
 protected:
-    bool eventFilter(QObject *objet, QEvent *evenement) override;
+    qint32 concoursSaisi() const override { return partage().ConcoursCourant; }
+    bool montreConnu(store::Recordset &equipes) override;
 
 private:
     static constexpr int membresAffiches = 4;
     using ChampsMembres = std::array<QLineEdit *, membresAffiches>;
 
-    /// The row of a licence that is already in the competition.
-    struct Engagement
-    {
-        qint64 equipe;
-        qint64 doublon;
-        QString nom;
-        QString prenom;
-        QString societe;
-    };
-
-    /// The work of leaving \p champ is being done on a key: the focus that it sends away does not start it again.
-    [[nodiscard]] auto sortieFaite(const QWidget *champ) { return QScopedValueRollback(m_sortieFaite, champ); }
-
     void LegendesEequipes();
     void relie();
     void relieMembres();
-    void placeListesoc(int largeur);
-    void montreListesoc();
 
     // Competition
     void premiereActivation();
@@ -85,28 +63,20 @@ private:
     void montreMembres();
 
     // Team number
-    double numeroTape() const;
-    qint64 numeroEquipe() const { return qint64(numeroTape()); }
-    void poseNumero(const QString &texte);
-    void proposeSuivante(std::optional<qint64> maxe);
-    void refuseNumero(std::optional<qint64> maxe);
     void afficheCompte(qint64 nombre);
     void libelleCompte(double nombre);
     void numeroConnu(bool connu);
-    bool litEquipe(std::optional<qint64> maxe);
     void afficheMembres(store::Recordset &equipes);
 
     // Members and club
     int nombreMembres() const;
     void videMembres();
     void videSaisie();
-    std::optional<Engagement> chercheEngagement(const QString &licence) const;
-    void signaleEngagement(int Index, const Engagement &engagement);
+    Ligne ligne(int Index) const { return {m_LicenceJ[Index], m_NomJ[Index], m_PrénomJ[Index]}; }
     void chercheJoueurs(int Index);
     void completeMembre(store::Recordset &joueurs, int ligne);
     void refuseDoublon(int Index);
     void demandePanachee(int Index);
-    void ajouteClub(const QString &club);
 
     // Storing
     bool saisieRecevable();
@@ -124,5 +94,4 @@ private:
     ChampsMembres m_PrénomJ{};
     ChampsMembres m_LicenceJ{};
     bool m_initialise = false;
-    const QWidget *m_sortieFaite = nullptr;
 };

@@ -49,13 +49,7 @@ bool Eequipes::saisieRecevable()
         SetFocus(m_LicenceJ[0]);
         return false;
     }
-    if (m_ui->Société->text().trimmed().isEmpty()) {
-        MsgBox(u"Le nom du club est obligatoire"_qs);
-        Form_Click();
-        SetFocus(m_ui->Société);
-        return false;
-    }
-    return true;
+    return !refuseSansClub();
 }
 
 EquipeSaisie Eequipes::equipeSaisie() const
@@ -123,13 +117,9 @@ void Eequipes::signaleEchec(qint64 numero)
 void Eequipes::SupprimerC_Click()
 {
     const qint64 numero = numeroEquipe();
+    GardeUneCopie(contexte());
     const bool retiree = RetireEquipe(partage(), partage().ConcoursCourant, numero);
-    const QString tape = m_ui->Equipe->currentText();
-    for (int i = m_ui->Equipe->count() - 1; i >= 0; --i) {
-        if (m_ui->Equipe->itemText(i).toLongLong() == numero)
-            m_ui->Equipe->removeItem(i);
-    }
-    poseNumero(tape);
+    retireDeLaListe(numero);
     if (!retiree)
         return;
     afficheCompte(m_ui->Label7->text().toInt() - 1);

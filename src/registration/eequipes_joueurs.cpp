@@ -2,8 +2,6 @@
 
 #include "app/routines.h"
 #include "engine/clubs.h"
-#include "platform/formulaires.h"
-#include "store/collation.h"
 #include "ui_eequipes.h"
 
 using store::Recordset;
@@ -14,12 +12,6 @@ namespace {
 
 const QString clubPanache = moteur::clubPanache.toString();
 const QString titreEnregistrement = u"Enregistrement des équipes"_qs;
-constexpr int largeurListe = 4500; // twips
-
-bool memeTexte(const QString &a, const QString &b)
-{
-    return store::CompareFrancais(a, b) == 0;
-}
 
 } // namespace
 
@@ -30,10 +22,7 @@ void Eequipes::relieMembres()
         surKeyDown(licence, [this, i](int code, int maj) { LicenceJ_KeyDown(i, code, maj); });
         surKeyDown(m_NomJ[i], [this, i](int code, int maj) { NomJ_KeyDown(i, code, maj); });
         surKeyDown(m_PrénomJ[i], [this, i](int code, int maj) { PrénomJ_KeyDown(i, code, maj); });
-        surLostFocus(licence, [this, i, licence] {
-            if (m_sortieFaite != licence)
-                LicenceJ_LostFocus(i);
-        });
+        surSortie(licence, [this, i] { LicenceJ_LostFocus(i); });
     }
 }
 
@@ -102,48 +91,13 @@ void Eequipes::LicenceJ_KeyDown(int Index, int KeyCode, int)
         return;
     const auto faite = sortieFaite(champ);
     std::optional<Engagement> engagement;
-    PasseErreur([&] { engagement = chercheEngagement(licence); });
+    PasseErreur([&] { engagement = chercheEngagement(licence, m_ui->référence->currentText().trimmed()); });
     if (engagement)
-        signaleEngagement(Index, *engagement);
+        signaleEngagement(*engagement, Index, ligne(Index));
     else
         PasseErreur([&] { chercheJoueurs(Index); });
     if (!champ->text().isEmpty())
         SetFocus(m_NomJ[Index]);
-}
-
-std::optional<Eequipes::Engagement> Eequipes::chercheEngagement(const QString &licence) const
-{
-    Recordset equipes = partage().BaseDonnees.OpenRecordset(u"Equipes", store::dbOpenTable);
-    equipes.Index(u"engage");
-    equipes.Seek(u"=", {licence, m_ui->référence->currentText().trimmed()});
-    if (equipes.NoMatch())
-        return std::nullopt;
-    return Engagement{.equipe = equipes[u"equipe"].entierOu(0),
-                      .doublon = equipes[u"doublon"].entierOu(0),
-                      .nom = equipes[u"nom"].texte(),
-                      .prenom = equipes[u"prenom"].texte(),
-                      .societe = equipes[u"societe"].texte()};
-}
-
-/// A licence that is in the competition already may only be the one of this very line.
-void Eequipes::signaleEngagement(int Index, const Engagement &engagement)
-{
-    if (engagement.equipe == numeroEquipe() && engagement.doublon == Index)
-        return;
-    const QString saut = u"\r\n"_qs;
-    const QString joueur = u"%1 %2(%3)"_qs.arg(engagement.nom, engagement.prenom, engagement.societe);
-    MsgBox(mes(103) + u" : "_qs + m_LicenceJ[Index]->text() + saut + mes(19) + u" : "_qs + joueur + saut + mes(104)
-               + u' ' + mes(17) + QString::number(engagement.equipe) + saut + saut + mes(105),
-           vbYesNo);
-    const bool memePersonne = memeTexte(engagement.nom, m_NomJ[Index]->text())
-        && memeTexte(engagement.prenom, m_PrénomJ[Index]->text())
-        && memeTexte(engagement.societe, m_ui->Société->text());
-    if (memePersonne) {
-        m_NomJ[Index]->clear();
-        m_PrénomJ[Index]->clear();
-    }
-    SetFocus(memePersonne ? m_NomJ[Index] : m_LicenceJ[Index]);
-    m_LicenceJ[Index]->clear();
 }
 
 /// Fills in the members whose licences the store knows from any competition, and works out the club of the team.
@@ -207,59 +161,4 @@ void Eequipes::Société_KeyDown(int KeyCode, int)
 {
     if (Touche::Avance(KeyCode))
         SetFocus(m_ui->Okc);
-}
-
-void Eequipes::Société_LostFocus()
-{
-    const QString club = m_ui->Société->text().trimmed();
-    if (club.isEmpty() || club.toUpper() == mes(80))
-        return;
-    Recordset societes = partage().BaseDonnees.OpenRecordset(u"Societes", store::dbOpenTable);
-    societes.Index(u"nomsoc");
-    societes.Seek(u"=", {club});
-    if (!societes.NoMatch())
-        return;
-    montreListesoc();
-    if (MsgBox(mes(92), vbYesNo) == ReponseBoite::Oui) {
-        ajouteClub(club);
-        return;
-    }
-    m_ui->Société->clear();
-    SetFocus(m_ui->Société);
-}
-
-void Eequipes::ajouteClub(const QString &club)
-{
-    const store::Valeur maxsoc = ValeurUnique(partage(), u"select max(codesoc) as maxsoc from societes"_qs);
-    Recordset societes = partage().BaseDonnees.OpenRecordset(u"Societes", store::dbOpenTable);
-    societes.AddNew();
-    societes[u"societe"] = club;
-    societes[u"codesoc"] = maxsoc.estNull() ? store::Valeur() : store::Valeur(maxsoc.entier() + 1);
-    societes.Update();
-    if (Formulaire *liste = formulaires().forme(u"Listesoc"_qs))
-        liste->Form_Load();
-    SetFocus(m_NomJ[0]);
-}
-
-void Eequipes::Form_Click()
-{
-    montreListesoc();
-}
-
-void Eequipes::Label1_Click()
-{
-    montreListesoc();
-}
-
-void Eequipes::montreListesoc()
-{
-    placeListesoc(largeurListe);
-    formulaires().MontreSansFocus(u"Listesoc"_qs);
-}
-
-/// The clubs stand at the right side of the form, as high as it.
-void Eequipes::placeListesoc(int largeur)
-{
-    if (Formulaire *liste = formulaires().Charge(u"Listesoc"_qs))
-        liste->Move(Left() + Width(), Top(), largeur, Height());
 }

@@ -155,6 +155,13 @@ std::optional<qint64> PlusHautNumero(Partage &partage, qint32 concours)
     return maxe.estNull() ? std::nullopt : std::optional(maxe.entier());
 }
 
+QString NumeroAffiche(qint64 numero)
+{
+    constexpr qsizetype largeur = 4;
+    const QString chiffres = QString::number(numero);
+    return ZeroPad(chiffres, int(std::max(chiffres.size(), largeur)));
+}
+
 std::vector<qint64> NumerosDesEquipes(Partage &partage, qint32 concours)
 {
     std::vector<qint64> numeros;

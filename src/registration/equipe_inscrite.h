@@ -33,6 +33,8 @@ QString RequeteEquipe(qint32 concours, qint64 numero);
 bool EquipeExiste(Partage &partage, qint32 concours, qint64 numero);
 /// Highest team number of the competition, nothing without a team.
 std::optional<qint64> PlusHautNumero(Partage &partage, qint32 concours);
+/// A team's or known player's number as the lists show it: four digits, or as many as it has.
+QString NumeroAffiche(qint64 numero);
 /// Numbers of the teams in ascending order.
 std::vector<qint64> NumerosDesEquipes(Partage &partage, qint32 concours);
 

@@ -4,6 +4,7 @@
 #include "engine/rangs.h"
 #include "engine/routines_tirage.h"
 #include "platform/formulaires.h"
+#include "platform/garde_defilement.h"
 #include "results/grille_resultats.h"
 #include "results/groupes.h"
 #include "results/manqres.h"
@@ -18,7 +19,7 @@ const QString tiret = u"-"_qs;
 
 void afficheRencontres(Partage &partage, FlexGrid &grille, qint64 concours)
 {
-    const grille::GardeDefilement defilement(grille);
+    const GardeDefilement defilement(grille);
     grille.setRows(1);
     grille.setCols(5);
     grille.setFormatString(u"<Tour|"_qs + partage.mes(24).leftJustified(largeurTitre) + u'|'
@@ -61,7 +62,7 @@ QString textePosition(const std::optional<int> &position, const QString &sansPos
 
 void afficheGeneral(FlexGrid &grille, const std::vector<LigneClassement> &lignes)
 {
-    const grille::GardeDefilement defilement(grille);
+    const GardeDefilement defilement(grille);
     grille.setRows(1);
     grille.setCols(7);
     grille.setFormatString(u">Clt|Equ.| G| P| Pp | Pc |<  Ga "_qs);
@@ -80,10 +81,10 @@ void afficheGroupes(const Partage &partage, Groupes &groupes, const std::vector<
 {
     const int onglets = lignes.empty() ? 0 : lignes.front().pt + 1;
     groupes.fixeOnglets(onglets);
-    std::vector<std::unique_ptr<grille::GardeDefilement>> defilements;
+    std::vector<std::unique_ptr<GardeDefilement>> defilements;
     for (int onglet = onglets; onglet >= 1; --onglet) {
         groupes.legende(onglet, LibellePluriel(partage, onglet - 1, u"victoire"_qs));
-        defilements.push_back(std::make_unique<grille::GardeDefilement>(groupes.grille(onglet)));
+        defilements.push_back(std::make_unique<GardeDefilement>(groupes.grille(onglet)));
         groupes.grille(onglet).setRows(1);
     }
     const std::vector<std::optional<int>> positions = moteur::positionsParNiveau(lignes);

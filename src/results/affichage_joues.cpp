@@ -3,6 +3,7 @@
 #include "app/routines.h"
 #include "engine/rencontre.h"
 #include "platform/formulaires.h"
+#include "platform/garde_defilement.h"
 #include "results/grille_resultats.h"
 #include "results/valresu.h"
 
@@ -65,7 +66,7 @@ void AfficheJoues(Partage &partage, const Formulaires &formulaires)
         return;
     vue->LegendesValresu();
     FlexGrid &grille = vue->grille();
-    const grille::GardeDefilement defilement(grille);
+    const GardeDefilement defilement(grille);
     prepareGrille(grille);
     grille::LargeursUtiles largeurs;
     Recordset scores = partage.BaseDonnees.OpenRecordset(

@@ -287,6 +287,7 @@ void EResultats::Form_MouseDown(int bouton, int maj, int x, int y)
 void EResultats::annuleTirage()
 {
     formulaires().Decharge({u"Groupes"_qs, u"manqres"_qs});
+    GardeUneCopie(contexte());
     const QString numero = QString::number(partage().ConcoursCourant);
     partage().BaseDonnees.EcritEnGroupe([&] {
         partage().BaseDonnees.Execute(u"delete * from scores where concours="_qs + numero + u" and tableau=1"_qs);
@@ -301,6 +302,7 @@ void EResultats::annuleTirage()
 /// The store ends one round lower than the program's own count.
 void EResultats::annuleTour()
 {
+    GardeUneCopie(contexte());
     const QString numero = QString::number(partage().ConcoursCourant);
     partage().BaseDonnees.EcritEnGroupe([&] {
         partage().BaseDonnees.Execute(u"delete * from scores where concours=%1 and tableau=1 and tour=%2"_qs.arg(numero)

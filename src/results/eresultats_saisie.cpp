@@ -85,7 +85,7 @@ void EResultats::Equipe1_MouseDown(int Button, int)
     if (Button != Bouton::Gauche)
         return;
     partage().ModeListeEquipes = 1;
-    formulaires().Montre(u"listeq"_qs);
+    montreVue(u"listeq"_qs);
 }
 
 /// A double click on a team makes it the winner: the score of a match won without points being told.

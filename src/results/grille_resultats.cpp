@@ -41,10 +41,4 @@ void LargeursUtiles::applique(FlexGrid &grille) const
     }
 }
 
-GardeDefilement::~GardeDefilement()
-{
-    if (m_haut > 1 && m_grille.Rows() > 1)
-        m_grille.setTopRow(std::min(m_haut, m_grille.Rows() - 1));
-}
-
 } // namespace grille

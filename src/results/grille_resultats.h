@@ -42,17 +42,4 @@ private:
     std::vector<Texte> m_plusLongs;
 };
 
-/// Keeps the rows on screen where they are while a grid is filled anew.
-class GardeDefilement
-{
-public:
-    explicit GardeDefilement(FlexGrid &grille) : m_grille(grille), m_haut(grille.TopRow()) {}
-    ~GardeDefilement();
-    Q_DISABLE_COPY_MOVE(GardeDefilement)
-
-private:
-    FlexGrid &m_grille;
-    int m_haut;
-};
-
 } // namespace grille

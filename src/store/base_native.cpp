@@ -25,7 +25,7 @@ QStringView texteBrut(const void *octets, int taille)
 
 int collationFrancaise(void *, int tailleA, const void *a, int tailleB, const void *b)
 {
-    return CompareFrancais(texteBrut(a, tailleA), texteBrut(b, tailleB));
+    return CompareFrancaisUtf8({static_cast<const char *>(a), tailleA}, {static_cast<const char *>(b), tailleB});
 }
 
 QString texteArgument(sqlite3_value *valeur)
@@ -213,8 +213,9 @@ Valeur Instruction::valeur(int colonne, TypeChamp type) const
     case SQLITE_FLOAT:
         return sqlite3_column_double(m_stmt, colonne);
     default: {
-        const void *octets = sqlite3_column_text16(m_stmt, colonne);
-        const QString texte = texteBrut(octets, sqlite3_column_bytes16(m_stmt, colonne)).toString();
+        // In the encoding of the file: the engine would need a buffer of its own to change it.
+        const auto *octets = reinterpret_cast<const char *>(sqlite3_column_text(m_stmt, colonne));
+        const QString texte = QString::fromUtf8(octets, sqlite3_column_bytes(m_stmt, colonne));
         return type == TypeChamp::Date ? Valeur(QDate::fromString(texte, Qt::ISODate)) : Valeur(texte);
     }
     }
@@ -231,6 +232,11 @@ bool Instruction::estNulle(int colonne) const
 }
 
 BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode mode)
+    : BaseNative(fichier, motDePasse, mode, false)
+{
+}
+
+BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode mode, bool formatCourant)
     : m_fichier(QDir::toNativeSeparators(fichier))
 {
     const QFileInfo infos(fichier);
@@ -241,7 +247,7 @@ BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode m
             throw Erreur(Erreur::FichierEtranger, u"Le fichier %1 n'est pas une base de ce programme."_qs.arg(m_fichier));
     }
     try {
-        ouvre(motDePasse, mode, false);
+        ouvre(motDePasse, mode, formatCourant);
     } catch (const Erreur &erreur) {
         if (erreur.numero() != Erreur::MotDePasse || valeurUnique(u"pragma cipher_version"_qs).texte() < u"4"_qs) {
             ferme();
@@ -269,6 +275,7 @@ BaseNative::~BaseNative()
 /// SQLCipher 3, which every version reads; \p formatCourant tries that of version 4 instead.
 void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
 {
+    m_formatCourant = formatCourant;
     // Without the right to create, the engine could not attach the new file of a compaction either.
     const int drapeaux =
         mode == Mode::LectureSeule ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
@@ -279,7 +286,7 @@ void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
     }
     sqlite3_extended_result_codes(m_base, 1);
     sqlite3_busy_timeout(m_base, attenteVerrouMs);
-    sqlite3_create_collation(m_base, "FRANCAIS", SQLITE_UTF16, nullptr, collationFrancaise);
+    sqlite3_create_collation(m_base, "FRANCAIS", SQLITE_UTF8, nullptr, collationFrancaise);
     sqlite3_create_function(m_base, "vt_left", 2, SQLITE_UTF16 | SQLITE_DETERMINISTIC, nullptr, fonctionLeft, nullptr,
                             nullptr);
     sqlite3_create_function(m_base, "like", 2, SQLITE_UTF16 | SQLITE_DETERMINISTIC, nullptr, fonctionLike, nullptr,

@@ -85,6 +85,12 @@ public:
     /// First column of the first row, Null when there is none.
     Valeur valeurUnique(const QString &sql);
 
+    /// Writes the whole base, as it is at this moment, into the new file \p cible under \p motDePasse. Throws Erreur
+    /// when that file exists or cannot be written; a part of it may stay behind then.
+    void copieVers(const QString &cible, const QString &motDePasse);
+    /// Whether anything has been written since the last copy; true as long as there is none.
+    bool changeeDepuisCopie() const { return m_changementsCopies != changements(); }
+
     /// Rows changed since the file was opened.
     int changements() const;
     qint64 dernierRowid() const;
@@ -93,6 +99,8 @@ public:
 
 private:
     friend class Instruction;
+
+    BaseNative(const QString &fichier, const QString &motDePasse, Mode mode, bool formatCourant);
 
     void ouvre(const QString &motDePasse, Mode mode, bool formatCourant);
     void verifie();
@@ -105,6 +113,8 @@ private:
     sqlite3 *m_base = nullptr;
     QHash<QString, sqlite3_stmt *> m_libres;
     QStringList m_anciennete;
+    bool m_formatCourant = false;
+    int m_changementsCopies = -1;
 };
 
 } // namespace store

@@ -3,6 +3,8 @@
 #include <QString>
 
 #include <array>
+#include <optional>
+#include <span>
 
 namespace store {
 
@@ -32,9 +34,31 @@ constexpr std::array<quint32, 128> poidsAscii()
 
 constexpr auto poidsDesAscii = poidsAscii();
 
-bool estAscii(QStringView texte)
+int signe(quint32 a, quint32 b)
 {
-    return std::all_of(texte.begin(), texte.end(), [](QChar c) { return c.unicode() < 128; });
+    return a < b ? -1 : int(a > b);
+}
+
+/// Order of two texts as far as it shows without taking characters apart: equal units are passed over, and two different
+/// ASCII letters decide, whatever accents stand before them. Nothing where an accent may have its say.
+template<typename Unite>
+std::optional<int> compareSansAccents(std::span<const Unite> a, std::span<const Unite> b)
+{
+    const std::size_t commun = std::min(a.size(), b.size());
+    for (std::size_t i = 0; i < commun; ++i) {
+        if (a[i] == b[i])
+            continue;
+        if (a[i] >= poidsDesAscii.size() || b[i] >= poidsDesAscii.size())
+            return std::nullopt;
+        if (const int ordre = signe(poidsDesAscii[a[i]], poidsDesAscii[b[i]]); ordre != 0)
+            return ordre;
+    }
+    if (a.size() == b.size())
+        return 0;
+    const Unite suite = a.size() > commun ? a[commun] : b[commun];
+    if (suite >= poidsDesAscii.size())
+        return std::nullopt; // perhaps a mark on the last letter
+    return a.size() > b.size() ? 1 : -1;
 }
 
 /// Walks the base characters of a decomposed text, leaving out its accents.
@@ -78,24 +102,8 @@ private:
     qsizetype m_place = 0;
 };
 
-int signe(quint32 a, quint32 b)
+int compareLettres(QStringView a, QStringView b)
 {
-    return a < b ? -1 : int(a > b);
-}
-
-} // namespace
-
-int CompareFrancais(QStringView a, QStringView b)
-{
-    if (estAscii(a) && estAscii(b)) {
-        const qsizetype commun = std::min(a.size(), b.size());
-        for (qsizetype i = 0; i < commun; ++i) {
-            const int ordre = signe(poidsDesAscii[a[i].unicode()], poidsDesAscii[b[i].unicode()]);
-            if (ordre != 0)
-                return ordre;
-        }
-        return signe(quint32(a.size()), quint32(b.size()));
-    }
     Lettres gauche(a);
     Lettres droite(b);
     while (true) {
@@ -109,6 +117,26 @@ int CompareFrancais(QStringView a, QStringView b)
         droite.marque();
     }
     return gauche.accents().compare(droite.accents());
+}
+
+} // namespace
+
+int CompareFrancais(QStringView a, QStringView b)
+{
+    if (const auto ordre = compareSansAccents(std::span(a.utf16(), std::size_t(a.size())),
+                                              std::span(b.utf16(), std::size_t(b.size()))))
+        return *ordre;
+    return compareLettres(a, b);
+}
+
+int CompareFrancaisUtf8(QByteArrayView a, QByteArrayView b)
+{
+    const auto octets = [](QByteArrayView texte) {
+        return std::span(reinterpret_cast<const uchar *>(texte.data()), std::size_t(texte.size()));
+    };
+    if (const auto ordre = compareSansAccents(octets(a), octets(b)))
+        return *ordre;
+    return compareLettres(QString::fromUtf8(a), QString::fromUtf8(b));
 }
 
 bool Ressemble(QStringView texte, QStringView modele)

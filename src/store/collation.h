@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QStringView>
 
 namespace store {
@@ -8,6 +9,8 @@ namespace store {
 /// then signs, digits, letters; accents decide only between texts that are otherwise equal. The order is the
 /// program's own, so that a file sorted on one machine reads the same on every other.
 int CompareFrancais(QStringView a, QStringView b);
+/// The same for texts as the file holds them.
+int CompareFrancaisUtf8(QByteArrayView a, QByteArrayView b);
 
 /// Whether \p texte meets \p modele, where * stands for any run of characters, ? for one and # for one digit; case
 /// plays no part.

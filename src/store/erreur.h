@@ -12,6 +12,7 @@ class Erreur : public std::exception
 public:
     /// Numbers above 0 are those of the SQLite engine; the store's own are negative.
     enum Numero {
+        DisquePlein = 13, ///< The engine's own number for it.
         FichierAbsent = -1,
         FichierEtranger = -2,
         MotDePasse = -3,

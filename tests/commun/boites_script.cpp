@@ -86,8 +86,9 @@ ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QStr
     return attendue->reponse;
 }
 
-std::optional<QString> BoitesScript::InputBox(const QString &texte, const QString &titre)
+std::optional<QString> BoitesScript::InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin)
 {
+    m_coin = coin;
     const std::optional<Attendue> attendue = suivante(texte, titre, Genre::Saisie);
     return attendue ? attendue->texteSaisi : std::nullopt;
 }

@@ -34,9 +34,11 @@ public:
     /// Title and flags of the last box.
     const QString &titre() const { return m_titre; }
     int drapeaux() const { return m_drapeaux; }
+    /// Where the last question was to stand, in twips.
+    std::optional<QPoint> coin() const { return m_coin; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
-    std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override { return imprimante ? imprimante() : nullptr; }
     QString ShowOpen(const BoiteFichier &dialogue) override;
 
@@ -61,5 +63,6 @@ private:
     QStringList m_textes;
     QString m_titre;
     int m_drapeaux = 0;
+    std::optional<QPoint> m_coin;
     bool m_muette = false;
 };

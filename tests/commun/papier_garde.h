@@ -33,3 +33,13 @@ inline const Dessin *trouve(const PageDessinee &page, const QString &texte)
     }
     return nullptr;
 }
+
+/// Texts of a page in the order in which they were drawn, a bar between two.
+inline QString texteDe(const PageDessinee &page)
+{
+    QStringList textes;
+    for (const Dessin &dessin : page.dessins)
+        textes += dessin.texte.trimmed();
+    textes.removeAll(QString());
+    return textes.join(u'|');
+}

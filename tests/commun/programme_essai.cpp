@@ -35,6 +35,7 @@ void ProgrammeEssai::TearDown()
 void ProgrammeEssai::demarre()
 {
     m_programme = std::make_unique<Programme>(m_dossier.path(), m_alea, m_horloge, m_boites);
+    partage().AvecCopies = false;
     ASSERT_TRUE(m_programme->demarre());
 }
 

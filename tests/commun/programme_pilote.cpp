@@ -51,6 +51,7 @@ ProgrammePilote::~ProgrammePilote()
 bool ProgrammePilote::demarre()
 {
     m_programme = std::make_unique<Programme>(dossier(), alea, horloge, boites);
+    partage().AvecCopies = m_copies;
     return m_programme->demarre();
 }
 

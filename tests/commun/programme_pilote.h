@@ -7,14 +7,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// A day that does not change while a test runs.
+/// A day and a time that change only when a test changes them.
 class HorlogeArretee : public Horloge
 {
 public:
     QDate jour() const override { return date; }
-    QTime heure() const override { return QTime(9, 30); }
+    QTime heure() const override { return instant; }
+    qint64 ecoule() const override { return millisecondes; }
 
     QDate date = QDate(2026, 7, 14);
+    QTime instant = QTime(9, 30);
+    qint64 millisecondes = 0;
 };
 
 /// The whole program on a fresh base of its own, driven by keys and clicks as an operator drives it.
@@ -25,6 +28,8 @@ public:
     explicit ProgrammePilote(quint32 graine = 1);
     ~ProgrammePilote();
 
+    /// Safety copies are made from the next start on; without them a test is quicker.
+    void avecCopies() { m_copies = true; }
     /// Starts the program, again after termine(); what Programme::demarre() gives.
     bool demarre();
     void termine();
@@ -65,5 +70,6 @@ private:
     QWidget *cherche(const QString &forme, const QString &nom);
 
     QTemporaryDir m_dossier;
+    bool m_copies = false;
     std::unique_ptr<Programme> m_programme;
 };

@@ -1,6 +1,9 @@
+#include "app/base.h"
 #include "salle_resultats.h"
 
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -121,6 +124,35 @@ TEST_F(TirageResultats, AnnulerToutLeTirage)
     tire();
     EXPECT_EQ(tourpri(), 1);
     EXPECT_EQ(matchs(1).size(), 4u);
+}
+
+TEST_F(TirageResultats, UneCopieAvantCeQuiNeRevientPas)
+{
+    prog.avecCopies();
+    ouvre(4);
+    tire();
+    joueTour();
+    const QDir copies(prog.dossier() + u"/sauvegardes"_qs);
+    const auto nombre = [&] { return copies.entryList({u"VarloBase-*.mdb"_qs}, QDir::Files).size(); };
+    ASSERT_EQ(nombre(), 1) << "the one of the start";
+    presse(aCote(), Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_EQ(nombre(), 2);
+    store::BaseNative copie(copies.filePath(copies.entryList({u"*-02.mdb"_qs}, QDir::Files).value(0)), motDePasseBase,
+                            store::BaseNative::Mode::LectureSeule);
+    EXPECT_EQ(copie.valeurUnique(u"select count(*) from scores where score_1 = 13"_qs).entier(), 2);
+    tire();
+    presse(aCote(), Qt::ControlModifier);
+    EXPECT_EQ(nombre(), 3);
+    tire();
+
+    // Where none can be made, the work goes on.
+    ASSERT_TRUE(QDir(copies).removeRecursively());
+    QFile obstacle(copies.path());
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    prog.boites.attend(u"La copie de sécurité n'a pas pu être faite"_qs);
+    presse(aCote(), Qt::ControlModifier | Qt::ShiftModifier);
+    prog.boites.verifie();
+    EXPECT_TRUE(matchs(1).empty());
 }
 
 TEST_F(TirageResultats, AnnulerLeTour)

@@ -10,15 +10,6 @@ namespace {
 
 const QString D = u"I_tirage"_qs;
 
-QString texteDe(const PageDessinee &page)
-{
-    QStringList textes;
-    for (const Dessin &dessin : page.dessins)
-        textes += dessin.texte.trimmed();
-    textes.removeAll(QString());
-    return textes.join(u'|');
-}
-
 /// A doublette competition of \p n teams whose rounds are rows of the test.
 class Impression : public ProgrammeEssai
 {

@@ -65,7 +65,8 @@ TEST_F(ImportTable, TheExamplesFillEveryColumn)
 TEST_F(ImportTable, ColumnsAreKnownByManyNamesInAnyOrder)
 {
     // The club's name goes before a column "Club" that holds its code; the file is in Windows-1252.
-    importe(TableJoueurs(), "CLUB\tDATE DE NAISSANCE\tPR\xC9NOM\tNom de famille\tCivilit\xE9\tNum\xE9ro de licence\tNom du club\n"
+    importe(TableJoueurs(), "CLUB\tDATE DE NAISSANCE\tPR\xC9NOM\tNom de famille\tCivilit\xE9\tNum\xE9ro de licence\t"
+                            "Nom du club\n"
                             "83\t1965-03-12 00:00:00\tZo\xE9\tROUX\tMme\t0007\tD'Or\n"
                             "83\t31/02/1960\tL\xE9o\tBLANC\tMonsieur\t\tD'Or\n");
     EXPECT_EQ(joueurs(), QStringList({u"0007/ROUX/Zoé/D'Or/F/1965-03-12"_qs, u"Null/BLANC/Léo/D'Or/M/Null"_qs}));

@@ -170,7 +170,8 @@ TEST_F(Purge, TheNoticeStandsPaintedAndNothingCanBeClosedMeanwhile)
         QCloseEvent fermeture;
         QSpontaneKeyEvent::setSpontaneous(&fermeture);
         qApp->notify(prog.torvik(), &fermeture);
-        EXPECT_TRUE(prog.torvik()->isVisible());
+        EXPECT_FALSE(fermeture.isAccepted());
+        EXPECT_TRUE(prog.formulaires().estChargee(u"Accueil"_qs));
         EXPECT_FALSE(prog.base().estOuverte());
     };
     purge(temoin, u"Opération réussie"_qs);

@@ -21,7 +21,7 @@ public:
         vues += texte;
         return ReponseBoite::OK;
     }
-    std::optional<QString> InputBox(const QString &, const QString &) override { return {}; }
+    std::optional<QString> InputBox(const QString &, const QString &, std::optional<QPoint>) override { return {}; }
     std::unique_ptr<Destination> ShowPrinter() override { return nullptr; }
     QString ShowOpen(const BoiteFichier &dialogue) override { return dialogue.FileName; }
 

@@ -58,6 +58,39 @@ TEST(Collation, FollowsTheFrenchAlphabetWithoutCase)
     EXPECT_NE(CompareFrancais(u"Dupont", u"Dupônt"), 0);
 }
 
+/// Letters weigh first wherever accents stand, and a text of the file weighs as in the program.
+TEST(Collation, LooksAtAccentsOnlyBetweenTheSameLetters)
+{
+    const std::pair<QString, QString> morceaux[] = {{u"e"_qs, u"e"_qs},   {u"E"_qs, u"e"_qs},       {u"é"_qs, u"e"_qs},
+                                                    {u"z"_qs, u"z"_qs},   {u"e\u0301"_qs, u"e"_qs}, {u"œ"_qs, u"oe"_qs},
+                                                    {u"oe"_qs, u"oe"_qs}, {u"\u0300"_qs, {}},       {u"4"_qs, u"4"_qs}};
+    std::vector<std::pair<QString, QString>> textes{{}};
+    for (std::size_t debut = 0, taille = 0; taille < 3; ++taille) {
+        const std::size_t fin = textes.size();
+        for (; debut < fin; ++debut) {
+            for (const auto &[morceau, lettres] : morceaux)
+                textes.emplace_back(textes[debut].first + morceau, textes[debut].second + lettres);
+        }
+    }
+    const auto signe = [](int ordre) { return (ordre > 0) - (ordre < 0); };
+    constexpr std::size_t pas = 11; // some of the pairs, others for each text
+    std::size_t i = 0;
+    for (const auto &[a, lettresA] : textes) {
+        for (std::size_t j = ++i % pas; j < textes.size(); j += pas) {
+            const auto &[b, lettresB] = textes[j];
+            const int ordre = signe(CompareFrancais(a, b));
+            ASSERT_EQ(ordre, signe(CompareFrancaisUtf8(a.toUtf8(), b.toUtf8()))) << qPrintable(a + u'|' + b);
+            ASSERT_EQ(ordre, -signe(CompareFrancais(b, a)));
+            if (lettresA != lettresB) {
+                ASSERT_EQ(ordre, signe(QString::compare(lettresA, lettresB))) << qPrintable(a + u'|' + b);
+            } else if (a.normalized(QString::NormalizationForm_D).toLower()
+                       == b.normalized(QString::NormalizationForm_D).toLower()) {
+                ASSERT_EQ(ordre, 0) << qPrintable(a + u'|' + b);
+            }
+        }
+    }
+}
+
 TEST(Collation, MatchesPatternsLiterallyExceptForJokers)
 {
     EXPECT_TRUE(Ressemble(u"DUPONTJ", u"dupontj"));

@@ -4,6 +4,7 @@
 #include "platform/destinations.h"
 
 #include <QApplication>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -83,23 +84,48 @@ void BoitesPilotees::repond(QMessageBox &boite, const Consigne *consigne)
     QAbstractButton *bouton = consigne != nullptr ? boite.button(boutonDe(consigne->reponse)) : nullptr;
     if (consigne != nullptr && bouton == nullptr)
         retientFaute(u"La boîte « %1 » n'offre pas le bouton attendu."_qs.arg(boite.text()));
-    if (consigne != nullptr) {
-        try {
-            m_photographe.prend(consigne->image, boite);
-        } catch (const Incident &incident) {
-            retientFaute(incident.phrase());
-        }
-    }
+    if (consigne != nullptr)
+        photographie(consigne->image, boite);
     if (bouton == nullptr)
         bouton = boite.escapeButton() != nullptr ? boite.escapeButton() : boite.buttons().constFirst();
     QTest::mouseClick(bouton, Qt::LeftButton);
 }
 
-std::optional<QString> BoitesPilotees::InputBox(const QString &texte, const QString &)
+/// Called from the box's own event loop, which no failure may cross.
+void BoitesPilotees::photographie(const QString &image, QWidget &boite)
 {
-    compte();
-    retientFaute(u"Question inattendue : « %1 »."_qs.arg(texte));
-    return std::nullopt;
+    try {
+        m_photographe.prend(image, boite);
+    } catch (const Incident &incident) {
+        retientFaute(incident.phrase());
+    }
+}
+
+void BoitesPilotees::saisit(const QString &extrait, const QString &saisie, QStringView image)
+{
+    m_saisie = Saisie{extrait, saisie, image.toString()};
+}
+
+std::optional<QString> BoitesPilotees::InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin)
+{
+    const std::optional<Saisie> attendue = std::exchange(m_saisie, std::nullopt);
+    if (!attendue || !texte.contains(attendue->extrait)) {
+        compte();
+        retientFaute(u"Question inattendue : « %1 »."_qs.arg(texte));
+        return std::nullopt;
+    }
+    QTimer main;
+    QObject::connect(&main, &QTimer::timeout, &main, [&] {
+        auto *boite = qobject_cast<QInputDialog *>(QApplication::activeModalWidget());
+        if (boite == nullptr || !boite->isVisible())
+            return;
+        main.stop();
+        boite->setTextValue(attendue->texte);
+        photographie(attendue->image, *boite);
+        boite->accept();
+    });
+    main.start(patienceMs);
+    return BoitesQt::InputBox(texte, titre, coin);
 }
 
 std::unique_ptr<Destination> BoitesPilotees::ShowPrinter()

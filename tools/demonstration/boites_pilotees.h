@@ -39,6 +39,8 @@ public:
     void attend(Boite boite, const QString &extrait, ReponseBoite reponse, QStringView image);
     /// Times that such a box came up so far.
     int fois(Boite boite) const { return m_fois.value(boite); }
+    /// The next question for a line of text holds \p extrait, gets \p saisie, and is taken as picture \p image.
+    void saisit(const QString &extrait, const QString &saisie, QStringView image);
     /// The next document goes to this PDF file; a printer asked for without it is a fault.
     void imprimeDans(const QString &fichier) { m_document = fichier; }
     /// The file dialog chooses this file next; one that is asked for without it is a fault.
@@ -47,7 +49,7 @@ public:
     const QString &faute() const { return m_faute; }
 
     ReponseBoite MsgBox(const QString &texte, int drapeaux, const QString &titre) override;
-    std::optional<QString> InputBox(const QString &texte, const QString &titre) override;
+    std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
     QString ShowOpen(const BoiteFichier &dialogue) override;
 
@@ -60,12 +62,21 @@ private:
         QString image;
     };
 
+    struct Saisie
+    {
+        QString extrait;
+        QString texte;
+        QString image;
+    };
+
     const Consigne *consigne(const QString &texte) const;
     void repond(QMessageBox &boite, const Consigne *consigne);
+    void photographie(const QString &image, QWidget &boite);
     void retientFaute(const QString &phrase);
 
     Photographe &m_photographe;
     std::vector<Consigne> m_consignes;
+    std::optional<Saisie> m_saisie;
     QString m_document;
     QString m_fichier;
     QHash<Boite, int> m_fois;

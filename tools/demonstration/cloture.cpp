@@ -131,8 +131,9 @@ void Cloture::importeListes()
     choisit(u"mnu_ijoueur"_qs);
     choisit(u"mnu_iclub"_qs);
     const qint64 joueurs = nombre(u"joueurs where licence is not null and nom is not null and societe is not null"_qs);
-    exige(joueurs == qint64(m_plateau.equipes().size()) * m_options.joueurs() && nombre(u"clubs"_qs) == qint64(m_plateau.clubs().size()),
-          u"Les listes des joueurs et des clubs ne sont pas entrées."_qs);
+    exige(joueurs == qint64(m_plateau.equipes().size()) * m_options.joueurs(),
+          u"La liste des joueurs n'est pas entrée."_qs);
+    exige(nombre(u"clubs"_qs) == qint64(m_plateau.clubs().size()), u"La liste des clubs n'est pas entrée."_qs);
     dit(u"Importation : %1 joueurs, %2 clubs"_qs.arg(joueurs).arg(m_plateau.clubs().size()));
 }
 

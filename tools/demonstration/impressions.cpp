@@ -1,5 +1,9 @@
 #include "impressions.h"
 
+#include "platform/flexgrid.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -8,12 +12,15 @@ namespace demonstration {
 namespace {
 
 const QString dialogue = u"I_tirage"_qs;
+const QString liste = u"palmares"_qs;
+const QString feuilles = u"Resusoc"_qs;
 
 } // namespace
 
 QStringList Impressions::fichiers()
 {
-    return {u"tirage-tour1.pdf"_qs, u"classement.pdf"_qs, u"classement-detail.pdf"_qs};
+    return {u"tirage-tour1.pdf"_qs, u"classement.pdf"_qs,     u"classement-detail.pdf"_qs,
+            u"palmares.pdf"_qs,     u"palmares-detail.pdf"_qs, u"equipe-club.pdf"_qs};
 }
 
 void Impressions::ouvre(const QString &option)
@@ -24,11 +31,16 @@ void Impressions::ouvre(const QString &option)
 
 void Impressions::imprime(const QString &fichier)
 {
+    imprime(dialogue, u"Imprime"_qs, fichier);
+    m_main.clique(m_main.controle(dialogue, u"sortie"_qs));
+}
+
+void Impressions::imprime(const QString &forme, const QString &bouton, const QString &fichier)
+{
     const QString chemin = QDir(m_dossier).filePath(fichier);
     m_boites.imprimeDans(chemin);
-    m_main.clique(m_main.controle(dialogue, u"Imprime"_qs));
+    m_main.clique(m_main.controle(forme, bouton));
     exige(QFileInfo(chemin).size() > 0, u"La feuille %1 n'est pas sortie."_qs.arg(fichier));
-    m_main.clique(m_main.controle(dialogue, u"sortie"_qs));
 }
 
 void Impressions::tirage(const QString &fichier)
@@ -45,6 +57,55 @@ void Impressions::classement(const QString &fichier, bool detail)
         m_main.clique(m_main.controle(dialogue, u"Label2"_qs));
     m_photographe.prend(u"impression-classement", *m_main.fenetre(dialogue));
     imprime(fichier);
+}
+
+void Impressions::ferme(const QString &forme)
+{
+    m_main.fenetre(forme)->close();
+    QCoreApplication::processEvents();
+}
+
+/// Selects all rows, the last one with the shift key.
+void Impressions::imprimePalmares(const QString &fichier)
+{
+    auto *grille = m_main.controle<FlexGrid>(liste, u"Thonneur_1"_qs);
+    m_main.cliqueCellule(grille, 1, 1);
+    m_main.cliqueCellule(grille, grille->Rows() - 1, 1, Qt::LeftButton, Qt::ShiftModifier);
+    imprime(liste, u"imprimer"_qs, fichier);
+}
+
+void Impressions::palmares(const QString &simple, const QString &detaille)
+{
+    m_main.clique(m_main.controle(u"EResultats"_qs, u"hit"_qs));
+    m_photographe.prend(u"palmares", *m_main.fenetre(liste));
+    m_main.cliqueCellule(m_main.controle<FlexGrid>(liste, u"Thonneur_1"_qs), 1, 1, Qt::RightButton);
+    m_photographe.prend(u"palmares-noms", *m_main.fenetre(liste));
+    imprimePalmares(simple);
+    m_main.clique(m_main.controle(liste, u"detail"_qs));
+    m_main.clique(m_main.controle(liste, u"typedit"_qs));
+    imprimePalmares(detaille);
+    ferme(liste);
+}
+
+void Impressions::club(const QString &fichier)
+{
+    m_main.clique(m_main.controle(u"EResultats"_qs, u"hit"_qs));
+    auto *grille = m_main.controle<FlexGrid>(liste, u"Thonneur_1"_qs);
+    m_main.cliqueCellule(grille, 1, 1, Qt::RightButton);
+    int ligne = 1;
+    while (!grille->TextMatrix(ligne, 1).contains(u" bat "))
+        ++ligne;
+    m_main.cliqueCellule(grille, ligne, 1, Qt::LeftButton, Qt::ControlModifier);
+    for (const QString &option : {u"Option3"_qs, u"Option4"_qs}) {
+        if (m_main.controle(feuilles, option)->isEnabled()) {
+            m_main.clique(m_main.controle(feuilles, option));
+            break;
+        }
+    }
+    m_photographe.prend(u"feuille-equipe", *m_main.fenetre(feuilles));
+    imprime(feuilles, u"imprimer"_qs, fichier);
+    ferme(feuilles);
+    ferme(liste);
 }
 
 } // namespace demonstration

@@ -20,6 +20,10 @@ public:
     /// Draw sheet of the last round.
     void tirage(const QString &fichier);
     void classement(const QString &fichier, bool detail);
+    /// The whole honours list with the names of players: a match a line, and then with the members of the winner.
+    void palmares(const QString &simple, const QString &detaille);
+    /// Sheet of a club of the first match in the honours list, or of its first team when both clubs are mixed.
+    void club(const QString &fichier);
 
     /// Names of all documents that a day can leave.
     static QStringList fichiers();
@@ -27,6 +31,9 @@ public:
 private:
     void ouvre(const QString &option);
     void imprime(const QString &fichier);
+    void imprime(const QString &forme, const QString &bouton, const QString &fichier);
+    void imprimePalmares(const QString &fichier);
+    void ferme(const QString &forme);
 
     Operateur &m_main;
     BoitesPilotees &m_boites;

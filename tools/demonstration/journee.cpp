@@ -23,6 +23,7 @@ Journee::Journee(const Options &options, const Plateau &plateau, Hasard &hasard)
     , m_main(m_programme, m_boites)
     , m_inscription(m_programme, m_main, m_boites, m_photographe)
     , m_impressions(m_main, m_boites, m_photographe, options.dossier)
+    , m_outils(m_main, m_boites, m_photographe, m_horloge)
     , m_resultats(m_programme, m_main, plateau, hasard, m_photographe)
 {
 }
@@ -37,6 +38,9 @@ void Journee::joue()
     joueTours();
     m_impressions.classement(u"classement.pdf"_qs, false);
     m_impressions.classement(u"classement-detail.pdf"_qs, true);
+    m_impressions.palmares(u"palmares.pdf"_qs, u"palmares-detail.pdf"_qs);
+    m_impressions.club(u"equipe-club.pdf"_qs);
+    m_outils.essaie();
 }
 
 void Journee::demarre()

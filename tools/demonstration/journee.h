@@ -3,10 +3,12 @@
 #include "app/programme.h"
 #include "boites_pilotees.h"
 #include "hasard.h"
+#include "horloge_du_jour.h"
 #include "impressions.h"
 #include "inscription.h"
 #include "operateur.h"
 #include "options.h"
+#include "outils.h"
 #include "photographe.h"
 #include "plateau.h"
 #include "resultats.h"
@@ -14,14 +16,6 @@
 #include <set>
 
 namespace demonstration {
-
-/// The day of the demonstration, always the same.
-class HorlogeDuJour final : public Horloge
-{
-public:
-    QDate jour() const override { return QDate(2026, 6, 14); }
-    QTime heure() const override { return QTime(9, 0); }
-};
 
 /// A whole day at the organiser's table, from the start of the program to the last result.
 class Journee
@@ -57,6 +51,7 @@ private:
     Operateur m_main;
     Inscription m_inscription;
     Impressions m_impressions;
+    Outils m_outils;
     Resultats m_resultats;
     std::set<int> m_avertis;
 };

@@ -1,6 +1,7 @@
 #include "operateur.h"
 
 #include "app/torvik.h"
+#include "platform/flexgrid.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -142,6 +143,17 @@ void Operateur::doubleClique(QWidget *controle)
 {
     metDevant(*controle->window());
     QTest::mouseDClick(controle->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, place(*controle));
+    apres();
+}
+
+void Operateur::cliqueCellule(FlexGrid *grille, int ligne, int colonne, Qt::MouseButton bouton,
+                              Qt::KeyboardModifiers avec)
+{
+    metDevant(*grille->window());
+    const QModelIndex cellule = grille->model()->index(ligne - 1, colonne);
+    exige(cellule.isValid(), u"%1 n'a pas de cellule %2, %3."_qs.arg(grille->objectName()).arg(ligne).arg(colonne));
+    grille->scrollTo(cellule);
+    QTest::mouseClick(grille->viewport(), bouton, avec, grille->visualRect(cellule).center());
     apres();
 }
 

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+class FlexGrid;
+
 namespace demonstration {
 
 /// The hands at the table: types into whatever has the focus, clicks on what can be seen. After each gesture an
@@ -35,6 +37,9 @@ public:
     void remplace(const QString &texte);
     void clique(QWidget *controle);
     void doubleClique(QWidget *controle);
+    /// Clicks a cell of a grid, which is scrolled until it shows.
+    void cliqueCellule(FlexGrid *grille, int ligne, int colonne, Qt::MouseButton bouton = Qt::LeftButton,
+                       Qt::KeyboardModifiers avec = Qt::NoModifier);
 
     bool aLeFocus(const QString &forme, const QString &nom) const;
     /// Ends the day unless the focus comes to that control.

@@ -1,6 +1,7 @@
 #include "resultats.h"
 
 #include "app/torvik.h"
+#include "platform/flexgrid.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -105,6 +106,8 @@ void Resultats::joue(const Rencontre &rencontre, int place, int nombre)
         tapeScore(rencontre, score);
     if ((premierTour && place == nombre / 2) || m_hasard.chance(pourcentCorrection))
         corrige(rencontre);
+    if (tour() == 2 && place == nombre / 2)
+        corrigeParLesVues(rencontre);
 }
 
 Resultats::Score Resultats::tireScore(const Rencontre &rencontre)
@@ -133,6 +136,12 @@ void Resultats::appelle(const Rencontre &rencontre, QStringView image)
 void Resultats::tapeScore(const Rencontre &rencontre, const Score &score, QStringView image)
 {
     appelle(rencontre, image);
+    saisitScore(score);
+    verifie(rencontre, score);
+}
+
+void Resultats::saisitScore(const Score &score)
+{
     if (score.score1 < gagnant) {
         m_main.tape(QString::number(score.score1));
     } else {
@@ -149,7 +158,6 @@ void Resultats::tapeScore(const Rencontre &rencontre, const Score &score, QStrin
     if (tour() == 2)
         m_photographe.prendBureau(u"bureau-resultats", *m_programme.torvik());
     m_main.entree();
-    verifie(rencontre, score);
 }
 
 /// The views stand beside the entry for the whole round, and leave the keyboard to it.
@@ -189,6 +197,51 @@ void Resultats::corrige(const Rencontre &rencontre)
 {
     const Score score = tireScore(rencontre);
     tapeScore(rencontre, score, u"resultats-correction");
+}
+
+/// The views beside the entry: a match is told to be on the ground and taken back, a team is looked up, the played
+/// matches are sorted, and the last one comes back into the entry by a click.
+void Resultats::corrigeParLesVues(const Rencontre &rencontre)
+{
+    m_main.clique(m_main.controle(u"manqres"_qs, u"classement"_qs));
+    if (m_main.controle<FlexGrid>(u"manqres"_qs, u"les_resultats_0"_qs)->Rows() > 1) {
+        basculeLancee();
+        montreDetail();
+    }
+    auto *joues = m_main.controle<FlexGrid>(u"valresu"_qs, u"les_resultats"_qs);
+    m_main.cliqueCellule(joues, 1, 1, Qt::RightButton);
+    m_photographe.prend(u"vue-joues-triee", *m_main.fenetre(u"valresu"_qs));
+    int ligne = 1;
+    while (ligne < joues->Rows()
+           && (joues->TextMatrix(ligne, 1) != QString::number(rencontre.equipe1)
+               || joues->TextMatrix(ligne, 2) != QString::number(rencontre.equipe2)))
+        ++ligne;
+    m_main.cliqueCellule(joues, ligne, 1);
+    m_main.exigeFocus(forme, u"Score1"_qs);
+    m_main.exigeTexte(forme, u"Equipe1"_qs, QString::number(rencontre.equipe1));
+    photographie(u"resultats-recopie");
+    const Score score = tireScore(rencontre);
+    saisitScore(score);
+    verifie(rencontre, score);
+}
+
+void Resultats::basculeLancee()
+{
+    auto *attendus = m_main.controle<FlexGrid>(u"manqres"_qs, u"les_resultats_0"_qs);
+    const quint32 avant = attendus->CellBackColor(1, 1);
+    m_main.cliqueCellule(attendus, 1, 1, Qt::RightButton);
+    exige(attendus->CellBackColor(1, 1) != avant, u"La rencontre lancée ne se distingue pas des autres."_qs);
+    m_main.cliqueCellule(attendus, 1, 1, Qt::RightButton);
+    exige(attendus->CellBackColor(1, 1) == avant, u"La rencontre est restée lancée."_qs);
+}
+
+void Resultats::montreDetail()
+{
+    const QString detail = u"Détail_résultats"_qs;
+    m_main.cliqueCellule(m_main.controle<FlexGrid>(u"manqres"_qs, u"les_resultats_0"_qs), 1, 1);
+    m_photographe.prend(u"detail-equipe", *m_main.fenetre(detail));
+    m_main.fenetre(detail)->close();
+    m_main.exigeFocus(forme, u"Equipe1"_qs);
 }
 
 void Resultats::verifie(const Rencontre &rencontre, const Score &score)

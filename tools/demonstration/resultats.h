@@ -49,9 +49,13 @@ private:
     Score tireScore(const Rencontre &rencontre);
     void appelle(const Rencontre &rencontre, QStringView image = imageAppel);
     void tapeScore(const Rencontre &rencontre, const Score &score, QStringView image = imageAppel);
+    void saisitScore(const Score &score);
     void tapeMot(const Rencontre &rencontre);
     void doubleClique(const Rencontre &rencontre, bool premierGagne);
     void corrige(const Rencontre &rencontre);
+    void corrigeParLesVues(const Rencontre &rencontre);
+    void basculeLancee();
+    void montreDetail();
     void verifie(const Rencontre &rencontre, const Score &score);
     void photographie(QStringView nom);
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+/// An alarm some minutes from now. It compares times of day: set across midnight, it waits for midnight first.
+class Alarme
+{
+public:
+    /// \p heure outlives the alarm and holds its date and time.
+    explicit Alarme(QDateTime &heure) : m_heure(heure) {}
+
+    /// The minutes as they were typed; empty when no alarm is set.
+    const QString &MinutesAlarme() const { return m_minutes; }
+    bool estMise() const { return !m_minutes.isEmpty(); }
+    /// Time of day of the alarm that is set.
+    QTime heure() const { return m_heure.time(); }
+
+    /// Sets the alarm \p minutes (a number, with or without decimals) after \p maintenant. \p affichee is the time that
+    /// the clock shows. False when the text is no number, or too great a one: nothing is set then.
+    bool regle(const QString &minutes, const QDateTime &maintenant, QTime affichee);
+    void efface();
+    /// Whether the alarm is due, now that the clock shows \p affichee; asked once a second at least.
+    bool sonne(QTime affichee);
+
+private:
+    QDateTime &m_heure;
+    QString m_minutes;
+    QTime m_miseA;
+    bool m_attendMinuit = false;
+};

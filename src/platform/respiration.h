@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/formulaire.h"
+
+#include <QElapsedTimer>
+
+/// Lets events run during a long loop: often enough for the screen to stay alive, seldom enough to cost nothing.
+class Respiration
+{
+public:
+    Respiration() { m_derniere.start(); }
+
+    /// Called at each turn of the loop.
+    void souffle()
+    {
+        if (m_derniere.elapsed() < intervalleMs)
+            return;
+        DoEvents();
+        m_derniere.start();
+    }
+
+private:
+    static constexpr int intervalleMs = 40;
+
+    QElapsedTimer m_derniere;
+};

@@ -1,0 +1,253 @@
+#include "registration/forme_inscription.h"
+
+#include "app/routines.h"
+#include "platform/formulaires.h"
+#include "registration/equipe_inscrite.h"
+#include "store/collation.h"
+
+using store::EstNumerique;
+using store::Recordset;
+using store::Val;
+
+namespace {
+
+// Twips
+constexpr int margeBasse = 1500;
+constexpr int margeGauche = 50;
+
+} // namespace
+
+void poseTexte(QComboBox *combo, const QString &texte)
+{
+    combo->setCurrentIndex(combo->findText(texte));
+    combo->setEditText(texte);
+}
+
+void FormeInscription::relie(const Champs &champs)
+{
+    m_champs = champs;
+    surKeyDown(champs.Equipe, [this](int code, int maj) { Equipe_KeyDown(code, maj); });
+    surChoix(champs.Equipe, [this] { Equipe_KeyDown(Touche::Entree, 0); });
+    surSortie(champs.Equipe, [this] { Equipe_LostFocus(); });
+    surSortie(champs.Société, [this] { Société_LostFocus(); });
+    surMouseDown(champs.Label1, [this](int, int) { Label1_Click(); });
+}
+
+void FormeInscription::surSortie(QWidget *controle, Traitement traitement)
+{
+    surLostFocus(controle, [this, controle, traitement = std::move(traitement)] {
+        if (m_sortieFaite != controle)
+            traitement();
+    });
+}
+
+/// In the lists of numbers, wheel and arrows would walk through competitions and teams under the operator's hand: the
+/// arrows open the list instead.
+bool FormeInscription::eventFilter(QObject *objet, QEvent *evenement)
+{
+    auto *combo = qobject_cast<QComboBox *>(objet);
+    if (combo != nullptr && evenement->type() == QEvent::Wheel)
+        return true;
+    if (combo != nullptr && evenement->type() == QEvent::KeyPress) {
+        const int touche = static_cast<QKeyEvent *>(evenement)->key();
+        if (touche == Qt::Key_Up || touche == Qt::Key_Down || touche == Qt::Key_PageUp || touche == Qt::Key_PageDown) {
+            combo->showPopup();
+            return true;
+        }
+    }
+    return Formulaire::eventFilter(objet, evenement);
+}
+
+void FormeInscription::placeForme()
+{
+    Move(margeGauche, Ecran::Height() - Height() - margeBasse);
+}
+
+/// The number in `Equipe`, 0 when the text is none.
+double FormeInscription::numeroTape() const
+{
+    constexpr double borne = 1e9;
+    const QString texte = m_champs.Equipe->currentText();
+    return EstNumerique(texte) ? std::clamp(Val(texte), -borne, borne) : 0;
+}
+
+void FormeInscription::poseNumero(const QString &texte)
+{
+    poseTexte(m_champs.Equipe, texte);
+}
+
+void FormeInscription::proposeSuivante(std::optional<qint64> maxe)
+{
+    poseNumero(NumeroAffiche(maxe.value_or(0) + 1));
+}
+
+std::size_t FormeInscription::remplitNumeros()
+{
+    QString proposition = m_champs.Equipe->currentText();
+    const std::vector<qint64> numeros = NumerosDesEquipes(partage(), concoursSaisi());
+    QStringList lignes;
+    for (const qint64 numero : numeros)
+        lignes += NumeroAffiche(numero);
+    if (!numeros.empty())
+        proposition = NumeroAffiche(numeros.back() + 1);
+    m_champs.Equipe->clear();
+    m_champs.Equipe->addItems(lignes);
+    poseNumero(proposition);
+    return numeros.size();
+}
+
+void FormeInscription::retireDeLaListe(qint64 numero)
+{
+    const QString tape = m_champs.Equipe->currentText();
+    for (int i = m_champs.Equipe->count() - 1; i >= 0; --i) {
+        if (m_champs.Equipe->itemText(i).toLongLong() == numero)
+            m_champs.Equipe->removeItem(i);
+    }
+    poseNumero(tape);
+}
+
+void FormeInscription::Equipe_KeyDown(int KeyCode, int)
+{
+    if (!Touche::Avance(KeyCode))
+        return;
+    const auto faite = sortieFaite(m_champs.Equipe);
+    Equipe_LostFocus();
+}
+
+void FormeInscription::Equipe_LostFocus()
+{
+    std::optional<qint64> maxe;
+    PasseErreur([&] { maxe = PlusHautNumero(partage(), concoursSaisi()); });
+    if (numeroTape() < 1 || (maxe && numeroTape() > double(*maxe + 1))) {
+        refuseNumero(maxe);
+        return;
+    }
+    bool lue = true;
+    PasseErreur([&] { lue = litNumero(maxe); });
+    if (lue)
+        SetFocus(m_champs.Société);
+}
+
+void FormeInscription::refuseNumero(std::optional<qint64> maxe)
+{
+    MsgBox(mes(81) + u"\r\n"_qs + mes(82));
+    poseNumero(NumeroAffiche(maxe.value_or(1)));
+    SetFocus(m_champs.Equipe);
+    m_champs.Equipe->lineEdit()->selectAll();
+}
+
+/// Shows what the number typed stands for, or proposes the next free number instead of one that nobody bears: gaps are
+/// never filled.
+bool FormeInscription::litNumero(std::optional<qint64> maxe)
+{
+    Recordset equipes = partage().BaseDonnees.OpenRecordset(RequeteEquipe(concoursSaisi(), numeroEquipe()));
+    if (!equipes.Eof())
+        return montreConnu(equipes);
+    proposeSuivante(maxe);
+    return true;
+}
+
+bool FormeInscription::memeTexte(const QString &a, const QString &b)
+{
+    return store::CompareFrancais(a, b) == 0;
+}
+
+std::optional<FormeInscription::Engagement> FormeInscription::chercheEngagement(const QString &licence,
+                                                                                const store::Valeur &concours) const
+{
+    Recordset equipes = partage().BaseDonnees.OpenRecordset(u"Equipes", store::dbOpenTable);
+    equipes.Index(u"engage");
+    equipes.Seek(u"=", {licence, concours});
+    if (equipes.NoMatch())
+        return std::nullopt;
+    return Engagement{.equipe = equipes[u"equipe"].entierOu(0),
+                      .doublon = equipes[u"doublon"].entierOu(0),
+                      .nom = equipes[u"nom"].texte(),
+                      .prenom = equipes[u"prenom"].texte(),
+                      .societe = equipes[u"societe"].texte()};
+}
+
+void FormeInscription::signaleEngagement(const Engagement &engagement, int place, const Ligne &ligne)
+{
+    if (engagement.equipe == numeroEquipe() && engagement.doublon == place)
+        return;
+    const QString saut = u"\r\n"_qs;
+    const QString joueur = u"%1 %2(%3)"_qs.arg(engagement.nom, engagement.prenom, engagement.societe);
+    MsgBox(mes(103) + u" : "_qs + ligne.LicenceJ->text() + saut + mes(19) + u" : "_qs + joueur + saut + mes(104) + u' '
+               + mes(17) + QString::number(engagement.equipe) + saut + saut + mes(105),
+           vbYesNo);
+    const bool memePersonne = memeTexte(engagement.nom, ligne.NomJ->text())
+        && memeTexte(engagement.prenom, ligne.PrénomJ->text())
+        && memeTexte(engagement.societe, m_champs.Société->text());
+    if (memePersonne) {
+        ligne.NomJ->clear();
+        ligne.PrénomJ->clear();
+    }
+    SetFocus(memePersonne ? ligne.NomJ : ligne.LicenceJ);
+    ligne.LicenceJ->clear();
+}
+
+bool FormeInscription::refuseSansClub()
+{
+    if (!m_champs.Société->text().trimmed().isEmpty())
+        return false;
+    MsgBox(u"Le nom du club est obligatoire"_qs);
+    Form_Click();
+    SetFocus(m_champs.Société);
+    return true;
+}
+
+void FormeInscription::Société_LostFocus()
+{
+    const QString club = m_champs.Société->text().trimmed();
+    if (club.isEmpty() || club.toUpper() == mes(80))
+        return;
+    Recordset societes = partage().BaseDonnees.OpenRecordset(u"Societes", store::dbOpenTable);
+    societes.Index(u"nomsoc");
+    societes.Seek(u"=", {club});
+    if (!societes.NoMatch())
+        return;
+    montreListesoc();
+    if (MsgBox(mes(92), vbYesNo) == ReponseBoite::Oui) {
+        ajouteClub(club);
+        return;
+    }
+    m_champs.Société->clear();
+    SetFocus(m_champs.Société);
+}
+
+void FormeInscription::ajouteClub(const QString &club)
+{
+    const store::Valeur maxsoc = ValeurUnique(partage(), u"select max(codesoc) as maxsoc from societes"_qs);
+    Recordset societes = partage().BaseDonnees.OpenRecordset(u"Societes", store::dbOpenTable);
+    societes.AddNew();
+    societes[u"societe"] = club;
+    societes[u"codesoc"] = maxsoc.estNull() ? store::Valeur() : store::Valeur(maxsoc.entier() + 1);
+    societes.Update();
+    if (Formulaire *liste = formulaires().forme(u"Listesoc"_qs))
+        liste->Form_Load();
+    SetFocus(m_champs.premierNom);
+}
+
+void FormeInscription::Form_Click()
+{
+    montreListesoc();
+}
+
+void FormeInscription::Label1_Click()
+{
+    montreListesoc();
+}
+
+void FormeInscription::montreListesoc()
+{
+    placeListesoc(largeurClubs);
+    formulaires().MontreSansFocus(u"Listesoc"_qs);
+}
+
+/// The clubs stand at the right side of the form, as high as it.
+void FormeInscription::placeListesoc(int largeur)
+{
+    if (Formulaire *liste = formulaires().Charge(u"Listesoc"_qs))
+        liste->Move(Left() + Width(), Top(), largeur, Height());
+}
