@@ -5,6 +5,8 @@ namespace {
 const QString policeFeuilles = u"Times New Roman"_qs;
 constexpr int gauchePied = 400;
 constexpr int droitePied = 2200;
+constexpr double tailleLisible = 7; // points
+constexpr int montanteParPoint = 18; // twips from the upper edge of a text to the line on which its letters stand
 
 QString tailleEquipe(int joueurs)
 {
@@ -19,6 +21,18 @@ QString tailleEquipe(int joueurs)
 }
 
 } // namespace
+
+void ecritJusque(Imprimante &papier, const QString &texte, int fin)
+{
+    const double taille = papier.FontSize;
+    while (papier.CurrentX + papier.TextWidth(texte) > fin && papier.FontSize > tailleLisible)
+        papier.FontSize -= 1;
+    const int descente = int((taille - papier.FontSize) * montanteParPoint);
+    papier.CurrentY += descente;
+    papier.Print(texte, false);
+    papier.CurrentY -= descente;
+    papier.FontSize = taille;
+}
 
 QString aligneDroite(const QString &texte, int largeur)
 {

@@ -110,9 +110,9 @@ QString FeuilleDetail::clubConnu(const Membre &membre) const
 void FeuilleDetail::ligneMembre(const QString &puce, const Membre &membre)
 {
     m_papier.CurrentX = gaucheNom;
-    m_papier.Print(puce + membre.nom, false);
+    ecritJusque(m_papier, puce + membre.nom, gaucheLicence);
     m_papier.CurrentX = gaucheLicence;
-    m_papier.Print(membre.licence, false);
+    ecritJusque(m_papier, membre.licence, gaucheClub);
     m_papier.CurrentX = gaucheClub;
     m_papier.Print(membre.societe);
     m_cadre.saute(limite());
@@ -183,9 +183,10 @@ void FeuilleDetail::tour(const QString &nom)
 
 void FeuilleDetail::rencontre(const QString &phrase, const QString &score)
 {
+    const int gaucheScore = m_papier.Width() - (m_papier.TextWidth(score) + margeScore);
     m_papier.CurrentX = gauchePhrase;
-    m_papier.Print(phrase, false);
-    m_papier.CurrentX = m_papier.Width() - (m_papier.TextWidth(score) + margeScore);
+    ecritJusque(m_papier, phrase, gaucheScore);
+    m_papier.CurrentX = gaucheScore;
     m_papier.Print(score);
 }
 

@@ -37,10 +37,11 @@ void ligne(Imprimante &papier, const FlexGrid &grille, int numero)
         papier.Print(tour, false);
     }
     papier.FontBold = false;
-    papier.CurrentX = gauchePhrase;
-    papier.Print(grille.TextMatrix(numero, 1), false);
     const QString score = grille.TextMatrix(numero, 2);
-    papier.CurrentX = papier.Width() - (papier.TextWidth(score) + margeScore);
+    const int gaucheScore = papier.Width() - (papier.TextWidth(score) + margeScore);
+    papier.CurrentX = gauchePhrase;
+    ecritJusque(papier, grille.TextMatrix(numero, 1), gaucheScore);
+    papier.CurrentX = gaucheScore;
     papier.Print(score);
 }
 
