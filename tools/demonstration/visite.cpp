@@ -62,7 +62,7 @@ void Visite::choisit(const QString &langue)
     exige(QTest::qWaitForWindowActive(m_main.fenetre(u"langues"_qs)), u"Le choix de la langue ne vient pas devant."_qs);
     liste->setFocus();
     QTest::keyClicks(liste, langue.left(1));
-    QTest::keyClicks(liste->view(), langue.mid(1));
+    QTest::keyClicks(liste->view(), langue.mid(1, 1));
     QTest::keyClick(liste->view(), Qt::Key_Return);
     QCoreApplication::processEvents();
     exige(liste->currentText() == langue, u"La langue %1 n'a pas pu être choisie."_qs.arg(langue));
