@@ -40,7 +40,7 @@ void prepareDossier(const QDir &dossier)
           u"Le dossier %1 contient une base qui n'est pas celle d'une démonstration ; elle reste intacte. "
           u"Choisissez un autre dossier."_qs.arg(QDir::toNativeSeparators(dossier.path())));
     for (const QString &nom : QStringList{base, base + u"-wal"_qs, base + u"-shm"_qs, icone}
-             + Photographe::fichiers() + Impressions::fichiers() + Cloture::fichiers())
+             + Photographe::fichiers() + Impressions::fichiers() + Registre::fichiers() + Cloture::fichiers())
         exige(!dossier.exists(nom) || QFile::remove(dossier.filePath(nom)),
               u"Le fichier %1 ne peut pas être remplacé."_qs.arg(QDir::toNativeSeparators(dossier.filePath(nom))));
     const QDir programme(QApplication::applicationDirPath());
