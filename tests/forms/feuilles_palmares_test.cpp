@@ -147,6 +147,25 @@ TEST_F(FeuillesPalmares, ASelectionPrintsItsRowsWhicheverWayItWasMade)
     }
 }
 
+TEST_F(FeuillesPalmares, ALongSentenceGetsSmallerLettersBeforeItRunsIntoTheScore)
+{
+    ouvre(4, {{1, 1, 2, 13, -3}, {1, 3, 4, 13, 5}});
+    execute(u"update equipes set societe = 'Les Amis du Cochonnet de Saint-Raphaël' where equipe < 3"_qs);
+    clicCellule(1, 1, Qt::RightButton);
+    for (const bool detail : {false, true}) {
+        choisit(1, 2);
+        const Pages pages = imprime(detail, false);
+        ASSERT_EQ(pages.size(), 1u);
+        const Dessin *longue = trouve(pages[0], grille().TextMatrix(1, 1).trimmed());
+        const Dessin *score = trouve(pages[0], u"13:Disqualifié"_qs);
+        const Dessin *courte = trouve(pages[0], grille().TextMatrix(2, 1).trimmed());
+        ASSERT_TRUE(longue != nullptr && score != nullptr && courte != nullptr);
+        EXPECT_LE(longue->x2, score->x1);
+        EXPECT_LT(longue->taille, score->taille);
+        EXPECT_EQ(courte->taille, detail ? 12 : 14);
+    }
+}
+
 TEST_F(FeuillesPalmares, TheListOfTeamsTakesAsManyPlayersAsATeamHas)
 {
     ouvre(4, {{1, 1, 2, 13, 4}});
