@@ -18,6 +18,7 @@ constexpr int gauchePhrase = 300;
 constexpr int gaucheNom = 700;
 constexpr int gaucheLicence = 4100;
 constexpr int gaucheClub = 5100;
+constexpr int ecartColonnes = 120;
 constexpr int margeScore = 800;
 constexpr int avantLigne = 50;
 constexpr int avantTour = 150;
@@ -110,9 +111,9 @@ QString FeuilleDetail::clubConnu(const Membre &membre) const
 void FeuilleDetail::ligneMembre(const QString &puce, const Membre &membre)
 {
     m_papier.CurrentX = gaucheNom;
-    ecritJusque(m_papier, puce + membre.nom, gaucheLicence);
+    ecritJusque(m_papier, puce + membre.nom, gaucheLicence - ecartColonnes);
     m_papier.CurrentX = gaucheLicence;
-    ecritJusque(m_papier, membre.licence, gaucheClub);
+    ecritJusque(m_papier, membre.licence, gaucheClub - ecartColonnes);
     m_papier.CurrentX = gaucheClub;
     m_papier.Print(membre.societe);
     m_cadre.saute(limite());
