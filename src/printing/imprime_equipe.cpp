@@ -1,5 +1,6 @@
 #include "printing/imprime_equipe.h"
 
+#include "app/routines.h"
 #include "platform/flexgrid.h"
 #include "printing/cadre.h"
 
@@ -63,8 +64,8 @@ QString FeuilleEquipe::corpsClub() const
 {
     QString corps = u"Club : "_qs + m_texte + finDeLigne;
     PasseErreur([&] {
-        Recordset membres = lit(u"select equipe, nom, prenom, societe, licence from equipes where societe = '"_qs
-                                + m_texte + u'\'' + duConcours() + u" order by equipe, doublon"_qs);
+        Recordset membres = lit(u"select equipe, nom, prenom, societe, licence from equipes where societe = "_qs
+                                + EntreApostrophes(m_texte) + duConcours() + u" order by equipe, doublon"_qs);
         std::optional<qint64> equipe;
         for (; !membres.Eof(); membres.MoveNext()) {
             const qint64 numero = membres[u"equipe"].entier();
@@ -94,8 +95,8 @@ QString FeuilleEquipe::corpsEquipe() const
 /// Number of the team that has the named member. Of namesakes, the one whose team stands in the text.
 QString FeuilleEquipe::numeroEquipe() const
 {
-    Recordset equipes = lit(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like '"_qs + cle()
-                            + u'\'' + duConcours());
+    Recordset equipes = lit(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like "_qs
+                            + EntreApostrophes(cle()) + duConcours());
     const QString lu = m_texte.trimmed().section(u' ', 0, 0);
     QString numero;
     for (; !equipes.Eof() && numero != lu; equipes.MoveNext()) {
