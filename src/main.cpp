@@ -11,10 +11,8 @@ int main(int argc, char *argv[])
 
     const QString dossier = QApplication::applicationDirPath();
     const InstanceUnique instance(dossier);
-    if (instance.dejaPrise()) {
-        boites.MsgBox(u"Varlo est déjà en action"_qs, vbExclamation, u"Erreur"_qs);
+    if (instance.cedeLaPlace(boites))
         return 0;
-    }
     AleaHorloge alea;
     const Horloge horloge;
     Programme programme(dossier, alea, horloge, boites);
