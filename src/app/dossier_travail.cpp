@@ -34,21 +34,28 @@ bool pose(const QString &chemin, const QByteArray &contenu)
 
 QString phraseEchec(const QString &fichier, const QString &dossier)
 {
-    return u"%1 ne peut pas être copié dans le dossier\r\n%2\r\nVérifiez la place et les droits de ce dossier."_qs
-        .arg(fichier, QDir::toNativeSeparators(dossier));
+    const QString phrase =
+        u"%1 ne peut pas être copié dans le dossier\r\n%2\r\nVérifiez la place et les droits de ce dossier."_qs;
+    return phrase.arg(fichier, QDir::toNativeSeparators(dossier));
+}
+
+/// Whether results wait there that are not yet in the base itself.
+bool journalEnAttente(const QDir &dossier)
+{
+    return QFileInfo(dossier, nomBase + u"-wal"_qs).size() > 0;
 }
 
 /// A base set aside, or one whose reduction was cut short, must not be hidden by a new one.
 bool traceDeBase(const QDir &dossier)
 {
-    return dossier.exists(nomBase) || dossier.exists(nomBase + u"-wal"_qs) || dossier.exists(nomBaseTemporaire);
+    return dossier.exists(nomBase) || dossier.exists(nomBaseTemporaire) || journalEnAttente(dossier);
 }
 
 QString poseBase(const QDir &originaux, const QDir &dossier)
 {
     if (traceDeBase(dossier))
         return {};
-    if (originaux.exists(nomBase + u"-wal"_qs))
+    if (journalEnAttente(originaux))
         return u"%1 n'a pas été refermé et son dossier ne peut pas être modifié.\r\n"
                u"Ouvrez-le d'abord là où il peut être écrit."_qs.arg(
                    QDir::toNativeSeparators(originaux.filePath(nomBase)));
@@ -110,8 +117,7 @@ QString DossierTravail::remplit() const
     // A base written to beside the program since, then locked with it (a key, a disc): the operator must not look for
     // its competitions in vain.
     const bool deplacee = m_baseDeplacee
-        && (!aUneBase()
-            || QFileInfo(originaux, nomBase).lastModified() > QFileInfo(dossier, nomBase).lastModified());
+        && (!aUneBase() || QFileInfo(originaux, nomBase).lastModified() > QFileInfo(dossier, nomBase).lastModified());
     QString phrase = poseBase(originaux, dossier);
     if (phrase.isEmpty())
         phrase = rafraichit(originaux, dossier);

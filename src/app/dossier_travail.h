@@ -8,7 +8,8 @@
 class DossierTravail
 {
 public:
-    struct Lieux {
+    struct Lieux
+    {
         QString programme; ///< folder of the program
         QString installes; ///< originals of a system-wide installation; may be missing
         QString personnel; ///< the user's own folder, created when needed

@@ -24,7 +24,8 @@ protected:
     void ecrit(const QString &fichier, const QByteArray &contenu) const
     {
         QFile sortie(racine.filePath(fichier));
-        ASSERT_TRUE(sortie.open(QIODevice::WriteOnly) && sortie.write(contenu) == contenu.size()) << fichier.toStdString();
+        ASSERT_TRUE(sortie.open(QIODevice::WriteOnly) && sortie.write(contenu) == contenu.size())
+            << fichier.toStdString();
     }
 
     QByteArray lit(const QString &fichier) const
