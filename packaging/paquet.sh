@@ -10,7 +10,6 @@ if ! command -v dpkg-deb >/dev/null; then
     set -- -G TGZ
 fi
 rm -rf build/paquets
-# Only what was just built goes in: no need to build the tests as cmake --install would not ask for them either.
 (cd build && cpack "$@" >/dev/null)
 rm -rf build/paquets/_CPack_Packages
 ls -l build/paquets

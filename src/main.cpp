@@ -29,10 +29,8 @@ int main(int argc, char *argv[])
 
     const DossierTravail dossier = dossierTravail();
     const InstanceUnique instance(dossier.chemin());
-    if (instance.dejaPrise()) {
-        boites.MsgBox(u"Varlo est déjà en action"_qs, vbExclamation, u"Erreur"_qs);
+    if (instance.cedeLaPlace(boites))
         return 0;
-    }
     if (const QString phrase = dossier.remplit(); !phrase.isEmpty()) {
         boites.MsgBox(phrase, vbExclamation, u"VarloTour"_qs);
         if (!dossier.aUneBase())

@@ -1,5 +1,6 @@
 #include "printing/imprime_detail.h"
 
+#include "app/routines.h"
 #include "engine/clubs.h"
 #include "platform/flexgrid.h"
 #include "printing/cadre.h"
@@ -100,7 +101,7 @@ QString FeuilleDetail::clubConnu(const Membre &membre) const
     QString club = membre.societe;
     PasseErreur([&] {
         const Recordset connu = m_partage.BaseDonnees.OpenRecordset(
-            u"select * from equipes where concours= 0  and licence= '"_qs + membre.licence + u'\'',
+            u"select * from equipes where concours= 0  and licence= "_qs + EntreApostrophes(membre.licence),
             store::dbOpenSnapshot);
         if (!connu.Eof())
             club = connu[u"societe"].texte();

@@ -250,7 +250,7 @@ QString FeuilleTirage::noteClub(const QString &licence) const
     QString note;
     PasseErreur([&] {
         const Recordset joueur = m_contexte.partage.BaseDonnees.OpenRecordset(
-            u"select * from equipes where concours=0 and licence='"_qs + licence + u'\'', store::dbOpenSnapshot);
+            u"select * from equipes where concours=0 and licence="_qs + EntreApostrophes(licence), store::dbOpenSnapshot);
         if (!joueur.Eof())
             note = u" -"_qs + joueur[u"Societe"].texte() + u'-';
     });
