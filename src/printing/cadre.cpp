@@ -1,5 +1,7 @@
 #include "printing/cadre.h"
 
+#include "app/routines.h"
+
 namespace {
 
 const QString policeFeuilles = u"Times New Roman"_qs;
@@ -7,18 +9,6 @@ constexpr int gauchePied = 400;
 constexpr int droitePied = 2200;
 constexpr double tailleLisible = 7; // points
 constexpr int montanteParPoint = 18; // twips from the upper edge of a text to the line on which its letters stand
-
-QString tailleEquipe(int joueurs)
-{
-    switch (joueurs) {
-    case 1:
-        return u"Tête à tête "_qs;
-    case 2:
-        return u"Doublettes "_qs;
-    default:
-        return u"Triplettes "_qs;
-    }
-}
 
 } // namespace
 
@@ -82,7 +72,7 @@ void Cadre::ecritConcours(int colonne)
     m_papier.Print(m_partage.DateConcours, false);
     m_papier.Print(u' ' + m_partage.LieuConcours + u' ', false);
     m_papier.CurrentX = colonne;
-    m_papier.Print(tailleEquipe(m_partage.NbJoueurs), false);
+    m_papier.Print(TailleEquipe(m_partage.NbJoueurs), false);
     m_papier.Print(m_partage.CategorieConcours, false);
     m_papier.Print(u"\r\n"_qs);
 }
