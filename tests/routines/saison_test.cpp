@@ -383,7 +383,7 @@ bool Saison::corrigeEquipe()
     return true;
 }
 
-/// The button, when it shows. The odd case of letters aside, every draw behind complete rounds keeps the rules of play.
+/// The button, when it shows. What a draw behind complete rounds gives is held against the rules of play too.
 bool Saison::clique()
 {
     if (!m_courant->boutonVisible() && !m_relance && !(m_impatient && m_courant->tourCourant < 8))
@@ -393,7 +393,7 @@ bool Saison::clique()
     const bool complet = std::ranges::all_of(m_courant->rencontres, [this](const Rencontre &r) {
         return r.tour <= m_courant->tourCourant && (r.equipe2 == 0 || (r.score1 == 13) != (r.score2 == 13));
     });
-    const bool suivant = m_courant->tourCourant > 0;
+    const bool suivant = m_courant->tourCourant != 0;
     AleaFixe alea = m_salle.alea;
 
     const modele::Concours::Clic clic = m_courant->clique(alea, m_salle.operateur.reponse);
@@ -405,7 +405,7 @@ bool Saison::clique()
     EXPECT_TRUE(partage().TabTirage.lignes.empty());
     EXPECT_EQ(AleaFixe(m_salle.alea).suivant(), alea.suivant());
     if (!suivant)
-        return false;
+        return true;
     if (clic.journal.remplacees > 0)
         vus.insert(u"remplacée"_qs);
     EXPECT_TRUE(memes(m_salle.tbclass(), modele::parRang(clic.classement)));
