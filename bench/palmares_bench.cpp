@@ -48,7 +48,12 @@ void Palmares(benchmark::State &etat)
         etat.ResumeTiming();
     }
 }
-BENCHMARK(Palmares)->ArgNames({"equipes", "tours", ""})->Args({512, 14, 300})->Unit(benchmark::kMillisecond);
+BENCHMARK(Palmares)->ArgNames({"equipes", "tours", ""})
+    ->Args({128, 14, 0})
+    ->Args({512, 14, 300})
+    ->Args({1000, 14, 0})
+    ->Args({4000, 14, 0})
+    ->Unit(benchmark::kMillisecond);
 
 void FeuilleTirage(benchmark::State &etat)
 {
@@ -62,6 +67,6 @@ void FeuilleTirage(benchmark::State &etat)
     if (QFileInfo(fichier).size() == 0)
         etat.SkipWithError("nothing was printed");
 }
-BENCHMARK(FeuilleTirage)->ArgNames({"equipes", ""})->Args({1024, 2000})->Unit(benchmark::kMillisecond);
+BENCHMARK(FeuilleTirage)->ArgNames({"equipes", ""})->Args({256, 0})->Args({1024, 2000})->Args({4000, 0})->Unit(benchmark::kMillisecond);
 
 } // namespace

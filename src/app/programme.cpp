@@ -22,6 +22,7 @@
 #include "results/valresu.h"
 
 #include <QDir>
+#include <QSysInfo>
 
 namespace {
 
@@ -97,5 +98,27 @@ InstanceUnique::InstanceUnique(const QString &dossier)
 {
     // A lock is never too old: only the end of its process frees it.
     m_verrou.setStaleLockTime(0);
-    m_dejaPrise = !m_verrou.tryLock() && m_verrou.error() == QLockFile::LockFailedError;
+    m_dejaPrise = !prend() && m_verrou.error() == QLockFile::LockFailedError;
+}
+
+/// A lock file that names nobody was cut short by a power cut, and one that names another machine may have come with a
+/// copied folder: neither tells of a living process. The system does not let go of the file of a living one.
+bool InstanceUnique::prend()
+{
+    if (m_verrou.tryLock())
+        return true;
+    qint64 processus = 0;
+    QString machine;
+    QString programme;
+    const bool lisible = m_verrou.getLockInfo(&processus, &machine, &programme);
+    if (m_verrou.error() != QLockFile::LockFailedError || (lisible && machine == QSysInfo::machineHostName()))
+        return false;
+    return m_verrou.removeStaleLockFile() && m_verrou.tryLock();
+}
+
+bool InstanceUnique::cedeLaPlace(Boites &boites) const
+{
+    if (m_dejaPrise)
+        boites.MsgBox(u"Varlo est déjà en action"_qs, vbExclamation, u"Erreur"_qs);
+    return m_dejaPrise;
 }

@@ -44,8 +44,12 @@ public:
 
     /// Whether another program already holds the folder.
     bool dejaPrise() const { return m_dejaPrise; }
+    /// The same, told to the operator: this program has to end.
+    bool cedeLaPlace(Boites &boites) const;
 
 private:
+    bool prend();
+
     QLockFile m_verrou;
     bool m_dejaPrise = false;
 };

@@ -1,5 +1,7 @@
 #include "app/routines.h"
 
+#include "store/erreur.h"
+
 QString ZeroPad(const QString &valeur, int largeur)
 {
     return (QString(largeur, u'0') + valeur).right(largeur);
@@ -35,6 +37,14 @@ QString TexteScore(const Partage &partage, const store::Valeur &score)
 QString SansApostrophe(QString texte)
 {
     return texte.remove(u'\'');
+}
+
+QString EntreApostrophes(const QString &texte)
+{
+    if (texte.contains(u'\''))
+        throw store::Erreur(store::Erreur::Instruction,
+                            u"L'apostrophe de « %1 » coupe l'instruction : rien n'a été fait."_qs.arg(texte.left(200)));
+    return u'\'' + texte + u'\'';
 }
 
 QString FormateDate(QDate date, const QString &format)

@@ -20,6 +20,10 @@ QString TexteScore(const Partage &partage, const store::Valeur &score);
 /// \p texte without its apostrophes.
 QString SansApostrophe(QString texte);
 
+/// \p texte as a text of a statement, between apostrophes. One that holds an apostrophe breaks its statement: throws
+/// store::Erreur, so that what stands behind the apostrophe never becomes a condition.
+QString EntreApostrophes(const QString &texte);
+
 /// \p date in a format of d, m and y (message 117, such as dd/mm/yyyy); day first when the format is empty. Empty for
 /// an invalid date.
 QString FormateDate(QDate date, const QString &format);

@@ -48,6 +48,14 @@ void retireLesPlusVieilles(QDir &dossier, const QString &gardee, const QString &
     }
 }
 
+/// What copies that were cut short have left: nobody else writes here.
+void retireLesRestes(QDir &dossier)
+{
+    const QStringList restes = dossier.entryList({debutNom + u'*' + finProvisoire + u'*'}, QDir::Files);
+    for (const QString &reste : restes)
+        dossier.remove(reste);
+}
+
 QString phrase(const QString &cause)
 {
     return u"La copie de sécurité n'a pas pu être faite : %1\r\nLe travail continue sans elle."_qs.arg(cause);
@@ -68,7 +76,7 @@ QString SauveBase(Partage &partage)
     const QString nom = nomLibre(dossier, jour + u'-' + partage.horloge.heure().toString(u"HHmmss"_qs));
     // A copy bears its name only when it is whole.
     const QString provisoire = dossier.filePath(nom + finProvisoire);
-    QFile::remove(provisoire);
+    retireLesRestes(dossier);
     QString cause;
     try {
         partage.BaseDonnees.native().copieVers(provisoire, motDePasseBase);

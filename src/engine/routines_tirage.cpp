@@ -15,6 +15,8 @@ using store::Valeur;
 
 namespace {
 
+constexpr int premierTour = 1;
+
 std::optional<int> optionnel(const Instruction &ligne, int colonne)
 {
     return ligne.estNulle(colonne) ? std::nullopt : std::optional(int(ligne.nombre(colonne)));
@@ -151,6 +153,22 @@ void fixeTourPrincipal(Partage &partage, int tour)
         u"update concours set tourpri= %1 where concours=%2"_qs.arg(tour).arg(partage.ConcoursCourant));
 }
 
+/// Draws round 1 into the store; what the program knows of it follows once the draw is on the disk.
+void ecritTirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau)
+{
+    std::vector<Rencontre> rencontres;
+    if (tourDejaTire(partage, tableau, premierTour)) {
+        interlocuteur.informe(partage.mes(114) + u' ' + partage.mes(15) + u' ' + partage.mes(115));
+    } else {
+        const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
+        rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
+    }
+    partage.BaseDonnees.EcritEnGroupe([&] {
+        ecritRencontres(partage, tableau, rencontres);
+        fixeTourPrincipal(partage, premierTour);
+    });
+}
+
 void avertitSelonStatut(Interlocuteur &interlocuteur, moteur::StatutTirage statut)
 {
     if (statut == moteur::StatutTirage::MemeClub)
@@ -198,35 +216,26 @@ void ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
         interlocuteur.informe(u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
         return;
     }
-    if (existe(tirage)) {
-        if (!interlocuteur.demande(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs))
-            return;
-        if (const QString echec = SauveBase(partage); !echec.isEmpty())
-            interlocuteur.avertit(echec);
-        partage.BaseDonnees.EcritEnGroupe([&] {
-            for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
-                partage.BaseDonnees.Execute(u"delete * from %1 where concours=%2 and tableau=1"_qs.arg(table).arg(
-                    partage.ConcoursCourant));
-        });
-    }
-    TirageTour1(partage, interlocuteur, 1);
+    if (!existe(tirage))
+        return TirageTour1(partage, interlocuteur, 1);
+    if (!interlocuteur.demande(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs))
+        return;
+    if (const QString echec = SauveBase(partage); !echec.isEmpty())
+        interlocuteur.avertit(echec);
+    // As one group: a power cut leaves the old draw or the new one.
+    partage.BaseDonnees.EcritEnGroupe([&] {
+        for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
+            partage.BaseDonnees.Execute(
+                u"delete * from %1 where concours=%2 and tableau=1"_qs.arg(table).arg(partage.ConcoursCourant));
+        ecritTirageTour1(partage, interlocuteur, 1);
+    });
+    partage.TourCourant = premierTour;
 }
 
 void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau, int)
 {
-    constexpr int tour = 1;
-    std::vector<Rencontre> rencontres;
-    if (tourDejaTire(partage, tableau, tour)) {
-        interlocuteur.informe(partage.mes(114) + u' ' + partage.mes(15) + u' ' + partage.mes(115));
-    } else {
-        const int exempt = exemptDuTourPrecedent(partage, tableau, tour);
-        rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
-    }
-    partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, tableau, rencontres);
-        fixeTourPrincipal(partage, tour);
-    });
-    partage.TourCourant = tour;
+    ecritTirageTour1(partage, interlocuteur, tableau);
+    partage.TourCourant = premierTour;
 }
 
 void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur)

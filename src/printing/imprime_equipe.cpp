@@ -1,5 +1,6 @@
 #include "printing/imprime_equipe.h"
 
+#include "app/routines.h"
 #include "platform/flexgrid.h"
 #include "printing/cadre.h"
 
@@ -68,8 +69,8 @@ QString FeuilleEquipe::corpsClub() const
 {
     QString corps = u"Club : "_qs + m_texte + finDeLigne;
     PasseErreur([&] {
-        Recordset membres = lit(u"select equipe, nom, prenom, societe, licence from equipes where societe = '"_qs
-                                + m_texte + u'\'' + duConcours() + u" order by equipe, doublon"_qs);
+        Recordset membres = lit(u"select equipe, nom, prenom, societe, licence from equipes where societe = "_qs
+                                + EntreApostrophes(m_texte) + duConcours() + u" order by equipe, doublon"_qs);
         std::optional<qint64> equipe;
         for (; !membres.Eof(); membres.MoveNext()) {
             const qint64 numero = membres[u"equipe"].entier();
@@ -106,8 +107,8 @@ QString FeuilleEquipe::numeroEquipe() const
     const QString nomme = cle();
     if (nomme.isEmpty())
         return {};
-    Recordset equipes = lit(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like '"_qs + nomme
-                            + u'\'' + duConcours());
+    Recordset equipes = lit(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like "_qs
+                            + EntreApostrophes(nomme) + duConcours());
     const QString lu = m_texte.trimmed().section(u' ', 0, 0);
     QString numero;
     for (; !equipes.Eof() && numero != lu; equipes.MoveNext()) {

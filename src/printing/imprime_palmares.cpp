@@ -11,6 +11,7 @@ constexpr int gauchePhrase = 300;
 constexpr int margeScore = 1200;
 constexpr int avantLigne = 50;
 constexpr int avantTour = 150;
+constexpr int apresTour = 80;
 
 void entete(Cadre &cadre, Orientation orientation)
 {
@@ -39,7 +40,8 @@ void ligne(Imprimante &papier, const FlexGrid &grille, int numero)
     papier.FontBold = false;
     const QString score = grille.TextMatrix(numero, 2);
     const int gaucheScore = papier.Width() - (papier.TextWidth(score) + margeScore);
-    papier.CurrentX = gauchePhrase;
+    // The name of the round stands on the same line; the sentence waits for its end, or nobody could read either.
+    papier.CurrentX = tour.isEmpty() ? gauchePhrase : std::max(gauchePhrase, papier.CurrentX + apresTour);
     ecritJusque(papier, grille.TextMatrix(numero, 1), gaucheScore);
     papier.CurrentX = gaucheScore;
     papier.Print(score);

@@ -171,7 +171,7 @@ void palmares::ajouteTour(FlexGrid &grille, int tour)
     effaceSelection(grille);
 }
 
-/// The columns have their usual widths unless a text would be cut; grid and form follow them, as far as the screen goes.
+/// Columns have their usual widths unless a text would be cut; grid and form follow them as far as the screen goes.
 void palmares::elargit(FlexGrid &grille)
 {
     int voulue = ascenseur;

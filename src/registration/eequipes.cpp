@@ -193,8 +193,10 @@ void Eequipes::référence_LostFocus()
     const QString tape = m_ui->référence->currentText();
     const QString numero = ZeroPad(tape, largeurReference);
     poseTexte(m_ui->référence, numero);
-    const Recordset concours = partage().BaseDonnees.OpenRecordset(
-        u"SELECT * FROM [Concours] Where [concours] = %1"_qs.arg(EstNumerique(tape) ? qint64(Val(numero)) : 0));
+    // An exponent makes six characters more than a whole number holds.
+    const qint64 cherche = EstNumerique(tape) ? qint64(std::clamp(Val(numero), 0., 1e9)) : 0;
+    const Recordset concours =
+        partage().BaseDonnees.OpenRecordset(u"SELECT * FROM [Concours] Where [concours] = %1"_qs.arg(cherche));
     if (concours.Eof())
         refuseConcours();
     else

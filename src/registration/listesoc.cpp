@@ -1,5 +1,6 @@
 #include "registration/listesoc.h"
 
+#include "app/routines.h"
 #include "platform/flexgrid.h"
 #include "platform/formulaires.h"
 #include "store/collation.h"
@@ -153,7 +154,7 @@ void Listesoc::Command1_Click()
     }
     if (MsgBox(u"Supprimer "_qs + club, vbYesNo) != ReponseBoite::Oui)
         return;
-    partage().BaseDonnees.Execute(u"delete * from societes where societe='%1'"_qs.arg(club));
+    partage().BaseDonnees.Execute(u"delete * from societes where societe="_qs + EntreApostrophes(club));
     retireLigne(ligne);
 }
 

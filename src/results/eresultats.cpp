@@ -307,10 +307,10 @@ void EResultats::annuleTour()
     partage().BaseDonnees.EcritEnGroupe([&] {
         partage().BaseDonnees.Execute(u"delete * from scores where concours=%1 and tableau=1 and tour=%2"_qs.arg(numero)
                                           .arg(partage().TourCourant));
-        --partage().TourCourant;
         partage().BaseDonnees.Execute(
-            u"update concours set tourpri= %1 where concours=%2"_qs.arg(partage().TourCourant - 1).arg(numero));
+            u"update concours set tourpri= %1 where concours=%2"_qs.arg(partage().TourCourant - 2).arg(numero));
     });
+    --partage().TourCourant;
     m_ui->tour_P1->setText(u"annulé"_qs);
     m_ui->tirage_suivant->setText(u"Tour %1 annulé Relancer"_qs.arg(partage().TourCourant + 1));
     m_ui->tirage_suivant->show();

@@ -82,7 +82,10 @@ protected:
         grille().setRowSel(derniere);
     }
 
-    void coche(const QString &nom, bool oui) { qobject_cast<QAbstractButton *>(controle(nomPalmares, nom))->setChecked(oui); }
+    void coche(const QString &nom, bool oui)
+    {
+        qobject_cast<QAbstractButton *>(controle(nomPalmares, nom))->setChecked(oui);
+    }
 
     Pages imprime(bool detail, bool paysage)
     {

@@ -136,15 +136,4 @@ TEST(FenetrePrincipale, ImageDeLangueIntrouvable)
     EXPECT_FALSE(prog.demarre());
 }
 
-TEST(FenetrePrincipale, UnSeulProgrammeParDossier)
-{
-    QTemporaryDir dossier;
-    {
-        const InstanceUnique premiere(dossier.path());
-        EXPECT_FALSE(premiere.dejaPrise());
-        EXPECT_TRUE(InstanceUnique(dossier.path()).dejaPrise());
-    }
-    EXPECT_FALSE(InstanceUnique(dossier.path()).dejaPrise());
-}
-
 } // namespace

@@ -64,7 +64,11 @@ void Registre::declenche(const QString &action)
 void Registre::saisitJoueur(const Joueur &joueur)
 {
     m_main.clique(m_main.controle(fiche, u"Société"_qs));
-    for (const QString &saisie : {joueur.club, joueur.licence, joueur.nom, joueur.prenom, u"14/07/1968"_qs}) {
+    m_main.tape(joueur.club);
+    m_main.entree();
+    // The question about a new club lets the keyboard go on at the names.
+    m_main.clique(m_main.controle(fiche, u"LicenceJ_0"_qs));
+    for (const QString &saisie : {joueur.licence, joueur.nom, joueur.prenom, u"14/07/1968"_qs}) {
         m_main.tape(saisie);
         m_main.entree();
     }

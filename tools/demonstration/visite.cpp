@@ -1,5 +1,7 @@
 #include "visite.h"
 
+#include "platform/flexgrid.h"
+
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
@@ -31,7 +33,7 @@ struct Taille
     QString image;
     int pourcent;
 };
-const Taille tailles_[] = {{u"reduit"_qs, 60}, {u"agrandi"_qs, 250}};
+const Taille echelles[] = {{u"reduit"_qs, 60}, {u"agrandi"_qs, 250}};
 
 QString nomImage(const QString &debut, const QString &forme)
 {
@@ -48,7 +50,7 @@ QStringList Visite::images()
         for (const QString &forme : formes)
             noms += nomImage(langue.image, forme);
     }
-    for (const Taille &taille : tailles_) {
+    for (const Taille &taille : echelles) {
         for (const QString &forme : mobiles)
             noms += nomImage(taille.image, forme);
     }
@@ -62,20 +64,42 @@ void Visite::choisit(const QString &langue)
     exige(QTest::qWaitForWindowActive(m_main.fenetre(u"langues"_qs)), u"Le choix de la langue ne vient pas devant."_qs);
     liste->setFocus();
     QTest::keyClicks(liste, langue.left(1));
-    QTest::keyClicks(liste->view(), langue.mid(1));
+    QTest::keyClicks(liste->view(), langue.mid(1, 1));
     QTest::keyClick(liste->view(), Qt::Key_Return);
     QCoreApplication::processEvents();
     exige(liste->currentText() == langue, u"La langue %1 n'a pas pu être choisie."_qs.arg(langue));
 }
 
-void Visite::passeFormes(const QString &debut)
+void Visite::ouvre(const QString &forme)
 {
     Formulaires &registre = m_programme.formulaires();
-    for (const QString &forme : formes) {
+    const QString resultats = u"EResultats"_qs;
+    const QString palmares = u"palmares"_qs;
+    if (forme == u"manqres" || forme == u"valresu") {
+        ouvre(resultats);
+        m_main.clique(m_main.controle(resultats, forme == u"manqres" ? u"manquants"_qs : u"VALIDATION"_qs));
+    } else if (forme == u"Groupes") {
+        ouvre(u"manqres"_qs);
         registre.Montre(forme);
-        QCoreApplication::processEvents();
+    } else if (forme == u"Resusoc") {
+        ouvre(palmares);
+        auto *grille = m_main.controle<FlexGrid>(palmares, u"Thonneur_1"_qs);
+        int ligne = 1;
+        while (ligne < grille->Rows() - 1 && !grille->TextMatrix(ligne, 1).contains(u" bat "))
+            ++ligne;
+        m_main.cliqueCellule(grille, ligne, 1, Qt::LeftButton, Qt::ControlModifier);
+    } else {
+        registre.Montre(forme);
+    }
+    QCoreApplication::processEvents();
+}
+
+void Visite::passeFormes(const QString &debut)
+{
+    for (const QString &forme : formes) {
+        ouvre(forme);
         m_photographe.prend(nomImage(debut, forme), *m_main.fenetre(forme));
-        registre.Decharge(forme);
+        m_programme.formulaires().DechargeTout();
         QCoreApplication::processEvents();
     }
 }
@@ -94,18 +118,16 @@ void Visite::langues()
 
 void Visite::tailles()
 {
-    Formulaires &registre = m_programme.formulaires();
     for (const QString &forme : mobiles) {
-        registre.Montre(forme);
-        QCoreApplication::processEvents();
+        ouvre(forme);
         QWidget &fenetre = *m_main.fenetre(forme);
         const QSize premiere = fenetre.size();
-        for (const Taille &taille : tailles_) {
+        for (const Taille &taille : echelles) {
             fenetre.resize(premiere * taille.pourcent / 100);
             QCoreApplication::processEvents();
             m_photographe.prend(nomImage(taille.image, forme), fenetre);
         }
-        registre.Decharge(forme);
+        m_programme.formulaires().DechargeTout();
         QCoreApplication::processEvents();
     }
 }

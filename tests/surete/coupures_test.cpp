@@ -1,0 +1,307 @@
+#include "commun/affiche.h"
+#include "commun/base_essai.h"
+#include "journee.h"
+#include "panne_systeme.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <csignal>
+#include <iostream>
+#include <random>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// A program at work is killed, or its disk fails, at any system call and at any moment: what it had acknowledged is
+// there, what it was about is there whole or not at all. VARLOTOUR_COUPURES gives the seconds of the run,
+// VARLOTOUR_GRAINE its first seed.
+
+using panne::Genre;
+
+namespace {
+
+constexpr int toutVaBien = 0;
+constexpr int tuerEnRoute = -1;
+
+/// What befalls one run of the program.
+struct Sort
+{
+    Genre genre = Genre::Aucune;
+    int apres = 0;
+    int duree = 0;
+    bool desLOuverture = false;
+    int delaiUs = tuerEnRoute; ///< Above it: killed from outside when so much time has gone by.
+    qint64 limite = 0; ///< Above 0: no file may grow beyond it.
+};
+
+QString reglage(const char *nom, const QString &sinon)
+{
+    return qEnvironmentVariable(nom, sinon);
+}
+
+/// The program: goes on with the day where \p debut acknowledged operations have brought it, and tells down a pipe.
+class Enfant
+{
+public:
+    Enfant(const QString &dossier, quint32 graine, const std::vector<QStringList> &etats, int tube)
+        : m_journee(dossier, graine)
+        , m_etats(etats)
+        , m_tube(tube)
+    {
+    }
+
+    void travaille(int debut, const Sort &sort)
+    {
+        if (sort.desLOuverture)
+            provoque(sort);
+        essaie(0, [this] { m_journee.ouvre(); });
+        const QString integrite = m_journee.integrite();
+        if (integrite != u"ok")
+            accuse(u"integrity: "_qs + integrite);
+        int operation = reprend(debut);
+        dit(u"A%1\n"_qs.arg(operation));
+        if (!sort.desLOuverture)
+            provoque(sort);
+        for (; operation < m_journee.operations(); ++operation) {
+            m_echecs = 0;
+            essaie(operation, [&] { m_journee.fait(operation); });
+            dit(u"A%1\n"_qs.arg(operation + 1));
+        }
+        m_journee.ferme();
+        dit(u"F\n"_qs);
+    }
+
+private:
+    static void provoque(const Sort &sort)
+    {
+        panne::arme(sort.genre, sort.apres, sort.duree);
+        fixeLimite(sort.limite);
+    }
+
+    static void fixeLimite(qint64 limite)
+    {
+        rlimit taille{};
+        getrlimit(RLIMIT_FSIZE, &taille);
+        taille.rlim_cur = limite > 0 ? rlim_t(limite) : taille.rlim_max;
+        setrlimit(RLIMIT_FSIZE, &taille);
+    }
+
+    /// What the file holds must be the last acknowledged state or the one that follows.
+    int reprend(int debut)
+    {
+        const QStringList trouve = m_journee.contenu();
+        for (const int operation : {debut + 1, debut}) {
+            if (operation < int(m_etats.size()) && trouve == m_etats[std::size_t(operation)])
+                return operation;
+        }
+        QStringList fautes{u"after %1 operations"_qs.arg(debut)};
+        for (const int operation : {debut, debut + 1})
+            fautes += premiereDifference(trouve, m_etats[std::size_t(std::min(operation, m_journee.operations()))]);
+        accuse(fautes.join(u"; "_qs));
+    }
+
+    static QString premiereDifference(const QStringList &trouve, const QStringList &attendu)
+    {
+        qsizetype i = 0;
+        while (i < trouve.size() && i < attendu.size() && trouve[i] == attendu[i])
+            ++i;
+        return u"expected '%1' found '%2'"_qs.arg(attendu.value(i), trouve.value(i));
+    }
+
+    /// The operator tries again until the disk has room; a failure must have left everything as it was.
+    template<typename Action>
+    void essaie(int operation, const Action &action)
+    {
+        constexpr int patience = 60;
+        constexpr int echecsAvantPlace = 3;
+        for (;;) {
+            try {
+                return action();
+            } catch (const store::Erreur &erreur) {
+                dit(u"P\n"_qs);
+                if (++m_echecs == echecsAvantPlace)
+                    fixeLimite(0);
+                if (m_echecs > patience)
+                    accuse(u"operation %1 never succeeds: %2"_qs.arg(operation).arg(erreur.phrase()));
+                if (m_journee.estUnePurge(operation))
+                    termine(); // whoever starts next looks at what it left
+                verifieSansEffet(operation);
+            }
+        }
+    }
+
+    void verifieSansEffet(int operation)
+    {
+        try {
+            if (m_journee.estOuverte() && m_journee.contenu() != m_etats[std::size_t(operation)])
+                accuse(u"the failed operation %1 has left something"_qs.arg(operation));
+        } catch (const store::Erreur &) {
+            // The disk does not let itself be read either.
+        }
+    }
+
+    void dit(const QString &ligne) const
+    {
+        const QByteArray octets = ligne.toUtf8();
+        syscall(SYS_write, m_tube, octets.constData(), size_t(octets.size()));
+    }
+    [[noreturn]] void accuse(const QString &faute) const
+    {
+        dit(u"E"_qs + faute + u'\n');
+        termine();
+    }
+    [[noreturn]] static void termine() { _exit(toutVaBien); }
+
+    Journee m_journee;
+    const std::vector<QStringList> &m_etats;
+    int m_tube;
+    int m_echecs = 0;
+};
+
+class Coupures : public testing::Test
+{
+protected:
+    /// The states of an undisturbed day.
+    static std::vector<QStringList> etatsSansPanne(quint32 graine)
+    {
+        const BaseEssai base;
+        Journee journee(base.dossier(), graine);
+        journee.ouvre();
+        std::vector<QStringList> etats{journee.contenu()};
+        for (int i = 0; i < journee.operations(); ++i) {
+            journee.fait(i);
+            etats.push_back(journee.contenu());
+        }
+        return etats;
+    }
+
+    Sort tireSort()
+    {
+        const auto entre = [this](int bas, int haut) { return std::uniform_int_distribution(bas, haut)(m_alea); };
+        // An operation that is cut again and again gets more and more time.
+        const int repit = 1 + m_surPlace;
+        Sort sort{.apres = entre(0, 60 * repit), .duree = entre(1, 8), .desLOuverture = entre(0, 5) == 0};
+        switch (entre(0, 9)) {
+        case 0:
+            sort.limite = entre(1, 160) * 1024;
+            break;
+        case 1:
+            sort.genre = Genre::Plein;
+            break;
+        case 2:
+            sort.genre = Genre::Refus;
+            break;
+        case 3:
+            break;
+        case 4:
+            sort.genre = Genre::Dechirure;
+            break;
+        default:
+            sort.genre = Genre::Mort;
+        }
+        // A disk that only fails for a while does not end the run.
+        if (sort.genre != Genre::Mort && sort.genre != Genre::Dechirure)
+            sort.delaiUs = entre(0, 20000 * repit);
+        return sort;
+    }
+
+    /// Runs the program until it ends or dies; false when it has found something wrong.
+    bool lance(const QString &dossier, quint32 graine, const std::vector<QStringList> &etats, const Sort &sort)
+    {
+        int tube[2];
+        if (pipe(tube) != 0)
+            return false;
+        const pid_t enfant = fork();
+        if (enfant == 0) {
+            close(tube[0]);
+            std::signal(SIGXFSZ, SIG_IGN);
+            Enfant(dossier, graine, etats, tube[1]).travaille(m_faites, sort);
+            _exit(toutVaBien);
+        }
+        close(tube[1]);
+        if (sort.delaiUs > tuerEnRoute) {
+            usleep(useconds_t(sort.delaiUs));
+            kill(enfant, SIGKILL);
+        }
+        QFile lecture;
+        lecture.open(tube[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+        const QByteArray dit = lecture.readAll();
+        const int avant = m_faites;
+        int fin = 0;
+        waitpid(enfant, &fin, 0);
+        if (WIFSIGNALED(fin))
+            ++(WTERMSIG(fin) == SIGKILL ? m_tuees : m_plantees);
+        const bool juste = ecoute(dit);
+        m_surPlace = m_faites > avant ? 0 : m_surPlace + 1;
+        return juste;
+    }
+
+    bool ecoute(const QByteArray &dit)
+    {
+        for (const QByteArray &ligne : dit.split('\n')) {
+            if (ligne.startsWith('E')) {
+                ADD_FAILURE() << ligne.mid(1).toStdString();
+                return false;
+            }
+            if (ligne.startsWith('A'))
+                m_faites = ligne.mid(1).toInt();
+            m_refus += ligne == "P";
+            m_finie = m_finie || ligne == "F";
+        }
+        return true;
+    }
+
+    /// Every copy that bears its name is one of the states of the day.
+    static void verifieCopies(const QString &dossier, const std::vector<QStringList> &etats)
+    {
+        const QDir copies(dossier + u"/sauvegardes"_qs);
+        const QStringList noms = copies.entryList({u"*.mdb"_qs}, QDir::Files);
+        EXPECT_LE(noms.size(), 20);
+        for (const QString &nom : noms) {
+            store::BaseNative copie(copies.filePath(nom), u"qz7tkn42"_qs, store::BaseNative::Mode::LectureSeule);
+            EXPECT_EQ(copie.valeurUnique(u"pragma integrity_check"_qs).texte(), u"ok"_qs);
+            EXPECT_NE(std::find(etats.begin(), etats.end(), Contenu(copie)), etats.end()) << nom.toStdString();
+        }
+    }
+
+    std::mt19937 m_alea;
+    int m_faites = 0;
+    int m_surPlace = 0; ///< Runs that have acknowledged nothing new.
+    bool m_finie = false;
+    int m_tuees = 0;
+    int m_plantees = 0;
+    int m_refus = 0;
+};
+
+} // namespace
+
+TEST_F(Coupures, WhateverHappensAnAcknowledgedEntryIsThereAndNothingIsHalfWritten)
+{
+    constexpr int departsAuPlus = 400;
+    const int secondes = reglage("VARLOTOUR_COUPURES", u"4"_qs).toInt();
+    QElapsedTimer duree;
+    duree.start();
+    int departs = 0;
+    quint32 graine = reglage("VARLOTOUR_GRAINE", u"1"_qs).toUInt();
+    for (; !duree.hasExpired(secondes * 1000) && !HasFailure(); ++graine) {
+        SCOPED_TRACE(testing::Message() << "VARLOTOUR_GRAINE=" << graine);
+        const std::vector<QStringList> etats = etatsSansPanne(graine);
+        const BaseEssai base;
+        m_alea.seed(graine);
+        m_faites = 0;
+        m_finie = false;
+        for (int depart = 0; !m_finie; ++depart, ++departs) {
+            ASSERT_LT(depart, departsAuPlus);
+            ASSERT_TRUE(lance(base.dossier(), graine, etats, tireSort()));
+            ASSERT_EQ(m_plantees, 0);
+        }
+        verifieCopies(base.dossier(), etats);
+    }
+    std::cout << departs << " runs, " << m_tuees << " killed, " << m_refus << " failed operations\n";
+    EXPECT_GT(m_tuees, 0);
+}

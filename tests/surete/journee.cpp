@@ -1,0 +1,137 @@
+#include "journee.h"
+
+#include "app/base.h"
+#include "app/concours_courant.h"
+#include "app/sauvegarde.h"
+#include "engine/routines_tirage.h"
+#include "platform/imprimante.h"
+#include "registration/equipe_inscrite.h"
+
+#include <QDir>
+#include <QFile>
+
+
+using store::Erreur;
+
+namespace {
+
+void exige(bool fait)
+{
+    if (!fait)
+        throw Erreur(Erreur::DisquePlein, u"L'opération n'est pas faite."_qs);
+}
+
+} // namespace
+
+std::unique_ptr<Destination> ToujoursOui::ShowPrinter()
+{
+    return nullptr;
+}
+
+Journee::Journee(const QString &dossier, quint32 graine)
+    : m_dossier(dossier)
+    , m_graine(graine)
+    , m_partage(dossier, m_alea, m_horloge)
+{
+    m_partage.EspaceTravail = &m_partage.moteur.Workspaces(0);
+    compose(graine);
+}
+
+void Journee::compose(quint32 graine)
+{
+    const int equipes = 4 + int(graine % 5);
+    inscriptions(equipes);
+    ajoute([this] { exige(CorrigeEquipe(m_partage, {m_partage.ConcoursCourant, 2, u"Corrigé"_qs, {{u"N"_qs, u"P"_qs, u"L"_qs}}})); });
+    ajoute([this] { exige(RetireEquipe(m_partage, m_partage.ConcoursCourant, 1)); });
+    ajoute([this] { LanceTourSuivant(m_partage, m_operateur); });
+    ajoute([this] { SauveBase(m_partage); });
+    ajoute([this] { ConfirmeTirage(m_partage, m_operateur); });
+    ajoute([this, equipes] { inscrit(equipes + 1); });
+    for (int i = 0; i < (equipes + 1) / 2; ++i)
+        ajoute([this, i] { saisit(i); });
+    for (int tour = 2; tour <= 3; ++tour) {
+        ajoute([this] { LanceTourSuivant(m_partage, m_operateur); });
+        for (int i = 0; i < (equipes + 1) / 2; ++i)
+            ajoute([this, i] { saisit(i); });
+        ajoute([this] { SauveBase(m_partage); });
+    }
+    for (int fois = 0; fois < 2; ++fois) {
+        m_purges.push_back(operations());
+        ajoute([this] { PurgeBase({m_partage, m_formulaires, m_operateur}, FichiersBase()); });
+        inscriptions(2);
+    }
+}
+
+void Journee::inscriptions(int equipes)
+{
+    ajoute([this] { creeConcours(); });
+    for (int numero = 1; numero <= equipes; ++numero)
+        ajoute([this, numero] { inscrit(numero); });
+}
+
+bool Journee::estUnePurge(int operation) const
+{
+    return std::find(m_purges.begin(), m_purges.end(), operation) != m_purges.end();
+}
+
+void Journee::ouvre()
+{
+    const QDir dossier(m_dossier);
+    if (!dossier.exists(nomBase)) {
+        exige(ConseilBaseTemporaire(m_dossier).contains(nomBaseTemporaire));
+        exige(QFile::rename(dossier.filePath(nomBaseTemporaire), dossier.filePath(nomBase)));
+    }
+    m_partage.BaseDonnees =
+        m_partage.EspaceTravail->OpenDatabase(dossier.filePath(nomBase), false, false, connexionBase);
+}
+
+QString Journee::integrite()
+{
+    return m_partage.BaseDonnees.native().valeurUnique(u"pragma integrity_check"_qs).texte();
+}
+
+void Journee::fait(int operation)
+{
+    m_alea = AleaFixe(m_graine * 1000 + quint32(operation));
+    m_partage.ConcoursCourant = 0;
+    ChargeConcours(m_partage, m_partage.ConcoursCourant);
+    m_operations[std::size_t(operation)]();
+}
+
+void Journee::creeConcours()
+{
+    store::Recordset concours = m_partage.BaseDonnees.OpenRecordset(u"concours", store::dbOpenTable);
+    concours.AddNew();
+    concours[u"type"] = u"3 - Tête à tête";
+    concours[u"lieu"] = u"Sète";
+    concours[u"pro"] = true;
+    concours.Update();
+}
+
+void Journee::inscrit(qint64 numero)
+{
+    const EtatTirage etat = EtatDuTirage(m_partage, m_partage.ConcoursCourant);
+    const Retardataire entree = etat == EtatTirage::PasTire ? Retardataire::Aucun
+        : etat == EtatTirage::Exemption                     ? Retardataire::PrendExemption
+                                                            : Retardataire::NouvelleExemption;
+    const QString nom = QString::number(numero);
+    exige(AjouteEquipe(m_partage, {m_partage.ConcoursCourant, numero, u"Club "_qs + nom, {{nom, nom, nom}}}, entree)
+              .has_value());
+}
+
+/// Stores the result of the match at \p place of the current round, as the results screen does.
+void Journee::saisit(int place)
+{
+    store::Recordset rencontres = m_partage.BaseDonnees.OpenRecordset(
+        u"select * from scores where concours=%1 and tour=%2 order by equipe_1"_qs.arg(m_partage.ConcoursCourant)
+            .arg(m_partage.TourCourant));
+    for (int i = 0; i < place && !rencontres.Eof(); ++i)
+        rencontres.MoveNext();
+    if (rencontres.Eof())
+        return;
+    rencontres.Edit();
+    rencontres[u"score_reel"] = true;
+    rencontres[u"score_1"] = QString::number(place % 2 == 0 ? 13 : 5);
+    rencontres[u"score_2"] = QString::number(place % 2 == 0 ? 7 : 13);
+    rencontres.Update();
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "commun/contenu.h"
+#include "engine/interlocuteur.h"
+#include "maintenance/purge.h"
+#include "platform/formulaires.h"
+
+#include <functional>
+#include <vector>
+
+/// An operator who agrees to everything.
+class ToujoursOui : public Boites, public Interlocuteur
+{
+public:
+    ReponseBoite MsgBox(const QString &, int drapeaux, const QString &) override
+    {
+        return drapeaux & vbYesNo ? ReponseBoite::Oui : ReponseBoite::OK;
+    }
+    std::optional<QString> InputBox(const QString &, const QString &, std::optional<QPoint>) override { return {}; }
+    std::unique_ptr<Destination> ShowPrinter() override;
+    QString ShowOpen(const BoiteFichier &) override { return {}; }
+    bool demande(const QString &) override { return true; }
+    void informe(const QString &) override {}
+    void avertit(const QString &) override {}
+    void annonce(const QString &) override {}
+    void progresse(QStringView) override {}
+};
+
+/// A day at the table, as a row of operations that a seed determines. Each begins with what the file holds, so that a
+/// program started anew can go on where another was cut short, and each is on the disk when it returns.
+class Journee
+{
+public:
+    Journee(const QString &dossier, quint32 graine);
+
+    int operations() const { return int(m_operations.size()); }
+    /// Opens the base, or the one that a purge cut short has left beside it. Throws store::Erreur.
+    void ouvre();
+    void ferme() { m_partage.BaseDonnees.Close(); }
+    bool estOuverte() const { return m_partage.BaseDonnees.estOuverte(); }
+    /// Carries out one operation. Throws store::Erreur when it is not done.
+    void fait(int operation);
+    bool estUnePurge(int operation) const;
+    QStringList contenu() { return Contenu(m_partage.BaseDonnees.native()); }
+    QString integrite();
+
+private:
+    void compose(quint32 graine);
+    void inscriptions(int equipes);
+    void ajoute(std::function<void()> operation) { m_operations.push_back(std::move(operation)); }
+
+    void creeConcours();
+    void inscrit(qint64 numero);
+    void saisit(int place);
+
+    QString m_dossier;
+    quint32 m_graine;
+    AleaFixe m_alea{1};
+    Horloge m_horloge;
+    Partage m_partage;
+    ToujoursOui m_operateur;
+    Formulaires m_formulaires;
+    std::vector<std::function<void()>> m_operations;
+    std::vector<int> m_purges;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+/// Failures of the system calls that change files, of this process alone: they stand before the C library's own, for
+/// the store and for Qt alike.
+namespace panne {
+
+enum class Genre {
+    Aucune,
+    Mort,     ///< The process is killed at the call.
+    Dechirure, ///< The process is killed when half of a write has been done.
+    Plein,    ///< No room left on the disk.
+    Refus,    ///< The disk refuses: an error of input and output, of removal and of renaming too.
+};
+
+/// Lets \p apres calls through, then fails \p duree of them.
+void arme(Genre genre, int apres, int duree);
+void desarme();
+
+} // namespace panne
