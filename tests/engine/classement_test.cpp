@@ -1,12 +1,10 @@
-#include "concours_joue.h"
-
+#include "app/alea.h"
 #include "engine/classement.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <map>
-#include <numeric>
 
 using moteur::LigneClassement;
 using moteur::Rencontre;
@@ -94,58 +92,6 @@ TEST(Classement, AleaResteAuPremierCoteEtChangeAuSecond)
     for (const auto &[equipe, ligne] : derriere) {
         EXPECT_GE(ligne.alea, 10000);
         EXPECT_LE(ligne.alea, 100000);
-    }
-}
-
-/// What a team shows at the end of the day, added up from the result sheets one team at a time.
-LigneClassement refait(int equipe, const std::vector<Rencontre> &rencontres)
-{
-    LigneClassement bilan{.equipe = equipe};
-    std::vector<int> marques;
-    std::vector<int> concedes;
-    for (Rencontre feuille : rencontres) {
-        if (feuille.equipe1 == equipe && feuille.equipe2 == 0) {
-            feuille.score1 = 13;
-            feuille.score2 = 7;
-        }
-        if (feuille.equipe2 == equipe) {
-            std::swap(feuille.equipe1, feuille.equipe2);
-            std::swap(feuille.score1, feuille.score2);
-        } else if (feuille.equipe1 != equipe) {
-            continue;
-        }
-        bilan.gagnées += feuille.score1 == 13;
-        bilan.perdues += feuille.score2 == 13;
-        if (feuille.score1)
-            marques.push_back(*feuille.score1);
-        if (feuille.score2)
-            concedes.push_back(*feuille.score2);
-    }
-    bilan.pt = bilan.gagnées;
-    if (!marques.empty())
-        bilan.pp = std::accumulate(marques.begin(), marques.end(), 0);
-    if (!concedes.empty())
-        bilan.pc = std::accumulate(concedes.begin(), concedes.end(), 0);
-    if (bilan.pp && bilan.pc)
-        bilan.ga = *bilan.pp - *bilan.pc;
-    return bilan;
-}
-
-TEST(Classement, DeuxReleveesIndependantesSAccordent)
-{
-    for (quint32 graine = 1; graine <= 60; ++graine) {
-        std::mt19937 sort(graine);
-        const int nombre = 2 + int(sort() % 60);
-        essai::Concours concours(essai::inscrit(nombre, {}, sort), graine % 2 == 0, graine);
-        while (concours.joueTour({.pourcentMots = 20, .pourcentAttendus = 5, .pourcentSansVainqueur = 5})) {
-            const std::vector<Rencontre> rencontres = concours.rencontres();
-            const std::vector<LigneClassement> lignes = concours.classement();
-            ASSERT_EQ(int(lignes.size()), nombre);
-            for (LigneClassement ligne : lignes) {
-                ligne.alea = 0;
-                ASSERT_EQ(ligne, refait(ligne.equipe, rencontres)) << graine << ' ' << ligne.equipe;
-            }
-        }
     }
 }
 

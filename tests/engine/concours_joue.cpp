@@ -37,7 +37,7 @@ Concours::Concours(std::vector<moteur::EquipeInscrite> equipes, bool repeche, qu
 {
 }
 
-bool Concours::joueTour(const Saisie &saisie, const Tireur &tireur)
+bool Concours::joueTour(const Saisie &saisie)
 {
     if (m_tourpri == 0) {
         m_rencontres = moteur::tireTour1(m_equipes, moteur::pasDExempt, m_alea);
@@ -45,7 +45,7 @@ bool Concours::joueTour(const Saisie &saisie, const Tireur &tireur)
     } else {
         if (!moteur::resteUnTour(int(m_equipes.size()) * 3, 3, m_tourpri, m_repeche))
             return false;
-        tireSuivant(tireur ? tireur : [](const moteur::DonneesTirage &d) { return moteur::tireTourSuivant(d); });
+        tireSuivant();
     }
     for (Rencontre &rencontre : m_rencontres) {
         if (rencontre.tour == m_tourpri && rencontre.equipe2 > 0)
@@ -54,7 +54,7 @@ bool Concours::joueTour(const Saisie &saisie, const Tireur &tireur)
     return true;
 }
 
-void Concours::tireSuivant(const Tireur &tireur)
+void Concours::tireSuivant()
 {
     std::vector<LigneClassement> lignes;
     moteur::TabTirage table;
@@ -64,17 +64,14 @@ void Concours::tireSuivant(const Tireur &tireur)
         lignes = classement();
         const std::vector<QString> nomsClubs = clubs(lignes);
         const std::vector<moteur::PaireJouee> dejaJouees = jouees();
-        table = tireur({lignes, nomsClubs, dejaJouees, m_tourpri, m_repeche});
+        table = moteur::tireTourSuivant({lignes, nomsClubs, dejaJouees, m_tourpri, m_repeche});
     } while (moteur::tirageARefaire(table.statut, m_tourpri, essais));
-    m_statut = table.statut;
     ++m_tourpri;
     std::ranges::copy(moteur::rencontresDuTour(table, lignes, m_tourpri), std::back_inserter(m_rencontres));
 }
 
 void Concours::saisitResultat(Rencontre &rencontre, const Saisie &saisie)
 {
-    if (chance(saisie.pourcentAttendus))
-        return;
     int gagnant = 13;
     int perdant = int(m_sort() % 13);
     if (chance(saisie.pourcentMots))
@@ -91,15 +88,6 @@ std::vector<Rencontre> Concours::rencontres() const
     std::vector<Rencontre> triees = m_rencontres;
     std::ranges::stable_sort(triees, {}, [](const Rencontre &r) { return std::tuple(r.tour, r.equipe1); });
     return triees;
-}
-
-std::vector<Rencontre> Concours::dernierTour() const
-{
-    std::vector<Rencontre> tour;
-    std::ranges::copy_if(m_rencontres, std::back_inserter(tour), [this](const Rencontre &r) {
-        return r.tour == m_tourpri;
-    });
-    return tour;
 }
 
 std::vector<LigneClassement> Concours::classement()

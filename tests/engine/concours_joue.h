@@ -4,7 +4,6 @@
 #include "engine/controle_tours.h"
 #include "engine/tirage_tour1.h"
 
-#include <functional>
 #include <random>
 
 /// Competitions played to the end with invented teams and results, the same for the same seed.
@@ -24,7 +23,6 @@ struct Melange
 struct Saisie
 {
     int pourcentMots = 0; ///< Scores -1 to -3.
-    int pourcentAttendus = 0; ///< Matches left open.
     int pourcentSansVainqueur = 0; ///< Matches without a 13.
 };
 
@@ -35,26 +33,21 @@ class Concours
 public:
     Concours(std::vector<moteur::EquipeInscrite> equipes, bool repeche, quint32 graine);
 
-    /// Called for each attempt at a draw, in place of the program's own draw.
-    using Tireur = std::function<moteur::TabTirage(const moteur::DonneesTirage &)>;
-
     /// Draws the next round and plays it; false when the competition is over.
-    bool joueTour(const Saisie &saisie = {}, const Tireur &tireur = {});
+    bool joueTour(const Saisie &saisie = {});
 
     int tourpri() const { return m_tourpri; }
     bool repeche() const { return m_repeche; }
     const std::vector<moteur::EquipeInscrite> &equipes() const { return m_equipes; }
     /// All matches, by round and first team.
     std::vector<moteur::Rencontre> rencontres() const;
-    std::vector<moteur::Rencontre> dernierTour() const;
     /// Ranking, clubs in its order and meetings, as a draw of the next round reads them.
     std::vector<moteur::LigneClassement> classement();
     std::vector<QString> clubs(const std::vector<moteur::LigneClassement> &classement) const;
     std::vector<moteur::PaireJouee> jouees() const;
-    moteur::StatutTirage statut() const { return m_statut; }
 
 private:
-    void tireSuivant(const Tireur &tireur);
+    void tireSuivant();
     void saisitResultat(moteur::Rencontre &rencontre, const Saisie &saisie);
     bool chance(int pourcent) { return int(m_sort() % 100) < pourcent; }
 
@@ -63,7 +56,6 @@ private:
     AleaFixe m_alea;
     std::mt19937 m_sort;
     int m_tourpri = 0;
-    moteur::StatutTirage m_statut = moteur::StatutTirage::RienASignaler;
     std::vector<moteur::Rencontre> m_rencontres;
 };
 

@@ -258,7 +258,8 @@ QString fauteDuTour(const Concours &concours, const Journal &journal)
         std::optional<int> marque;
         if (bas != haut && concours.repeche)
             marque = un == bas ? 1 : 2;
-        if (r.repechage != marque)
+        // A team that gives way for the sake of clubs hands its mark on, to one that may stand where it has won to.
+        if (r.repechage != marque && journal.remplacees == 0)
             return paire + u"bears the wrong mark"_qs;
         if (bas != haut && !ontRemonte.insert(bas).second)
             return paire + u"holds a second team of its level sent up"_qs;

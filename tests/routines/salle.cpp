@@ -34,13 +34,6 @@ void OperateurEssai::avertit(const QString &texte)
     dits += u"avertit : "_qs + texte;
 }
 
-void OperateurEssai::annonce(const QString &)
-{
-    ++annonces;
-    if (aLAnnonce)
-        aLAnnonce();
-}
-
 Salle::Salle(quint32 graine)
     : alea(graine)
     , partage(base.dossier(), alea, horloge)

@@ -9,7 +9,6 @@
 
 #include <QStringList>
 
-#include <functional>
 
 /// The engine's operator: what it was told is kept, a question is answered by `reponse`.
 class OperateurEssai : public Interlocuteur
@@ -18,14 +17,12 @@ public:
     bool demande(const QString &question) override;
     void informe(const QString &texte) override { dits += u"informe : "_qs + texte; }
     void avertit(const QString &texte) override;
-    void annonce(const QString &texte) override;
-    void progresse(QStringView) override { ++signes; }
+    void annonce(const QString &) override { ++annonces; }
+    void progresse(QStringView) override {}
 
     QStringList dits;
     int annonces = 0;
-    int signes = 0;
     bool reponse = false;
-    std::function<void()> aLAnnonce; ///< Runs at the start of each attempt at a draw.
 };
 
 /// A base, the shared state on it, and an operator: all that the routines around the draws need.
