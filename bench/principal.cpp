@@ -4,19 +4,23 @@
 
 #include <QApplication>
 
+#include <cmath>
 #include <cstdio>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
-/// One line a measure: the median of its repetitions, and its limit where it has one.
+/// One line a measure: the median of its repetitions, its limit where it has one, and how it has grown since the
+/// measure of the same name at another size: 1 is in step with the size, 2 with its square.
 class TableDesMedianes : public benchmark::BenchmarkReporter
 {
 public:
     bool ReportContext(const Context &) override
     {
-        std::printf("%-52s %12s %10s\n", "median of the repetitions", "ms", "limit");
+        std::printf("%-52s %12s %8s %10s\n", "median of the repetitions", "ms", "growth", "limit");
         return true;
     }
 
@@ -32,7 +36,30 @@ public:
     }
 
 private:
-    static void montre(const Run &mesure)
+    struct Point
+    {
+        double taille = 0;
+        double ms = 0;
+    };
+
+    /// Exponent of the growth since the last measure whose name differs by its first number alone; empty without one.
+    std::string croissance(const std::string &nom, double ms)
+    {
+        const auto chiffres = nom.find_first_of("0123456789");
+        if (chiffres == std::string::npos)
+            return {};
+        std::size_t longueur = 0;
+        const double taille = std::stod(nom.substr(chiffres), &longueur);
+        const Point avant = std::exchange(m_derniers[nom.substr(0, chiffres) + nom.substr(chiffres + longueur)],
+                                          Point{taille, ms});
+        if (avant.ms <= 0 || avant.taille <= 1 || taille <= avant.taille)
+            return {};
+        char texte[16];
+        std::snprintf(texte, sizeof texte, "%.1f", std::log(ms / avant.ms) / std::log(taille / avant.taille));
+        return texte;
+    }
+
+    void montre(const Run &mesure)
     {
         const double ms = mesure.GetAdjustedRealTime() * 1000 / benchmark::GetTimeUnitMultiplier(mesure.time_unit);
         std::string nom = mesure.benchmark_name();
@@ -48,11 +75,13 @@ private:
         if (const auto place = nom.rfind('/'); place != std::string::npos && nom.find(':', place) == std::string::npos)
             nom.erase(place);
         const auto limite = mesure.counters.find("limite");
-        std::printf("%-52s %12.3f", nom.c_str(), ms);
+        std::printf("%-52s %12.3f %8s", nom.c_str(), ms, croissance(nom, ms).c_str());
         if (limite != mesure.counters.end())
             std::printf(" %10.0f%s", limite->second.value, ms < limite->second.value ? "" : "  OVER");
         std::printf("\n");
     }
+
+    std::map<std::string, Point> m_derniers;
 };
 
 } // namespace

@@ -93,8 +93,11 @@ void CalculClassement(benchmark::State &etat)
 }
 BENCHMARK(CalculClassement)
     ->ArgNames({"equipes", "tours", ""})
+    ->Args({128, 8, 0})
     ->Args({512, 8, 15})
+    ->Args({1000, 8, 0})
     ->Args({4000, 8, 150})
+    ->Args({10000, 8, 0})
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
 

@@ -24,6 +24,8 @@ void TirageSuivant(benchmark::State &etat)
 }
 BENCHMARK(TirageSuivant)
     ->ArgNames({"equipes", "tours", ""})
+    ->Args({128, 4, 0})
+    ->Args({512, 4, 0})
     ->Args({1000, 4, 5})
     ->Args({4000, 4, 20})
     ->Args({10000, 4, 55})
@@ -59,8 +61,11 @@ void Classement(benchmark::State &etat)
 }
 BENCHMARK(Classement)
     ->ArgNames({"equipes", "tours"})
+    ->Args({128, 8})
     ->Args({512, 8})
+    ->Args({1000, 8})
     ->Args({4000, 8})
+    ->Args({10000, 8})
     ->Unit(benchmark::kMillisecond);
 
 void TirageTour1(benchmark::State &etat)

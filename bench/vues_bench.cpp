@@ -50,11 +50,21 @@ void AfficheAttendus(benchmark::State &etat)
     }
 }
 
-BENCHMARK(AfficheJoues)->ArgNames({"equipes", ""})->Args({512, 50})->Args({4000, 500})->Unit(benchmark::kMillisecond);
+BENCHMARK(AfficheJoues)
+    ->ArgNames({"equipes", ""})
+    ->Args({128, 0})
+    ->Args({512, 50})
+    ->Args({1000, 0})
+    ->Args({4000, 500})
+    ->Args({10000, 0})
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(AfficheAttendus)
     ->ArgNames({"equipes", ""})
+    ->Args({128, 0})
     ->Args({512, 50})
+    ->Args({1000, 0})
     ->Args({4000, 500})
+    ->Args({10000, 0})
     ->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -1,21 +1,44 @@
+#include "app/dossier_travail.h"
 #include "app/programme.h"
 #include "ui/apparence.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+namespace {
+
+DossierTravail dossierTravail()
+{
+    const QString programme = QApplication::applicationDirPath();
+    const QString installes = QDir::cleanPath(QDir(programme).filePath(QStringLiteral(VARLOTOUR_ORIGINAUX)));
+    const QString personnel = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return DossierTravail({programme, installes, personnel}, dossierInscriptible(programme));
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
+    QApplication::setApplicationName(u"VarloTour"_qs);
+    QApplication::setApplicationVersion(QStringLiteral(VARLOTOUR_VERSION));
+    QApplication::setDesktopFileName(u"fr.varlotour.VarloTour"_qs);
     QApplication application(argc, argv);
     appliqueApparence(application);
     BoitesQt boites;
 
-    const QString dossier = QApplication::applicationDirPath();
-    const InstanceUnique instance(dossier);
+    const DossierTravail dossier = dossierTravail();
+    const InstanceUnique instance(dossier.chemin());
     if (instance.cedeLaPlace(boites))
         return 0;
+    if (const QString phrase = dossier.remplit(); !phrase.isEmpty()) {
+        boites.MsgBox(phrase, vbExclamation, u"VarloTour"_qs);
+        if (!dossier.aUneBase())
+            return 1;
+    }
     AleaHorloge alea;
     const Horloge horloge;
-    Programme programme(dossier, alea, horloge, boites);
+    Programme programme(dossier.chemin(), alea, horloge, boites);
     if (!programme.demarre())
         return 1;
     return QApplication::exec();

@@ -34,6 +34,18 @@ QString TexteScore(const Partage &partage, const store::Valeur &score)
     return score.texte();
 }
 
+QString TailleEquipe(int joueurs)
+{
+    switch (joueurs) {
+    case 1:
+        return u"Tête à tête "_qs;
+    case 2:
+        return u"Doublettes "_qs;
+    default:
+        return u"Triplettes "_qs;
+    }
+}
+
 QString SansApostrophe(QString texte)
 {
     return texte.remove(u'\'');

@@ -17,6 +17,9 @@ QString LibellePluriel(const Partage &partage, double nombre, const QString &mot
 /// Text of a score: the words of messages 43 to 45 for -1 to -3, the number otherwise.
 QString TexteScore(const Partage &partage, const store::Valeur &score);
 
+/// Word for a competition of teams of \p joueurs players, a blank behind it: what is neither one nor two is three.
+QString TailleEquipe(int joueurs);
+
 /// \p texte without its apostrophes.
 QString SansApostrophe(QString texte);
 

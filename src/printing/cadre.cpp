@@ -1,24 +1,28 @@
 #include "printing/cadre.h"
 
+#include "app/routines.h"
+
 namespace {
 
 const QString policeFeuilles = u"Times New Roman"_qs;
 constexpr int gauchePied = 400;
 constexpr int droitePied = 2200;
-
-QString tailleEquipe(int joueurs)
-{
-    switch (joueurs) {
-    case 1:
-        return u"Tête à tête "_qs;
-    case 2:
-        return u"Doublettes "_qs;
-    default:
-        return u"Triplettes "_qs;
-    }
-}
+constexpr double tailleLisible = 7; // points
+constexpr int montanteParPoint = 18; // twips from the upper edge of a text to the line on which its letters stand
 
 } // namespace
+
+void ecritJusque(Imprimante &papier, const QString &texte, int fin)
+{
+    const double taille = papier.FontSize;
+    while (papier.CurrentX + papier.TextWidth(texte) > fin && papier.FontSize > tailleLisible)
+        papier.FontSize -= 1;
+    const int descente = int((taille - papier.FontSize) * montanteParPoint);
+    papier.CurrentY += descente;
+    papier.Print(texte, false);
+    papier.CurrentY -= descente;
+    papier.FontSize = taille;
+}
 
 QString aligneDroite(const QString &texte, int largeur)
 {
@@ -68,7 +72,7 @@ void Cadre::ecritConcours(int colonne)
     m_papier.Print(m_partage.DateConcours, false);
     m_papier.Print(u' ' + m_partage.LieuConcours + u' ', false);
     m_papier.CurrentX = colonne;
-    m_papier.Print(tailleEquipe(m_partage.NbJoueurs), false);
+    m_papier.Print(TailleEquipe(m_partage.NbJoueurs), false);
     m_papier.Print(m_partage.CategorieConcours, false);
     m_papier.Print(u"\r\n"_qs);
 }

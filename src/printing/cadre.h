@@ -49,6 +49,10 @@ private:
     int m_page = 0;
 };
 
+/// Prints \p texte and stays on the line; its letters get smaller when it would pass \p fin, as far as they can still
+/// be read.
+void ecritJusque(Imprimante &papier, const QString &texte, int fin);
+
 /// Last \p largeur characters of \p texte with blanks before it.
 QString aligneDroite(const QString &texte, int largeur);
 QString aligneDroite(qint64 nombre, int largeur);

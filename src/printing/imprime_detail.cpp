@@ -1,5 +1,6 @@
 #include "printing/imprime_detail.h"
 
+#include "app/routines.h"
 #include "engine/clubs.h"
 #include "platform/flexgrid.h"
 #include "printing/cadre.h"
@@ -18,6 +19,7 @@ constexpr int gauchePhrase = 300;
 constexpr int gaucheNom = 700;
 constexpr int gaucheLicence = 4100;
 constexpr int gaucheClub = 5100;
+constexpr int ecartColonnes = 120;
 constexpr int margeScore = 800;
 constexpr int avantLigne = 50;
 constexpr int avantTour = 150;
@@ -99,7 +101,7 @@ QString FeuilleDetail::clubConnu(const Membre &membre) const
     QString club = membre.societe;
     PasseErreur([&] {
         const Recordset connu = m_partage.BaseDonnees.OpenRecordset(
-            u"select * from equipes where concours= 0  and licence= '"_qs + membre.licence + u'\'',
+            u"select * from equipes where concours= 0  and licence= "_qs + EntreApostrophes(membre.licence),
             store::dbOpenSnapshot);
         if (!connu.Eof())
             club = connu[u"societe"].texte();
@@ -110,9 +112,9 @@ QString FeuilleDetail::clubConnu(const Membre &membre) const
 void FeuilleDetail::ligneMembre(const QString &puce, const Membre &membre)
 {
     m_papier.CurrentX = gaucheNom;
-    m_papier.Print(puce + membre.nom, false);
+    ecritJusque(m_papier, puce + membre.nom, gaucheLicence - ecartColonnes);
     m_papier.CurrentX = gaucheLicence;
-    m_papier.Print(membre.licence, false);
+    ecritJusque(m_papier, membre.licence, gaucheClub - ecartColonnes);
     m_papier.CurrentX = gaucheClub;
     m_papier.Print(membre.societe);
     m_cadre.saute(limite());
@@ -183,9 +185,10 @@ void FeuilleDetail::tour(const QString &nom)
 
 void FeuilleDetail::rencontre(const QString &phrase, const QString &score)
 {
+    const int gaucheScore = m_papier.Width() - (m_papier.TextWidth(score) + margeScore);
     m_papier.CurrentX = gauchePhrase;
-    m_papier.Print(phrase, false);
-    m_papier.CurrentX = m_papier.Width() - (m_papier.TextWidth(score) + margeScore);
+    ecritJusque(m_papier, phrase, gaucheScore);
+    m_papier.CurrentX = gaucheScore;
     m_papier.Print(score);
 }
 

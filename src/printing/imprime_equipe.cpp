@@ -16,6 +16,9 @@ constexpr int margeScore = 2000;
 constexpr int gauchePied = 200;
 constexpr int hauteurPied = 1000;
 constexpr int hautSuite = 1000; ///< Where a sheet goes on that is longer than its page.
+constexpr int ecartScore = 100; ///< At least, between a sentence and its score.
+constexpr double tailleMinimale = 5; ///< Points.
+constexpr double tailleLisible = 8; ///< Below it, a sentence rather takes two lines.
 
 const QString finDeLigne = u"\r\n"_qs;
 
@@ -42,6 +45,8 @@ private:
     QString duConcours() const { return u" and concours = "_qs + QString::number(m_partage.ConcoursCourant); }
     void entete();
     void corps();
+    void imprimeJusqua(int droite, const QString &texte, bool retour);
+    void imprimePhrase(const QString &phrase);
     void rangee(const FlexGrid &palmares, int ligne);
     void saute();
     void pied();
@@ -83,7 +88,10 @@ QString FeuilleEquipe::corpsEquipe() const
 {
     QString corps;
     PasseErreur([&] {
-        Recordset membres = lit(u"select nom, prenom, societe, licence from equipes where equipe= "_qs + numeroEquipe()
+        const QString numero = numeroEquipe();
+        if (numero.isEmpty())
+            return;
+        Recordset membres = lit(u"select nom, prenom, societe, licence from equipes where equipe= "_qs + numero
                                 + duConcours() + u" order by doublon"_qs);
         for (; !membres.Eof(); membres.MoveNext())
             corps += u"- "_qs + membres[u"nom"].texte() + u' ' + membres[u"prenom"].texte() + u' '
@@ -92,11 +100,15 @@ QString FeuilleEquipe::corpsEquipe() const
     return corps;
 }
 
-/// Number of the team that has the named member. Of namesakes, the one whose team stands in the text.
+/// Number of the team that has the named member, empty when there is none. Of namesakes, the one whose team stands in
+/// the text. A team shown without a name is not looked for.
 QString FeuilleEquipe::numeroEquipe() const
 {
+    const QString nomme = cle();
+    if (nomme.isEmpty())
+        return {};
     Recordset equipes = lit(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like "_qs
-                            + EntreApostrophes(cle()) + duConcours());
+                            + EntreApostrophes(nomme) + duConcours());
     const QString lu = m_texte.trimmed().section(u' ', 0, 0);
     QString numero;
     for (; !equipes.Eof() && numero != lu; equipes.MoveNext()) {
@@ -139,7 +151,7 @@ void FeuilleEquipe::entete()
     m_papier.FontSize = 20;
     m_papier.FontBold = true;
     m_papier.CurrentX = gaucheTitre;
-    m_papier.Print(titre());
+    imprimeJusqua(m_papier.ScaleWidth(), titre(), true);
     m_papier.FontSize = 14;
     m_papier.Print(finDeLigne);
     m_papier.FontBold = false;
@@ -151,12 +163,42 @@ void FeuilleEquipe::corps()
     m_papier.FontItalic = true;
     const QString texte = m_genre == GenreFeuille::Club ? corpsClub() : corpsEquipe();
     for (const QString &ligne : texte.split(finDeLigne)) {
-        m_papier.Print(ligne);
+        imprimeJusqua(m_papier.ScaleWidth(), ligne, true);
         saute();
     }
     m_papier.FontItalic = false;
     m_papier.CurrentY += 100;
     m_papier.Line(0, m_papier.CurrentY, m_papier.Width(), m_papier.CurrentY);
+}
+
+/// Prints a text in letters small enough to end before \p droite, so that nothing is cut or printed over.
+void FeuilleEquipe::imprimeJusqua(int droite, const QString &texte, bool retour)
+{
+    const double taille = m_papier.FontSize;
+    const double place = droite - m_papier.CurrentX;
+    while (m_papier.FontSize > tailleMinimale && m_papier.TextWidth(texte) > place)
+        m_papier.FontSize -= 0.5;
+    m_papier.Print(texte, retour);
+    m_papier.FontSize = taille;
+}
+
+/// Prints a sentence before its score; a very long one goes on below with the second team.
+void FeuilleEquipe::imprimePhrase(const QString &phrase)
+{
+    const int droite = m_papier.Width() - margeScore - ecartScore;
+    const double reduite = m_papier.TextWidth(phrase) * tailleLisible / m_papier.FontSize;
+    qsizetype coupe = 0;
+    if (reduite > droite - m_papier.CurrentX) {
+        for (const QString &verbe : {u")  bat "_qs, u")  vs "_qs}) {
+            if (const qsizetype place = phrase.indexOf(verbe); place >= 0)
+                coupe = place + verbe.size();
+        }
+    }
+    if (coupe > 0) {
+        imprimeJusqua(droite, phrase.left(coupe), true);
+        m_papier.CurrentX = gauchePhrase;
+    }
+    imprimeJusqua(droite, phrase.mid(coupe), false);
 }
 
 void FeuilleEquipe::rangee(const FlexGrid &palmares, int ligne)
@@ -174,7 +216,7 @@ void FeuilleEquipe::rangee(const FlexGrid &palmares, int ligne)
     const QString phrase = palmares.TextMatrix(ligne, 1);
     if (phrase.contains(m_texte)) {
         m_papier.CurrentX = gauchePhrase;
-        m_papier.Print(phrase, false);
+        imprimePhrase(phrase);
         m_papier.CurrentX = m_papier.Width() - margeScore;
         m_papier.Print(palmares.TextMatrix(ligne, 2));
     }
@@ -186,10 +228,13 @@ void FeuilleEquipe::saute()
     if (m_papier.CurrentY <= m_papier.Height() - Cadre::margePage)
         return;
     const double taille = m_papier.FontSize;
+    const bool italique = m_papier.FontItalic;
+    m_papier.FontItalic = false;
     pied();
     m_papier.NewPage();
     m_papier.CurrentY = hautSuite;
     m_papier.FontSize = taille;
+    m_papier.FontItalic = italique;
 }
 
 /// The pages of this sheet bear no number.

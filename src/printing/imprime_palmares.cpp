@@ -11,6 +11,7 @@ constexpr int gauchePhrase = 300;
 constexpr int margeScore = 1200;
 constexpr int avantLigne = 50;
 constexpr int avantTour = 150;
+constexpr int apresTour = 80;
 
 void entete(Cadre &cadre, Orientation orientation)
 {
@@ -37,10 +38,12 @@ void ligne(Imprimante &papier, const FlexGrid &grille, int numero)
         papier.Print(tour, false);
     }
     papier.FontBold = false;
-    papier.CurrentX = gauchePhrase;
-    papier.Print(grille.TextMatrix(numero, 1), false);
     const QString score = grille.TextMatrix(numero, 2);
-    papier.CurrentX = papier.Width() - (papier.TextWidth(score) + margeScore);
+    const int gaucheScore = papier.Width() - (papier.TextWidth(score) + margeScore);
+    // The name of the round stands on the same line; the sentence waits for its end, or nobody could read either.
+    papier.CurrentX = tour.isEmpty() ? gauchePhrase : std::max(gauchePhrase, papier.CurrentX + apresTour);
+    ecritJusque(papier, grille.TextMatrix(numero, 1), gaucheScore);
+    papier.CurrentX = gaucheScore;
     papier.Print(score);
 }
 

@@ -222,14 +222,15 @@ void FeuilleTirage::ligne(const Recordset &rang, const QString &position)
 void FeuilleTirage::membres(qint64 equipe)
 {
     const qint64 concours = m_contexte.partage.ConcoursCourant;
-    m_papier.FontSize = 12;
     const bool gras = m_papier.FontBold;
-    m_papier.FontBold = false;
     m_equipes.Seek(u">=", {concours, equipe, 0});
     if (m_equipes.NoMatch())
         return;
     for (; !m_equipes.Eof() && m_equipes[u"Equipe"].entier() == equipe && m_equipes[u"concours"].entier() == concours;
          m_equipes.MoveNext()) {
+        // The head of a new page leaves its own letters behind.
+        m_papier.FontSize = 12;
+        m_papier.FontBold = false;
         const QString nom = m_equipes[u"nom"].texte();
         const QString prenom = m_equipes[u"prenom"].texte();
         const QString licence = m_equipes[u"licence"].texte();

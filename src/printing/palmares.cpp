@@ -8,7 +8,6 @@
 #include "printing/imprime_palmares.h"
 #include "printing/remplit_tour.h"
 #include "printing/resusoc.h"
-#include "results/grille_resultats.h"
 #include "ui_palmares.h"
 
 #include <array>
@@ -43,6 +42,31 @@ void effaceSelection(FlexGrid &grille)
 {
     grille.setRow(0);
     grille.setCol(0);
+}
+
+/// Widest text of a column below its heading, reckoned by its letters: laying thousands of sentences out would be felt.
+QString texteLePlusLarge(const FlexGrid &grille, int colonne)
+{
+    grille.ensurePolished();
+    const QFontMetrics police = grille.fontMetrics();
+    QHash<QChar, int> largeurs;
+    QString lePlusLarge;
+    int record = 0;
+    for (int ligne = 1; ligne < grille.Rows(); ++ligne) {
+        const QString texte = grille.TextMatrix(ligne, colonne);
+        int largeur = 0;
+        for (const QChar lettre : texte) {
+            auto connue = largeurs.constFind(lettre);
+            if (connue == largeurs.constEnd())
+                connue = largeurs.insert(lettre, police.horizontalAdvance(lettre));
+            largeur += *connue;
+        }
+        if (largeur > record) {
+            record = largeur;
+            lePlusLarge = texte;
+        }
+    }
+    return lePlusLarge;
 }
 
 /// The texts of the two teams of a sentence; nothing when it tells of no match. They are parted at the first letters of
@@ -147,19 +171,20 @@ void palmares::ajouteTour(FlexGrid &grille, int tour)
     effaceSelection(grille);
 }
 
-/// The columns have their usual widths unless a text would be cut; grid and form follow them, as far as the screen goes.
+/// Columns have their usual widths unless a text would be cut; grid and form follow them as far as the screen goes.
 void palmares::elargit(FlexGrid &grille)
 {
-    grille::LargeursUtiles largeurs;
-    for (int ligne = 1; ligne < grille.Rows(); ++ligne) {
-        for (int colonne = 0; colonne < grille.Cols(); ++colonne)
-            largeurs.note(colonne, grille.TextMatrix(ligne, colonne));
+    int voulue = ascenseur;
+    for (int colonne = 0; colonne < grille.Cols(); ++colonne) {
+        const int texte = std::max(grille.LargeurTexte(grille.TextMatrix(0, colonne).trimmed(), true),
+                                   grille.LargeurTexte(texteLePlusLarge(grille, colonne)));
+        if (texte > grille.ColWidth(colonne))
+            grille.setColWidth(colonne, texte);
+        voulue += grille.ColWidth(colonne);
     }
-    largeurs.applique(grille);
-    int largeur = ascenseur;
-    for (int colonne = 0; colonne < grille.Cols(); ++colonne)
-        largeur += grille.ColWidth(colonne);
-    largeur = std::min(largeur, Ecran::Width() - autourGrille);
+    const int largeur = std::min(voulue, Ecran::Width() - autourGrille);
+    // The frame of the grid takes a few pixels of the last column: no reason to scroll sideways.
+    grille.setHorizontalScrollBarPolicy(largeur < voulue ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     grille.resize(enPixels(largeur), grille.height());
     m_ui->titre_1->setGeometry(grille.x(), m_ui->titre_1->y(), grille.width(), m_ui->titre_1->height());
     fixeLargeur(largeur + autourGrille);

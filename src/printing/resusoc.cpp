@@ -77,7 +77,7 @@ void Resusoc::imprimer_Click()
                                                                      {m_ui->Option3, GenreFeuille::Club},
                                                                      {m_ui->Option4, GenreFeuille::Club}};
     for (const auto &[option, genre] : options) {
-        if (!option->isChecked())
+        if (!option->isChecked() || !option->isEnabled())
             continue;
         ImprimeEquipe(contexte(), *lignes, deLegende(*option), genre);
         return;

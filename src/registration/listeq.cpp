@@ -26,11 +26,6 @@ QString libelle(const Formulaires &formulaires, const QString &nom, const QStrin
     return label == nullptr ? sinon : label->text();
 }
 
-QString taille(int joueurs)
-{
-    return joueurs == 1 ? u" Tête à tête "_qs : joueurs == 2 ? u" Doublettes "_qs : u" Triplettes "_qs;
-}
-
 } // namespace
 
 listeq::listeq(const Contexte &contexte, QWidget *parent)
@@ -113,8 +108,8 @@ void listeq::ajouteEquipes(FichierEquipes *fichier)
 void listeq::ecritTitres(FichierEquipes &fichier) const
 {
     fichier.ligne(libelle(formulaires(), u"Lieuc"_qs, partage().LieuConcours));
-    fichier.ligne(u"Concours du "_qs + libelle(formulaires(), u"datec"_qs, partage().DateConcours) + u' '
-                  + taille(partage().NbJoueurs)
+    fichier.ligne(u"Concours du "_qs + libelle(formulaires(), u"datec"_qs, partage().DateConcours) + u"  "_qs
+                  + TailleEquipe(partage().NbJoueurs)
                   + libelle(formulaires(), u"categorie"_qs, partage().CategorieConcours));
     fichier.titres(mes(17), mes(18), mes(19) + u'-' + mes(20), mes(21));
 }

@@ -122,6 +122,29 @@ TEST_F(Impression, TheRankingLeavesThePlaceOfATieEmpty)
     EXPECT_TRUE(texte.contains(u"|3|-|2|(Club 2)|1|0|1|3|13|-10|"_qs)) << texte.toStdString();
 }
 
+TEST_F(Impression, MembersLookTheSameBehindAPageBreak)
+{
+    prepare(120, 1);
+    // Teams of one, two and three: some page ends between two members.
+    abime(u"delete from equipes where equipe % 5 = 0 and doublon = 1"_qs);
+    abime(u"insert into equipes (concours, equipe, doublon, nom) select 1, equipe, 2, 'NOM' from equipes where "
+            "equipe % 3 = 1 and doublon = 0"_qs);
+    clic(D, u"Option3"_qs);
+    clic(D, u"Label2"_qs);
+    clic(D, u"Imprime"_qs);
+    ASSERT_EQ(documents.size(), 1u);
+    int membres = 0;
+    for (const PageDessinee &page : documents.front()) {
+        for (const Dessin &dessin : page.dessins) {
+            if (!dessin.texte.startsWith(u"NOM"))
+                continue;
+            ++membres;
+            EXPECT_TRUE(dessin.taille == 12 && !dessin.gras && dessin.x1 == 1450) << dessin.texte.toStdString();
+        }
+    }
+    EXPECT_EQ(membres, 240 - 24 + 40);
+}
+
 TEST_F(Impression, CancellingIsToldAndPrintsNothing)
 {
     prepare(4, 2);

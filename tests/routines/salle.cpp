@@ -4,7 +4,10 @@
 
 #include <QCryptographicHash>
 
+using moteur::LigneClassement;
+using moteur::Rencontre;
 using store::Instruction;
+using store::Recordset;
 
 namespace {
 
@@ -13,16 +16,9 @@ std::optional<int> optionnel(const Instruction &ligne, int colonne)
     return ligne.estNulle(colonne) ? std::nullopt : std::optional(int(ligne.nombre(colonne)));
 }
 
-LigneTbclass litTbclass(const Instruction &ligne)
+std::optional<int> optionnel(const Recordset &ligne, QStringView champ)
 {
-    return {.gagnees = int(ligne.nombre(1)),
-            .perdues = int(ligne.nombre(2)),
-            .pp = optionnel(ligne, 3),
-            .pc = optionnel(ligne, 4),
-            .ga = optionnel(ligne, 5),
-            .pt = int(ligne.nombre(6)),
-            .repechage = optionnel(ligne, 7),
-            .alea = int(ligne.nombre(8))};
+    return ligne[champ].estNull() ? std::nullopt : std::optional(int(ligne[champ].entier()));
 }
 
 } // namespace
@@ -68,9 +64,9 @@ void Salle::choisit(qint32 concours)
     ChargeConcours(partage, partage.ConcoursCourant);
 }
 
-std::vector<LigneScores> Salle::scores(int tour)
+std::vector<Rencontre> Salle::scores(int tour)
 {
-    std::vector<LigneScores> lignes;
+    std::vector<Rencontre> lignes;
     Instruction lecture(native(), u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage "
                                   u"from scores where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) order by rowid"_qs);
     lecture.lie(1, partage.ConcoursCourant);
@@ -86,45 +82,24 @@ std::vector<LigneScores> Salle::scores(int tour)
     return lignes;
 }
 
-std::map<int, LigneTbclass> Salle::tbclass()
+std::vector<LigneClassement> Salle::tbclass()
 {
-    std::map<int, LigneTbclass> lignes;
-    Instruction lecture(native(),
-                        u"select equipe, gagnées, perdues, pp, pc, ga, pt, repechage, alea from tbclass"_qs);
-    while (lecture.avance())
-        lignes[int(lecture.nombre(0))] = litTbclass(lecture);
+    std::vector<LigneClassement> lignes;
+    Recordset table = partage.BaseDonnees.OpenRecordset(u"tbclass", store::dbOpenTable);
+    table.Index(u"rankkey");
+    if (table.RecordCount() > 0)
+        table.MoveFirst();
+    for (; !table.Eof(); table.MoveNext())
+        lignes.push_back({.equipe = int(table[u"Equipe"].entier()),
+                          .gagnées = int(table[u"gagnées"].entier()),
+                          .perdues = int(table[u"perdues"].entier()),
+                          .pp = optionnel(table, u"pp"),
+                          .pc = optionnel(table, u"pc"),
+                          .ga = optionnel(table, u"ga"),
+                          .pt = int(table[u"pt"].entier()),
+                          .repechage = optionnel(table, u"repechage"),
+                          .alea = int(table[u"alea"].entier())});
     return lignes;
-}
-
-std::map<int, LigneTbclass> Salle::classementRefait()
-{
-    std::map<int, LigneTbclass> lignes;
-    Instruction lecture(native(),
-                        u"with cotes(equipe, gagne, perd, marque, concede) as ("
-                        u" select equipe_1, equipe_2 = 0 or ifnull(score_1, 0) = 13,"
-                        u"  equipe_2 > 0 and ifnull(score_1, 0) <> 13 and ifnull(score_2, 0) = 13,"
-                        u"  case equipe_2 when 0 then 13 else score_1 end, case equipe_2 when 0 then 7 else score_2 end"
-                        u" from scores where concours = ?1"
-                        u" union all"
-                        u" select equipe_2, ifnull(score_1, 0) <> 13 and ifnull(score_2, 0) = 13,"
-                        u"  ifnull(score_1, 0) = 13, score_2, score_1"
-                        u" from scores where concours = ?1 and equipe_2 > 0)"
-                        u"select equipe, sum(gagne), sum(perd), sum(marque), sum(concede),"
-                        u" sum(marque) - sum(concede), sum(gagne), null, 0 from cotes group by equipe"_qs);
-    lecture.lie(1, partage.ConcoursCourant);
-    while (lecture.avance())
-        lignes[int(lecture.nombre(0))] = litTbclass(lecture);
-    return lignes;
-}
-
-std::map<int, QString> Salle::clubs()
-{
-    std::map<int, QString> noms;
-    Instruction lecture(native(), u"select equipe, societe from equipes where concours = ? and doublon = 0"_qs);
-    lecture.lie(1, partage.ConcoursCourant);
-    while (lecture.avance())
-        noms[int(lecture.nombre(0))] = lecture.valeur(1).texte();
-    return noms;
 }
 
 int Salle::tourpri()
@@ -132,17 +107,37 @@ int Salle::tourpri()
     return int(nombre(u"select tourpri from concours where concours = %1"_qs.arg(partage.ConcoursCourant)));
 }
 
-void Salle::saisit(int equipe1, int equipe2, const QString &score1, const QString &score2)
+bool Salle::saisit(int equipe1, int equipe2, const QString &score1, const QString &score2)
 {
-    store::Recordset scores = partage.BaseDonnees.OpenRecordset(u"scores", store::dbOpenTable);
+    Recordset scores = partage.BaseDonnees.OpenRecordset(u"scores", store::dbOpenTable);
     scores.Index(u"Equipes");
     scores.Seek(u"=", {QString::number(partage.ConcoursCourant), 1, partage.TourCourant, QString::number(equipe1),
                        QString::number(equipe2)});
+    if (scores.NoMatch())
+        return false;
     scores.Edit();
     scores[u"score_reel"] = true;
     scores[u"score_1"] = score1;
     scores[u"score_2"] = score2;
     scores.Update();
+    return true;
+}
+
+void Salle::annuleTour()
+{
+    const QString concours = u" where concours=%1"_qs.arg(partage.ConcoursCourant);
+    partage.BaseDonnees.Execute(u"delete * from scores"_qs + concours
+                                + u" and tableau=1 and tour=%1"_qs.arg(partage.TourCourant));
+    --partage.TourCourant;
+    partage.BaseDonnees.Execute(u"update concours set tourpri= %1"_qs.arg(partage.TourCourant - 1) + concours);
+}
+
+void Salle::annuleTirage()
+{
+    const QString concours = u" where concours=%1"_qs.arg(partage.ConcoursCourant);
+    partage.BaseDonnees.Execute(u"delete * from scores"_qs + concours + u" and tableau=1"_qs);
+    partage.BaseDonnees.Execute(u"update concours set tourpri=0"_qs + concours);
+    partage.TourCourant = 0;
 }
 
 QByteArray Salle::empreinteSauf(qint32 concours)

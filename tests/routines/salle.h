@@ -4,12 +4,12 @@
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
 #include "commun/concours_en_base.h"
+#include "engine/classement.h"
 #include "engine/interlocuteur.h"
 
 #include <QStringList>
 
 #include <functional>
-#include <map>
 
 /// The engine's operator: what it was told is kept, a question is answered by `reponse`.
 class OperateurEssai : public Interlocuteur
@@ -28,34 +28,6 @@ public:
     std::function<void()> aLAnnonce; ///< Runs at the start of each attempt at a draw.
 };
 
-/// One row of `scores` of bracket 1, and one of `tbclass`, as they stand in the file.
-struct LigneScores
-{
-    int tour = 0;
-    int rencontre = 0;
-    int equipe1 = 0;
-    int equipe2 = 0;
-    std::optional<int> score1 = {};
-    std::optional<int> score2 = {};
-    std::optional<int> repechage = {};
-
-    bool operator==(const LigneScores &) const = default;
-};
-
-struct LigneTbclass
-{
-    int gagnees = 0;
-    int perdues = 0;
-    std::optional<int> pp = {};
-    std::optional<int> pc = {};
-    std::optional<int> ga = {};
-    int pt = 0;
-    std::optional<int> repechage = {};
-    int alea = 0;
-
-    bool operator==(const LigneTbclass &) const = default;
-};
-
 /// A base, the shared state on it, and an operator: all that the routines around the draws need.
 class Salle
 {
@@ -68,15 +40,16 @@ public:
     void choisit(qint32 concours);
 
     /// Matches of the current competition in the order of writing; of round \p tour alone when it is above 0.
-    std::vector<LigneScores> scores(int tour = 0);
-    std::map<int, LigneTbclass> tbclass();
-    /// The ranking of the current competition added up by the store's own arithmetic from the rows of `scores`.
-    std::map<int, LigneTbclass> classementRefait();
-    /// Club of the first member of each team.
-    std::map<int, QString> clubs();
+    std::vector<moteur::Rencontre> scores(int tour = 0);
+    /// Rows of `tbclass` as the index `rankkey` walks them.
+    std::vector<moteur::LigneClassement> tbclass();
     int tourpri();
-    /// Stores a result the way of the results screen: the match is sought by its teams, the scores are texts.
-    void saisit(int equipe1, int equipe2, const QString &score1, const QString &score2);
+    /// Stores a result the way of the results screen: the match of the current round is sought by its teams, the scores
+    /// are texts. False when there is no such match.
+    bool saisit(int equipe1, int equipe2, const QString &score1, const QString &score2);
+    /// Cancels the current round, or the whole draw, the way of the results screen.
+    void annuleTour();
+    void annuleTirage();
     /// Fingerprint of the whole file but for the matches and the round of \p concours.
     QByteArray empreinteSauf(qint32 concours);
     qint64 nombre(const QString &sql) { return native().valeurUnique(sql).entier(); }

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using moteur::Rencontre;
+
 namespace {
 
 const QString refus = u"informe : Tirage Impossible, Il y a déjà des résultats de tombés"_qs;
@@ -46,15 +48,15 @@ protected:
 TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
 {
     LanceTourSuivant(salle.partage, salle.operateur);
-    const std::vector<LigneScores> tirees = salle.scores();
-    const LigneScores &premiere = tirees.front();
+    const std::vector<Rencontre> tirees = salle.scores();
+    const Rencontre &premiere = tirees.front();
     // One score alone is no result.
     salle.native().executeScript(
         u"update scores set score_1 = 13 where concours = %1 and rencontre = 1"_qs.arg(concours));
     ConfirmeTirage(salle.partage, salle.operateur);
     EXPECT_EQ(salle.operateur.dits, QStringList(question));
     salle.saisit(premiere.equipe1, premiere.equipe2, u"13"_qs, u"2"_qs);
-    const std::vector<LigneScores> jouees = salle.scores();
+    const std::vector<Rencontre> jouees = salle.scores();
     salle.operateur.reponse = true;
     ConfirmeTirage(salle.partage, salle.operateur);
     EXPECT_EQ(salle.operateur.dits, QStringList({question, refus}));
@@ -64,7 +66,7 @@ TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
 TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
 {
     LanceTourSuivant(salle.partage, salle.operateur);
-    const std::vector<LigneScores> tirees = salle.scores();
+    const std::vector<Rencontre> tirees = salle.scores();
     const QByteArray empreinte = salle.empreinteSauf(concours);
 
     ConfirmeTirage(salle.partage, salle.operateur);
@@ -88,7 +90,7 @@ TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
 TEST_F(PremierTirage, DejaTireLeDitEtNeTouchePasAuxRencontres)
 {
     LanceTourSuivant(salle.partage, salle.operateur);
-    const std::vector<LigneScores> tirees = salle.scores();
+    const std::vector<Rencontre> tirees = salle.scores();
     salle.native().executeScript(u"update concours set tourpri = 4"_qs);
     salle.partage.TourCourant = 4;
     TirageTour1(salle.partage, salle.operateur, 1);
@@ -118,7 +120,7 @@ TEST_F(PremierTirage, SeulesLesEquipesDuTableauPrincipalJouent)
                                      .arg(concours));
     LanceTourSuivant(salle.partage, salle.operateur);
     std::vector<int> jouent;
-    for (const LigneScores &ligne : salle.scores()) {
+    for (const Rencontre &ligne : salle.scores()) {
         jouent.push_back(ligne.equipe1);
         jouent.push_back(ligne.equipe2);
     }
@@ -162,11 +164,11 @@ TEST_F(EcritureCoupee, AuTour1LeTirageSeReprend)
 TEST_F(EcritureCoupee, AuxToursSuivantsLeTourResteLAncien)
 {
     LanceTourSuivant(salle.partage, salle.operateur);
-    for (const LigneScores &ligne : salle.scores()) {
+    for (const Rencontre &ligne : salle.scores()) {
         if (ligne.equipe2 > 0)
             salle.saisit(ligne.equipe1, ligne.equipe2, u"13"_qs, u"5"_qs);
     }
-    const std::vector<LigneScores> tour1 = salle.scores(1);
+    const std::vector<Rencontre> tour1 = salle.scores(1);
     coupe(2, 2, u"abort"_qs);
     EXPECT_THROW(LanceTourSuivant(salle.partage, salle.operateur), store::Erreur);
     EXPECT_EQ(salle.scores(2).size(), 2u);

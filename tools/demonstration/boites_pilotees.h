@@ -23,6 +23,8 @@ enum class Boite {
     DejaRencontrees,
     Importation,
     EquipeImportee,
+    Copie,
+    Suppression,
     Purge,
     PurgeReussie,
 };

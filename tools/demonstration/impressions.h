@@ -28,12 +28,14 @@ public:
     /// Names of all documents that a day can leave.
     static QStringList fichiers();
 
+    /// Clicks the print button of an open form; the sheet goes to \p fichier.
+    void imprime(const QString &forme, const QString &bouton, const QString &fichier);
+    void ferme(const QString &forme);
+
 private:
     void ouvre(const QString &option);
     void imprime(const QString &fichier);
-    void imprime(const QString &forme, const QString &bouton, const QString &fichier);
     void imprimePalmares(const QString &fichier);
-    void ferme(const QString &forme);
 
     Operateur &m_main;
     BoitesPilotees &m_boites;

@@ -23,7 +23,9 @@ Journee::Journee(const Options &options, const Plateau &plateau, Hasard &hasard)
     , m_main(m_programme, m_boites)
     , m_inscription(m_programme, m_main, m_boites, m_photographe)
     , m_impressions(m_main, m_boites, m_photographe, options.dossier)
+    , m_registre(m_programme, m_main, m_boites, m_photographe, m_impressions, plateau)
     , m_outils(m_main, m_boites, m_photographe, m_horloge)
+    , m_visite(m_programme, m_main, m_photographe)
     , m_resultats(m_programme, m_main, plateau, hasard, m_photographe)
 {
 }
@@ -31,8 +33,11 @@ Journee::Journee(const Options &options, const Plateau &plateau, Hasard &hasard)
 void Journee::joue()
 {
     demarre();
+    m_registre.preenregistre();
     creeConcours();
     inscritEquipes();
+    m_registre.choisitJoueur();
+    m_registre.listeEquipes();
     m_resultats.ouvre();
     m_photographe.prend(u"resultats-avant-depart", *m_main.fenetre(u"EResultats"_qs));
     joueTours();
@@ -40,7 +45,11 @@ void Journee::joue()
     m_impressions.classement(u"classement-detail.pdf"_qs, true);
     m_impressions.palmares(u"palmares.pdf"_qs, u"palmares-detail.pdf"_qs);
     m_impressions.club(u"equipe-club.pdf"_qs);
+    m_registre.choisitEquipe();
+    m_registre.copieEtSupprime();
     m_outils.essaie();
+    m_visite.langues();
+    m_visite.tailles();
 }
 
 void Journee::demarre()
@@ -62,6 +71,8 @@ void Journee::prevoitBoites()
     m_boites.attend(Boite::RencontreLancee, u"peut être lancée"_qs, ReponseBoite::OK, u"boite-rencontre-lancee");
     m_boites.attend(Boite::Retardataire, mes(126), ReponseBoite::Oui, u"boite-retardataire");
     m_boites.attend(Boite::MemeClub, u"deux équipes d'un même club"_qs, ReponseBoite::OK, u"boite-meme-club");
+    m_boites.attend(Boite::Copie, u"Concours dupliqué sous le numéro"_qs, ReponseBoite::OK, u"boite-copie");
+    m_boites.attend(Boite::Suppression, mes(96), ReponseBoite::Oui, u"boite-suppression");
     m_boites.attend(Boite::DejaRencontrees, u"deux équipes se sont déjà rencontrées"_qs, ReponseBoite::OK,
                     u"boite-deja-rencontrees");
 }

@@ -11,7 +11,9 @@
 #include "outils.h"
 #include "photographe.h"
 #include "plateau.h"
+#include "registre.h"
 #include "resultats.h"
+#include "visite.h"
 
 #include <set>
 
@@ -51,7 +53,9 @@ private:
     Operateur m_main;
     Inscription m_inscription;
     Impressions m_impressions;
+    Registre m_registre;
     Outils m_outils;
+    Visite m_visite;
     Resultats m_resultats;
     std::set<int> m_avertis;
 };

@@ -16,7 +16,8 @@ namespace demonstration {
 namespace {
 
 const QString base = u"VarloBase.mdb"_qs;
-const QString icone = u"1.ico"_qs;
+/// What the program finds beside its base.
+const QStringList ressources{u"*.ico"_qs, u"drelin.WAV"_qs};
 /// Lies beside the base of a demonstration, and of nothing else.
 const QString compteRendu = u"demonstration.txt"_qs;
 
@@ -39,15 +40,16 @@ void prepareDossier(const QDir &dossier)
     exige(!dossier.exists(base) || dossier.exists(compteRendu),
           u"Le dossier %1 contient une base qui n'est pas celle d'une démonstration ; elle reste intacte. "
           u"Choisissez un autre dossier."_qs.arg(QDir::toNativeSeparators(dossier.path())));
-    for (const QString &nom : QStringList{base, base + u"-wal"_qs, base + u"-shm"_qs, icone}
-             + Photographe::fichiers() + Impressions::fichiers() + Cloture::fichiers())
+    for (const QString &nom : QStringList{base, base + u"-wal"_qs, base + u"-shm"_qs} + dossier.entryList(ressources)
+             + Photographe::fichiers() + Impressions::fichiers() + Registre::fichiers() + Cloture::fichiers())
         exige(!dossier.exists(nom) || QFile::remove(dossier.filePath(nom)),
               u"Le fichier %1 ne peut pas être remplacé."_qs.arg(QDir::toNativeSeparators(dossier.filePath(nom))));
     const QDir programme(QApplication::applicationDirPath());
     QFile marque(dossier.filePath(compteRendu));
     exige(marque.open(QIODevice::WriteOnly), u"Le dossier %1 n'accepte pas d'écriture."_qs.arg(dossier.path()));
     copie(programme.filePath(u"../base/"_qs + base), dossier.filePath(base));
-    copie(programme.filePath(icone), dossier.filePath(icone));
+    for (const QString &nom : programme.entryList(ressources))
+        copie(programme.filePath(nom), dossier.filePath(nom));
 }
 
 void gardeCompteRendu(const QDir &dossier, const QStringList &lignes)

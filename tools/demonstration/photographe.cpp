@@ -1,6 +1,7 @@
 #include "photographe.h"
 
 #include "incident.h"
+#include "visite.h"
 
 #include <QApplication>
 #include <QDir>
@@ -8,14 +9,16 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <iterator>
 
 namespace demonstration {
 
 namespace {
 
 // In the order of the day.
-constexpr QStringView catalogue[] = {
+const QStringView chronique[] = {
+    u"joueurs",
+    u"liste-joueurs",
+    u"joueurs-appel",
     u"accueil",
     u"concours-vierge",
     u"concours-rempli",
@@ -30,6 +33,8 @@ constexpr QStringView catalogue[] = {
     u"equipes-correction",
     u"clubs",
     u"bureau-equipes",
+    u"equipes-joueur-choisi",
+    u"liste-equipes",
     u"resultats-avant-depart",
     u"resultats-tour-1",
     u"equipes-retardataire",
@@ -55,6 +60,10 @@ constexpr QStringView catalogue[] = {
     u"palmares",
     u"palmares-noms",
     u"feuille-equipe",
+    u"resultats-equipe-choisie",
+    u"boite-copie",
+    u"liste-concours",
+    u"boite-suppression",
     u"outils-tirage",
     u"boite-alarme",
     u"outils",
@@ -67,9 +76,21 @@ constexpr QStringView catalogue[] = {
 
 constexpr int hauteurTitre = 30;
 
+/// Names of all pictures: those of the day in its order, then those of the walk through the forms.
+const QStringList &catalogue()
+{
+    static const QStringList noms = [] {
+        QStringList tous;
+        for (const QStringView nom : chronique)
+            tous += nom.toString();
+        return tous + Visite::images();
+    }();
+    return noms;
+}
+
 QString fichier(qsizetype place)
 {
-    return u"%1-%2.png"_qs.arg(place + 1, 2, 10, QChar(u'0')).arg(catalogue[place]);
+    return u"%1-%2.png"_qs.arg(place + 1, 3, 10, QChar(u'0')).arg(catalogue()[place]);
 }
 
 /// The desktop frames its windows; a picture without one has to do it.
@@ -88,16 +109,16 @@ void peintFenetre(QPainter &peintre, QWidget &fenetre, bool active)
 QStringList Photographe::fichiers()
 {
     QStringList noms;
-    for (qsizetype place = 0; place < qsizetype(std::size(catalogue)); ++place)
+    for (qsizetype place = 0; place < catalogue().size(); ++place)
         noms += fichier(place);
     return noms;
 }
 
 void Photographe::garde(QStringView nom, const QImage &image)
 {
-    const auto trouve = std::ranges::find(catalogue, nom);
-    exige(trouve != std::end(catalogue), u"L'image « %1 » n'est pas au catalogue."_qs.arg(nom));
-    const QString chemin = QDir(m_dossier).filePath(fichier(trouve - std::begin(catalogue)));
+    const qsizetype place = catalogue().indexOf(nom);
+    exige(place >= 0, u"L'image « %1 » n'est pas au catalogue."_qs.arg(nom));
+    const QString chemin = QDir(m_dossier).filePath(fichier(place));
     exige(image.save(chemin), u"L'image %1 ne peut pas être écrite."_qs.arg(QDir::toNativeSeparators(chemin)));
     m_prises += nom.toString();
 }
