@@ -41,6 +41,8 @@ public:
     /// Unloads every form that is still loaded.
     void DechargeTout();
 
+    /// Names of all forms, loaded or not.
+    QStringList noms() const { return m_fabriques.keys(); }
     /// The loaded form of that name, null when it is not loaded.
     Formulaire *forme(const QString &nom) const { return m_chargees.value(nom); }
     bool estChargee(const QString &nom) const { return m_chargees.contains(nom); }

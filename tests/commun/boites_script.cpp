@@ -71,13 +71,13 @@ std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &text
 ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
     m_drapeaux = drapeaux;
-    if (m_muette) {
-        compte();
-        return ReponseBoite::OK;
-    }
-    montreUnInstant(texte, titre);
     const int boutons = drapeaux & 0x7;
     const bool question = boutons == vbYesNo || boutons == vbYesNoCancel;
+    if (m_muette) {
+        compte();
+        return question ? m_reponseMuette : ReponseBoite::OK;
+    }
+    montreUnInstant(texte, titre);
     const std::optional<Attendue> attendue = suivante(texte, titre, Genre::Message);
     if (!attendue)
         return question ? ReponseBoite::Non : ReponseBoite::OK;
@@ -89,12 +89,16 @@ ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QStr
 std::optional<QString> BoitesScript::InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin)
 {
     m_coin = coin;
+    if (m_muette)
+        return m_saisieMuette;
     const std::optional<Attendue> attendue = suivante(texte, titre, Genre::Saisie);
     return attendue ? attendue->texteSaisi : std::nullopt;
 }
 
 QString BoitesScript::ShowOpen(const BoiteFichier &dialogue)
 {
+    if (m_muette)
+        return dialogue.FileName;
     const std::optional<Attendue> attendue = suivante(dialogue.FileName, dialogue.DialogTitle, Genre::Fichier);
     return attendue && attendue->texteSaisi ? *attendue->texteSaisi : dialogue.FileName;
 }

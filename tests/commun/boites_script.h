@@ -21,8 +21,14 @@ public:
     /// The next box holds \p partie in its text (and bears \p titre when one is given), and \p reponse is the button
     /// pressed.
     void attend(const QString &partie, ReponseBoite reponse = ReponseBoite::OK, const QString &titre = {});
-    /// From now on every box is answered with OK and looked at no more: for measures, which have nobody to answer.
-    void repondATout() { m_muette = true; }
+    /// From now on every box is answered and looked at no more: OK, \p question to a yes/no question, \p saisie to one
+    /// for a text; choices of a file are cancelled.
+    void repondATout(ReponseBoite question = ReponseBoite::OK, const std::optional<QString> &saisie = {})
+    {
+        m_muette = true;
+        m_reponseMuette = question;
+        m_saisieMuette = saisie;
+    }
     /// The next box asks for a line of text and gets \p saisie.
     void attendSaisie(const QString &partie, const std::optional<QString> &saisie);
     /// The next box chooses a file, under the title \p titre: it gets \p fichier, or is cancelled.
@@ -65,4 +71,6 @@ private:
     int m_drapeaux = 0;
     std::optional<QPoint> m_coin;
     bool m_muette = false;
+    ReponseBoite m_reponseMuette = ReponseBoite::OK;
+    std::optional<QString> m_saisieMuette;
 };

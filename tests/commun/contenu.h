@@ -4,5 +4,5 @@
 
 #include <QStringList>
 
-/// Every row of the tables of the file, as "table|field|field", in the order of writing.
-QStringList Contenu(store::BaseNative &base);
+/// Every row of the tables of the file but \p sauf, as "table|field|field", in the order of writing.
+QStringList Contenu(store::BaseNative &base, const QString &sauf = {});

@@ -150,18 +150,22 @@ TEST_F(Clubs, OneIsDeletedAfterAQuestionAndTheFirstOneStays)
 
 TEST_F(Clubs, AnApostropheBreaksItsOwnDeletionAlone)
 {
-    avec({u"DUMAS"_qs, u"L'Oustau"_qs});
-    clicClub(3);
-    boites().attend(u"Supprimer L'Oustau"_qs, ReponseBoite::Oui);
-    boites().attend(u"Erreur"_qs);
-    clic(L, u"Command1"_qs);
-    EXPECT_EQ(listes().size(), 3);
-    EXPECT_EQ(nombre(u"select count(*) from societes"_qs), 3);
-    clicClub(2);
+    // Joined to a deletion as they stand, the last two would remove the club before them, and all clubs.
+    const QStringList apostrophes{u"L'Oustau"_qs, u"L''Oustau"_qs, u"Z' or '1'='1"_qs};
+    avec(QStringList{u"DUMAS"_qs} + apostrophes);
+    const QStringList avant = listes();
+    for (const QString &club : apostrophes) {
+        clicClub(int(avant.indexOf(club)) + 1);
+        boites().attend(u"Supprimer "_qs + club, ReponseBoite::Oui);
+        boites().attend(u"Erreur"_qs);
+        clic(L, u"Command1"_qs);
+        EXPECT_EQ(lignes(u"select societe from societes order by societe"_qs), avant);
+    }
+    clicClub(int(avant.indexOf(u"DUMAS"_qs)) + 1);
     boites().attend(u"Supprimer DUMAS"_qs, ReponseBoite::Oui);
     clic(L, u"Command1"_qs);
-    EXPECT_EQ(lignes(u"select societe from societes order by societe"_qs),
-              QStringList({u"*Panachée"_qs, u"L'Oustau"_qs}));
+    EXPECT_EQ(nombre(u"select count(*) from societes"_qs), avant.size() - 1);
+    EXPECT_EQ(nombre(u"select count(*) from societes where societe = 'DUMAS'"_qs), 0);
 }
 
 TEST_F(Clubs, AClubCreatedBesideItIsListedAtOnce)
