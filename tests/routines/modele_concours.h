@@ -68,10 +68,10 @@ private:
     void ecritTour(const moteur::TabTirage &table, const std::vector<moteur::LigneClassement> &classement);
 };
 
-/// What every later round owes to the rules, however it was drawn: each team plays once; a pair is of one level or holds
-/// the one team that its lower level has sent up, which bears the mark; one bye at most, for a team of the lowest level;
-/// no repeat but where the search for another pair has ended. \p concours stands just behind the draw, with all earlier
-/// matches won by one side. Empty when all is well.
+/// What every later round owes to the rules, however it was drawn: each team plays once; a pair is of one level or
+/// holds the one team that its lower level has sent up, which bears the mark; one bye at most, for a team of the
+/// lowest level; no repeat but where the search for another pair has ended. \p concours stands just behind the draw,
+/// with all earlier matches won by one side. Empty when all is well.
 QString fauteDuTour(const Concours &concours, const Journal &journal);
 
 } // namespace modele

@@ -61,7 +61,8 @@ std::vector<Rencontre> Salle::scores(int tour)
 {
     std::vector<Rencontre> lignes;
     Instruction lecture(native(), u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage "
-                                  u"from scores where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) order by rowid"_qs);
+                                  u"from scores where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) "
+                                  u"order by rowid"_qs);
     lecture.lie(1, partage.ConcoursCourant);
     lecture.lie(2, tour);
     while (lecture.avance())
