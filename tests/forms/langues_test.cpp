@@ -143,8 +143,9 @@ TEST_F(ChoixLangue, AucunTexteNEstCoupe)
             QCoreApplication::processEvents();
             ASSERT_TRUE(prog.formulaires().estVisible(forme)) << forme.toStdString();
             for (const QWidget *controle : prog.formulaires().forme(forme)->findChildren<QWidget *>()) {
-                if (controle->isVisible())
-                    EXPECT_EQ(coupe(*controle), QString()) << langue << ' ' << forme.toStdString();
+                if (!controle->isVisible())
+                    continue;
+                EXPECT_EQ(coupe(*controle), QString()) << langue << ' ' << forme.toStdString();
             }
         }
     }
