@@ -50,21 +50,14 @@ void AfficheAttendus(benchmark::State &etat)
     }
 }
 
-BENCHMARK(AfficheJoues)
-    ->ArgNames({"equipes", ""})
-    ->Args({128, 0})
-    ->Args({512, 50})
-    ->Args({1000, 0})
-    ->Args({4000, 500})
-    ->Args({10000, 0})
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(AfficheAttendus)
-    ->ArgNames({"equipes", ""})
-    ->Args({128, 0})
-    ->Args({512, 50})
-    ->Args({1000, 0})
-    ->Args({4000, 500})
-    ->Args({10000, 0})
-    ->Unit(benchmark::kMillisecond);
+/// Teams, and the limit where there is one.
+void tailles(benchmark::internal::Benchmark *mesure)
+{
+    mesure->ArgNames({"equipes", ""})->Unit(benchmark::kMillisecond);
+    for (const auto &[equipes, ms] : {std::pair(128, 0), {512, 50}, {1000, 0}, {4000, 500}, {10000, 0}})
+        mesure->Args({equipes, ms});
+}
+BENCHMARK(AfficheJoues)->Apply(tailles);
+BENCHMARK(AfficheAttendus)->Apply(tailles);
 
 } // namespace

@@ -54,10 +54,8 @@ void Journee::joue()
 
 void Journee::demarre()
 {
-    const bool pret = m_programme.demarre();
-    exige(pret && m_boites.faute().isEmpty(), u"Le programme n'a pas démarré. "_qs + m_boites.faute());
+    m_main.demarre();
     prevoitBoites();
-    exige(QTest::qWaitForWindowActive(m_main.fenetre(u"Accueil"_qs)), u"Accueil ne vient pas devant."_qs);
     m_photographe.prendBureau(u"accueil", *m_main.fenetre(u"Torvik"_qs));
 }
 

@@ -69,6 +69,13 @@ QString Operateur::texte(const QString &forme, const QString &nom) const
     return etiquette->text();
 }
 
+void Operateur::demarre()
+{
+    const bool pret = m_programme.demarre();
+    exige(pret && m_boites.faute().isEmpty(), u"Le programme n'a pas démarré. "_qs + m_boites.faute());
+    exige(QTest::qWaitForWindowActive(fenetre(u"Accueil"_qs)), u"Accueil ne vient pas devant."_qs);
+}
+
 QWidget *Operateur::cible() const
 {
     QWidget *controle = QApplication::focusWidget();

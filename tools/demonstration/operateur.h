@@ -17,6 +17,8 @@ class Operateur
 public:
     Operateur(Programme &programme, BoitesPilotees &boites) : m_programme(programme), m_boites(boites) {}
 
+    /// Starts the program and waits for its welcome window.
+    void demarre();
     /// Control \p nom of the loaded form \p forme.
     template<typename T = QWidget>
     T *controle(const QString &forme, const QString &nom) const
