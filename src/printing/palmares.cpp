@@ -126,6 +126,13 @@ void palmares::Form_Load()
     grille.hide();
     m_ui->aucune->hide();
     m_avecNoms = 0;
+    // Also when a round cannot be read: what has been read so far stays on a form that can be seen.
+    const auto mesure = qScopeGuard([&] {
+        if (grille.isHidden())
+            disAucuneRencontre();
+        else
+            elargit(grille);
+    });
     for (int tour = 1; tour <= toursCharges && rencontres(tour, QString()) > 0; ++tour) {
         if (tour == 1) {
             effaceSelection(grille);
@@ -136,10 +143,6 @@ void palmares::Form_Load()
         }
         ajouteTour(grille, tour);
     }
-    if (grille.isHidden())
-        disAucuneRencontre();
-    else
-        elargit(grille);
 }
 
 /// Matches of a round that meet \p condition.
