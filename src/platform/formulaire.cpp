@@ -2,6 +2,7 @@
 
 #include "app/sauvegarde.h"
 #include "platform/formulaires.h"
+#include "platform/touches_alt.h"
 #include "platform/twips.h"
 
 #include <QAbstractButton>
@@ -242,6 +243,11 @@ bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
 {
     QWidget *controle = controleDe(objet);
     switch (evenement->type()) {
+    case QEvent::ToolTipChange:
+        // A picture says nothing to whoever cannot see it; its tool tip does, in the operator's language.
+        if (auto *bouton = qobject_cast<QAbstractButton *>(controle); bouton != nullptr && bouton->text().isEmpty())
+            bouton->setAccessibleName(bouton->toolTip());
+        break;
     case QEvent::KeyPress:
         if (toucheSurControle(controle, static_cast<QKeyEvent *>(evenement)))
             return true;
@@ -280,6 +286,16 @@ void Formulaire::mousePressEvent(QMouseEvent *evenement)
 void Formulaire::resizeEvent(QResizeEvent *)
 {
     execute([this] { Form_Resize(); });
+}
+
+void Formulaire::showEvent(QShowEvent *evenement)
+{
+    // The field inside a combo is what screen readers find when the focus is there.
+    const auto combos = findChildren<QComboBox *>();
+    for (const QComboBox *combo : combos)
+        if (combo->isEditable())
+            combo->lineEdit()->setAccessibleName(NomDuControle(*combo));
+    QWidget::showEvent(evenement);
 }
 
 void Formulaire::RedimForm()

@@ -102,7 +102,8 @@ protected:
     void surLostFocus(QWidget *controle, Traitement traitement);
     void surMouseDown(QWidget *controle, TraitementSouris traitement);
     void surDblClick(QWidget *controle, Traitement traitement);
-    /// Lets Enter click every button of the form; a held Enter clicks once. Called after the controls are made.
+    /// Lets Enter click every button of the form (a held Enter clicks once), and names picture buttons by their tool
+    /// tips. Called after the controls are made.
     void prepareControles();
 
     Partage &partage() const { return m_contexte.partage; }
@@ -120,6 +121,7 @@ protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
     void mousePressEvent(QMouseEvent *evenement) override;
     void resizeEvent(QResizeEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:
