@@ -6,6 +6,7 @@
 #include "platform/twips.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -235,8 +236,10 @@ bool Formulaire::toucheSurControle(QWidget *controle, QKeyEvent *evenement)
     const QWidget *avant = QApplication::focusWidget();
     const int maj = EtatMaj(evenement->modifiers());
     execute([&] { traitement(code, maj); });
-    // Enter is the program's own; any other key belongs to the control, unless the focus has gone elsewhere.
-    return code == Touche::Entree || avant != QApplication::focusWidget();
+    // Enter is the program's own, but for grids, where it is a click; any other key belongs to the control, unless the
+    // focus has gone elsewhere.
+    const bool grille = qobject_cast<QAbstractItemView *>(controle) != nullptr;
+    return (code == Touche::Entree && !grille) || avant != QApplication::focusWidget();
 }
 
 bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)

@@ -101,6 +101,7 @@ protected:
         prog.formulaires().DechargeTout();
         if (QStringList{u"manqres"_qs, u"valresu"_qs, u"Groupes"_qs, u"I_tirage"_qs, u"Détail_résultats"_qs}.contains(nom))
             prog.formulaires().Montre(u"EResultats"_qs);
+        prog.partage().AttendusAJour = false;
         if (nom == u"Groupes")
             prog.formulaires().Montre(u"manqres"_qs);
         Formulaire *forme = prog.formulaires().Charge(nom);
@@ -120,26 +121,117 @@ protected:
                              u"I_tirage"_qs,   u"palmares"_qs, u"Resusoc"_qs,  u"FrmHorloge"_qs, u"langues"_qs};
 };
 
-TEST_F(Lecture, Arbre)
+/// Place of a control on its window, for whoever reads it line by line: a control stands before another when it is
+/// above it, or on its left in the same line.
+bool seLitAvant(const QRect &a, const QRect &b)
 {
-    const std::function<void(QAccessibleInterface &, int)> visite = [&](QAccessibleInterface &lecture, int niveau) {
-        if (niveau > 4) return;
-        for (int i = 0; i < std::min(lecture.childCount(), 30); ++i) {
-            QAccessibleInterface *e = lecture.child(i);
-            if (e == nullptr || e->state().invisible) continue;
-            printf("%*s[%s] '%s' v='%s' d='%s' %s%s%s%s%s %s\n", niveau * 2, "", qPrintable(QVariant::fromValue(e->role()).toString().isEmpty()? QString::number(e->role(),16) : QString(QMetaEnum::fromType<QAccessible::Role>().valueToKey(e->role()))),
-                qPrintable(e->text(QAccessible::Name)), qPrintable(e->text(QAccessible::Value)), qPrintable(e->text(QAccessible::Description)),
-                e->state().disabled ? "dis " : "", e->state().checked ? "chk " : "", e->state().readOnly ? "ro " : "", e->state().focusable ? "foc " : "", e->state().offscreen?"off ":"",
-                e->object() ? qPrintable(e->object()->objectName()) : "");
-            visite(*e, niveau + 1);
-        }
-    };
+    const bool memeLigne = a.top() <= b.center().y() && b.top() <= a.center().y();
+    return memeLigne ? a.left() <= b.left() : a.top() <= b.top();
+}
+
+TEST_F(Lecture, ChaqueControleAUnNomUnRoleEtUnEtat)
+{
     for (const QString &nom : formes) {
-        QWidget *f = ouvre(nom);
-        printf("== %s %d\n", qPrintable(nom), f != nullptr);
-        if (f == nullptr) continue;
-        visite(*QAccessible::queryAccessibleInterface(f), 1);
-        for (const ToucheAlt &t : TouchesAlt(*f)) printf("   Alt+%s %s %d\n", qPrintable(QString(t.signe)), t.controle ? qPrintable(t.controle->objectName()) : "menu", t.duSysteme);
+        QWidget *forme = ouvre(nom);
+        ASSERT_NE(forme, nullptr) << nom.toStdString();
+        QStringList noms;
+        const std::vector<QAccessibleInterface *> lus = controles(*forme);
+        EXPECT_FALSE(lus.empty()) << nom.toStdString();
+        for (QAccessibleInterface *lu : lus) {
+            const auto &controle = *qobject_cast<QWidget *>(lu->object());
+            SCOPED_TRACE((nom + u'.' + controle.objectName()).toStdString());
+            EXPECT_NE(nomLu(*lu), QString());
+            EXPECT_FALSE(noms.contains(nomLu(*lu))) << nomLu(*lu).toStdString();
+            noms += nomLu(*lu);
+            EXPECT_EQ(lu->role(), roleVoulu(controle));
+            EXPECT_EQ(bool(lu->state().disabled), !controle.isEnabled());
+            if (const auto *bouton = qobject_cast<const QAbstractButton *>(&controle))
+                EXPECT_EQ(bool(lu->state().checked), bouton->isChecked());
+            if (const auto *texte = qobject_cast<const QPlainTextEdit *>(&controle))
+                EXPECT_EQ(bool(lu->state().readOnly), texte->isReadOnly());
+            if (const auto *combo = qobject_cast<const QComboBox *>(&controle); combo != nullptr && combo->isEditable())
+                EXPECT_EQ(combo->lineEdit()->accessibleName(), nomLu(*lu));
+        }
+    }
+}
+
+/// Tab follows the told order on the two forms that have one, and comes to the club of a player first; elsewhere, as the
+/// screen reader does, it goes from left to right and down, section by section.
+TEST_F(Lecture, OrdreDeLectureEtDesTabulations)
+{
+    const QHash<QString, QString> ordres{
+        {u"Econcours"_qs, u"référence Text2 Text3 Text4 Combo1 ok Supprimer Command1 text1 Check1 Dupliquer Check4"_qs},
+        {u"Eequipes"_qs, u"Société référence Equipe LicenceJ_0 NomJ_0 PrénomJ_0 LicenceJ_1 NomJ_1 PrénomJ_1 LicenceJ_2 "
+                         "NomJ_2 PrénomJ_2 NomJ_3 PrénomJ_3 LicenceJ_3 Okc SupprimerC cImport Command1 Command2"_qs}};
+    for (const QString &nom : formes) {
+        QWidget *forme = ouvre(nom);
+        const std::vector<QAccessibleInterface *> lus = controles(*forme);
+        const std::vector<QWidget *> tabulations = OrdreDesTabulations(*forme);
+        QStringList nomsTabulations;
+        for (const QWidget *controle : tabulations)
+            nomsTabulations += controle->objectName();
+        if (ordres.contains(nom))
+            EXPECT_EQ(nomsTabulations.join(u' '), ordres[nom]);
+        qsizetype rangTabulation = -1;
+        QRect precedent;
+        for (const QAccessibleInterface *lu : lus) {
+            const auto *controle = qobject_cast<const QWidget *>(lu->object());
+            SCOPED_TRACE((nom + u'.' + controle->objectName()).toStdString());
+            const QRect place(controle->mapTo(forme, QPoint()), controle->size());
+            const bool colonneSuivante = place.left() >= precedent.right();
+            EXPECT_TRUE(precedent.isNull() || colonneSuivante || seLitAvant(precedent, place));
+            precedent = place;
+            if (!lu->state().focusable)
+                continue;
+            const auto rang = std::ranges::find(tabulations, controle) - tabulations.begin();
+            ASSERT_LT(rang, std::ssize(tabulations)) << "out of reach of the Tab key";
+            if (!ordres.contains(nom) && nom != u"Ejoueurs")
+                EXPECT_GT(rang, rangTabulation);
+            rangTabulation = rang;
+        }
+    }
+}
+
+TEST_F(Lecture, LesGrillesDisentCeQuElesMontrent)
+{
+    const auto grille = [](QWidget *forme) {
+        return QAccessible::queryAccessibleInterface(forme->findChild<QTableView *>(u"les_resultats"_qs))->tableInterface();
+    };
+    QAccessibleTableInterface *joues = grille(ouvre(u"valresu"_qs));
+    ASSERT_EQ(joues->rowCount(), 1);
+    QStringList titres;
+    QStringList cellules;
+    for (int colonne = 0; colonne < joues->columnCount(); ++colonne) {
+        titres += joues->columnDescription(colonne);
+        cellules += joues->cellAt(0, colonne)->text(QAccessible::Name) + u' '
+            + joues->cellAt(0, colonne)->text(QAccessible::Description);
+    }
+    EXPECT_EQ(cellules.join(u'|'), u"1 |1 gagne|2 perd|13 |7 "_qs);
+    EXPECT_EQ(joues->cellAt(0, 3)->tableCellInterface()->columnHeaderCells().value(0)->text(QAccessible::Name),
+              u"Score 1"_qs);
+}
+
+TEST_F(Lecture, LesNomsEtLesTouchesSuiventLaLangue)
+{
+    const auto dit = [this](const QString &forme, const QString &nom) {
+        return NomDuControle(*ouvre(forme)->findChild<QWidget *>(nom));
+    };
+    for (int numero = 1; numero <= 6; ++numero) {
+        langue(numero);
+        const auto mes = [this](int i) { return prog.partage().mes(i); };
+        EXPECT_EQ(dit(u"Econcours"_qs, u"ok"_qs), mes(13));
+        EXPECT_EQ(dit(u"Econcours"_qs, u"text1"_qs), mes(127));
+        EXPECT_EQ(dit(u"Eequipes"_qs, u"LicenceJ_2"_qs), mes(21) + u" 3"_qs);
+        EXPECT_EQ(dit(u"EResultats"_qs, u"Score2"_qs), mes(25) + u',' + mes(108));
+        EXPECT_EQ(dit(u"EResultats"_qs, u"hit"_qs), mes(33));
+        EXPECT_EQ(dit(u"Listesoc"_qs, u"Liste_soc"_qs), mes(31));
+        for (const QString &nom : formes) {
+            QString pris;
+            for (const ToucheAlt &touche : TouchesAlt(*ouvre(nom))) {
+                EXPECT_FALSE(pris.contains(touche.signe)) << nom.toStdString() << ' ' << numero;
+                pris += touche.signe;
+            }
+        }
     }
 }
 

@@ -117,24 +117,86 @@ TEST_F(Clavier, UneJourneeEntiere)
     touches({Qt::Key_F10, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return});
     ASSERT_EQ(fenetre(), u"EResultats"_qs);
     alt(u"tirage_suivant"_qs);
-    printf("focus %s %s %s\n", qPrintable(prog.focus()), qPrintable(texte(u"Label2"_qs)), qPrintable(texte(u"tour_P1"_qs)));
     joueTour(1);
-    printf("focus %s %s %s\n", qPrintable(prog.focus()), qPrintable(texte(u"Label2"_qs)), qPrintable(texte(u"tour_P1"_qs)));
+    EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
     alt(u"tirage_suivant"_qs);
-    printf("focus %s %s %s\n", qPrintable(prog.focus()), qPrintable(texte(u"Label2"_qs)), qPrintable(texte(u"tour_P1"_qs)));
+    EXPECT_EQ(texte(u"Label2"_qs), u"Tour N° 2"_qs);
+
+    // The sheets: the dialog is filled with the keyboard, and the choice of a printer given up.
+    alt(u"imprimer"_qs);
+    ASSERT_EQ(fenetre(), u"I_tirage"_qs);
+    alt(u"Option1"_qs);
+    prog.boites.attend(u"Impression annulée"_qs);
+    alt(u"Imprime"_qs);
+    alt(u"sortie"_qs);
+    ASSERT_EQ(fenetre(), u"EResultats"_qs);
+
+    // The views leave the keyboard to the entry; F6 goes round through them.
     alt(u"manquants"_qs);
-    printf("fenetre %s\n", qPrintable(fenetre()));
     alt(u"VALIDATION"_qs);
-    printf("fenetre %s\n", qPrintable(fenetre()));
-    for (int i = 0; i < 5; ++i) {
+    ASSERT_EQ(fenetre(), u"EResultats"_qs);
+    QStringList vues;
+    for (int i = 0; i < 4; ++i) {
         touche(Qt::Key_F6);
-        printf("fenetre %s focus %s\n", qPrintable(fenetre()), qPrintable(prog.focus()));
+        vues += fenetre();
     }
+    vues.sort();
+    EXPECT_EQ(vues.join(u' '), u"EResultats Groupes manqres valresu"_qs);
+    while (fenetre() != u"EResultats")
+        touche(Qt::Key_F6, Qt::ShiftModifier);
     joueTour(2);
-    printf("focus %s %s %s\n", qPrintable(prog.focus()), qPrintable(texte(u"Label2"_qs)), qPrintable(texte(u"tour_P1"_qs)));
+    EXPECT_EQ(texte(u"tour_P1"_qs), u"Concours terminé"_qs);
+
     alt(u"hit"_qs);
-    printf("fenetre %s focus %s\n", qPrintable(fenetre()), qPrintable(prog.focus()));
+    ASSERT_EQ(fenetre(), u"palmares"_qs);
+    const auto *grille = QApplication::activeWindow()->findChild<FlexGrid *>(u"Thonneur_1"_qs);
+    alt(u"Thonneur_1"_qs);
     touches({Qt::Key_Down, Qt::Key_Down});
+    touche(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(std::pair(grille->Row(), grille->RowSel()), std::pair(2, 3));
+    prog.boites.attend(u"Impression annulée"_qs);
+    alt(u"imprimer"_qs);
+    prog.boites.verifie();
+}
+
+/// What a click does in a grid, Enter does on its current row, and the menu key what a right click does.
+TEST_F(Clavier, LesGrillesSeCliquentAuClavier)
+{
+    const qint32 concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+    poseRencontres(prog.base(), concours, {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 7}});
+    touches({Qt::Key_F10, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return});
+    alt(u"VALIDATION"_qs);
+    touches({Qt::Key_F6, Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(fenetre(), u"EResultats"_qs);
+    EXPECT_EQ(prog.controle<QLineEdit>(u"EResultats"_qs, u"Score2"_qs)->text(), u"7"_qs);
+
+    alt(u"hit"_qs);
+    const auto *grille = QApplication::activeWindow()->findChild<FlexGrid *>(u"Thonneur_1"_qs);
+    alt(u"Thonneur_1"_qs);
+    touches({Qt::Key_Down, Qt::Key_Right});
+    EXPECT_EQ(grille->Text(), u"  1 (A)  bat   2 (B) "_qs);
+    touche(Qt::Key_Menu);
+    EXPECT_EQ(grille->TextMatrix(1, 1), u"  1 Joueur 1 C (A)  bat   2 Joueur 2 C (B) "_qs);
+    touches({Qt::Key_Down, Qt::Key_Right});
+    touche(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(fenetre(), u"Resusoc"_qs);
+}
+
+/// While Alt is held the letters stand over the controls; the key that follows takes them away.
+TEST_F(Clavier, LesLettresSeMontrentTantQueAltEstTenue)
+{
+    touches({Qt::Key_F10, Qt::Key_Return});
+    QWidget *forme = QApplication::activeWindow();
+    const auto etiquettes = [forme] { return forme->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).size(); };
+    const qsizetype sans = etiquettes();
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return etiquettes() == sans + 1; }));
+    alt(u"Text4"_qs);
+    EXPECT_EQ(etiquettes(), sans);
+    EXPECT_EQ(prog.focus(), u"Text4"_qs);
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
+    QTest::qWait(300);
+    EXPECT_EQ(etiquettes(), sans);
 }
 
 } // namespace
