@@ -7,18 +7,18 @@
 
 namespace {
 
-/// A picture that shows a value.
+/// A picture that shows a value. It is told as its description too: desktops look for the value of a picture nowhere.
 class DessinLisible final : public QAccessibleWidget
 {
 public:
-    DessinLisible(QWidget *dessin, QAccessible::Role role)
-        : QAccessibleWidget(dessin, role)
+    explicit DessinLisible(QWidget *dessin)
+        : QAccessibleWidget(dessin, QAccessible::Graphic)
     {
     }
 
     QString text(QAccessible::Text demande) const override
     {
-        if (demande != QAccessible::Value)
+        if (demande != QAccessible::Value && demande != QAccessible::Description)
             return QAccessibleWidget::text(demande);
         if (const auto *rouleau = qobject_cast<const Rouleau *>(widget()))
             return QString::number(rouleau->figureMontree());
@@ -30,11 +30,8 @@ public:
 QAccessibleInterface *fabrique(const QString &classe, QObject *objet)
 {
     auto *dessin = qobject_cast<QWidget *>(objet);
-    if (dessin == nullptr)
-        return nullptr;
-    if (classe == u"Cadran")
-        return new DessinLisible(dessin, QAccessible::Clock);
-    return classe == u"Rouleau" ? new DessinLisible(dessin, QAccessible::Graphic) : nullptr;
+    const bool lisible = dessin != nullptr && (classe == u"Cadran" || classe == u"Rouleau");
+    return lisible ? new DessinLisible(dessin) : nullptr;
 }
 
 } // namespace
