@@ -6,6 +6,7 @@
 #include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
 #include "maintenance/alerte.h"
+#include "platform/acces_clavier.h"
 #include "printing/i_tirage.h"
 #include "printing/palmares.h"
 #include "printing/resusoc.h"
@@ -74,6 +75,7 @@ bool Programme::demarre()
     const Contexte contexte{m_partage, m_formulaires, m_boites};
     m_torvik = std::make_unique<Torvik>(contexte);
     m_formulaires.prepare(contexte, m_torvik.get());
+    m_clavier = std::make_unique<AccesClavier>(*m_torvik, m_boites);
     try {
         m_torvik->Form_Load();
     } catch (const store::Erreur &erreur) {
@@ -90,6 +92,7 @@ void Programme::termine()
 {
     if (m_torvik != nullptr)
         m_torvik->close();
+    m_clavier.reset();
     m_torvik.reset();
 }
 

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class AccesClavier;
 class Torvik;
 
 /// The whole program of one run: shared state, forms and main window, put together.
@@ -34,6 +35,7 @@ private:
     Boites &m_boites;
     Formulaires m_formulaires;
     std::unique_ptr<Torvik> m_torvik;
+    std::unique_ptr<AccesClavier> m_clavier;
 };
 
 /// Keeps a second program away from the base of one folder. The guard goes with the process, however it ends.

@@ -13,6 +13,7 @@ public:
     explicit Cadran(QWidget *parent = nullptr);
 
     void montre(QTime heure);
+    QTime heure() const { return m_heure; }
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;

@@ -1,6 +1,7 @@
 #include "clock/frmhorloge.h"
 
 #include "app/routines.h"
+#include "clock/acces_horloge.h"
 #include "platform/formulaires.h"
 #include "platform/son.h"
 #include "ui_frmhorloge.h"
@@ -34,6 +35,7 @@ FrmHorloge::FrmHorloge(const Contexte &contexte, QWidget *parent)
     , m_alarme(contexte.partage.HeureAlarme)
     , m_loterie(contexte.partage.Tirages, contexte.partage.RestantTirages)
 {
+    RendLisibleHorloge();
     m_ui->setupUi(this);
     setFixedSize(size());
     m_ui->Maxvaleur->setValidator(new QRegularExpressionValidator(QRegularExpression(u"[0-9]*"_qs), this));

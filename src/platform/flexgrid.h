@@ -11,6 +11,8 @@
 ///
 /// Rows and columns that do not exist are a fault of the caller: asserted, and passed over in a release build.
 /// Changes show when the program next returns to its event loop, all at once.
+///
+/// Enter is a click on the end of the selection, and the menu key (or Shift and F10) a right click there.
 class FlexGrid : public QTableView
 {
     Q_OBJECT
@@ -89,6 +91,10 @@ public:
     /// Whether a cell stands in bold; the selection stays.
     bool CellFontBold(int ligne, int colonne) const;
     void setCellFontBold(int ligne, int colonne, bool gras);
+    /// What a back colour tells, for whoever has the grid read aloud.
+    void setSensCouleur(quint32 bgr, const QString &sens) { m_modele->fixeSens(bgr, sens); }
+    /// Heading of a column as it is read aloud, where the one shown is blank or cut short.
+    void setTitreLu(int colonne, const QString &titre) { m_modele->fixeTitreLu(colonne, titre); }
     /// Width in twips of a column that shows \p texte whole.
     int LargeurTexte(const QString &texte, bool gras = false) const;
 
@@ -140,6 +146,7 @@ private:
     void appliqueLargeurs();
     void noteSouris(const QPoint &point);
     void suitBoutonGauche(const QMouseEvent &evenement);
+    void clicAuClavier(const QKeyEvent &evenement);
 
     FlexGridModele *m_modele;
     FlexGridModele::Comparaison m_compare;

@@ -229,6 +229,8 @@ QVariant FlexGridModele::data(const QModelIndex &index, int role) const
         return cellule.fond == FondParDefaut ? QVariant() : QVariant(QBrush(encreSur(couleurEcran(cellule.fond))));
     case Qt::FontRole:
         return cellule.gras ? QVariant(policeGrasse()) : QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return m_sens.contains(cellule.fond) ? m_sens.at(cellule.fond) : QString();
     default:
         return {};
     }
@@ -240,6 +242,8 @@ QVariant FlexGridModele::headerData(int section, Qt::Orientation orientation, in
         return {};
     if (role == Qt::DisplayRole)
         return m_lignes.front()[size_t(section)].texte.trimmed();
+    if (role == Qt::AccessibleTextRole)
+        return m_titresLus.contains(section) ? m_titresLus.at(section) : QString();
     if (role == Qt::TextAlignmentRole) {
         const bool generique = m_alignements[size_t(section)] == u' ';
         return QVariant::fromValue(generique ? Qt::Alignment(Qt::AlignCenter) : alignement(section, {}));

@@ -4,6 +4,7 @@
 #include <QColor>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 /// Cells of a FlexGrid: texts, back colours, weight and column alignments. Rows are counted as the grid counts them, the
@@ -45,6 +46,9 @@ public:
     void fixeFond(int ligne, int colonne, quint32 fond);
     bool gras(int ligne, int colonne) const { return m_lignes[size_t(ligne)][size_t(colonne)].gras; }
     void fixeGras(int ligne, int colonne, bool gras);
+    /// What screen readers say of a back colour, and in the place of a heading.
+    void fixeSens(quint32 fond, const QString &sens) { m_sens[fond] = sens; }
+    void fixeTitreLu(int colonne, const QString &titre) { m_titresLus[colonne] = titre; }
     /// Alignment of a column: '<', '^', '>', or a blank for texts to the left and numbers to the right.
     void fixeAlignement(int colonne, char16_t signe);
 
@@ -85,6 +89,8 @@ private:
 
     std::vector<Ligne> m_lignes;
     std::vector<char16_t> m_alignements;
+    std::map<quint32, QString> m_sens;
+    std::map<int, QString> m_titresLus;
     int m_colonnes = 1;
     bool m_enAttente = false;
 };

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -154,5 +155,26 @@ void FlexGrid::keyPressEvent(QKeyEvent *evenement)
         synchronise();
         scrollTo(apres);
     }
-    Q_EMIT touche(evenement);
+    const QPointer<FlexGrid> vivante = this;
+    clicAuClavier(*evenement);
+    if (vivante != nullptr)
+        Q_EMIT touche(evenement);
+}
+
+void FlexGrid::clicAuClavier(const QKeyEvent &evenement)
+{
+    const int cle = evenement.key();
+    const bool gauche = cle == Qt::Key_Return || cle == Qt::Key_Enter;
+    const bool droite = cle == Qt::Key_Menu
+        || (cle == Qt::Key_F10 && evenement.modifiers().testFlag(Qt::ShiftModifier));
+    if ((!gauche && !droite) || m_rowSel < 1 || evenement.isAutoRepeat())
+        return;
+    const QPointer<FlexGrid> vivante = this;
+    const Qt::MouseButton bouton = gauche ? Qt::LeftButton : Qt::RightButton;
+    const Qt::KeyboardModifiers avec = evenement.modifiers() & Qt::ControlModifier;
+    m_mouseRow = m_rowSel;
+    m_mouseCol = m_colSel;
+    Q_EMIT mousePresse(bouton, avec, m_mouseRow, m_mouseCol);
+    if (vivante != nullptr)
+        Q_EMIT mouseRelache(bouton, avec, m_mouseRow, m_mouseCol);
 }

@@ -2,9 +2,11 @@
 
 #include "app/sauvegarde.h"
 #include "platform/formulaires.h"
+#include "platform/touches_alt.h"
 #include "platform/twips.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -241,8 +243,10 @@ bool Formulaire::toucheSurControle(QWidget *controle, QKeyEvent *evenement)
     const QWidget *avant = QApplication::focusWidget();
     const int maj = EtatMaj(evenement->modifiers());
     execute([&] { traitement(code, maj); });
-    // Enter is the program's own; any other key belongs to the control, unless the focus has gone elsewhere.
-    return code == Touche::Entree || avant != QApplication::focusWidget();
+    // Enter is the program's own, but for grids, where it is a click; any other key belongs to the control, unless the
+    // focus has gone elsewhere.
+    const bool grille = qobject_cast<QAbstractItemView *>(controle) != nullptr;
+    return (code == Touche::Entree && !grille) || avant != QApplication::focusWidget();
 }
 
 /// Wheel and arrows would walk through competitions and teams under the operator's hand, each one read as if picked.
@@ -268,6 +272,11 @@ bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
     if (retientListe(controle, *evenement))
         return true;
     switch (evenement->type()) {
+    case QEvent::ToolTipChange:
+        // A picture says nothing to whoever cannot see it; its tool tip does, in the operator's language.
+        if (auto *bouton = qobject_cast<QAbstractButton *>(controle); bouton != nullptr && bouton->text().isEmpty())
+            bouton->setAccessibleName(bouton->toolTip());
+        break;
     case QEvent::KeyPress:
         if (toucheSurControle(controle, static_cast<QKeyEvent *>(evenement)))
             return true;
@@ -312,6 +321,16 @@ void Formulaire::mousePressEvent(QMouseEvent *evenement)
 void Formulaire::resizeEvent(QResizeEvent *)
 {
     execute([this] { Form_Resize(); });
+}
+
+void Formulaire::showEvent(QShowEvent *evenement)
+{
+    // The field inside a combo is what screen readers find when the focus is there.
+    const auto combos = findChildren<QComboBox *>();
+    for (const QComboBox *combo : combos)
+        if (combo->isEditable())
+            combo->lineEdit()->setAccessibleName(NomDuControle(*combo));
+    QWidget::showEvent(evenement);
 }
 
 void Formulaire::RedimForm()

@@ -106,7 +106,8 @@ protected:
     void surLostFocus(QWidget *controle, Traitement traitement);
     void surMouseDown(QWidget *controle, TraitementSouris traitement);
     void surDblClick(QWidget *controle, Traitement traitement);
-    /// Lets Enter click every button of the form; a held Enter clicks once. Called after the controls are made.
+    /// Lets Enter click every button of the form (a held Enter clicks once), and names picture buttons by their tool
+    /// tips. Called after the controls are made.
     void prepareControles();
 
     Partage &partage() const { return m_contexte.partage; }
@@ -125,6 +126,7 @@ protected:
     void focusInEvent(QFocusEvent *evenement) override;
     void mousePressEvent(QMouseEvent *evenement) override;
     void resizeEvent(QResizeEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:

@@ -1,5 +1,7 @@
 #include "platform/formulaires.h"
 
+#include "platform/roles_acces.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QMouseEvent>
@@ -24,6 +26,7 @@ Formulaires::Formulaires(QObject *parent)
 {
     connect(qApp, &QApplication::focusChanged, this, &Formulaires::focusChange);
     qApp->installEventFilter(this);
+    DonneRolesAcces();
 }
 
 Formulaires::~Formulaires()

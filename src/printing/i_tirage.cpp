@@ -64,8 +64,12 @@ void I_tirage::Form_Unload()
 /// No sheet is chosen: the operator must pick one first.
 void I_tirage::effaceChoix()
 {
-    m_ui->Option1->setChecked(false);
-    m_ui->Option3->setChecked(false);
+    for (QRadioButton *option : {m_ui->Option1, m_ui->Option3}) {
+        // Options of a group do not let themselves be cleared all.
+        option->setAutoExclusive(false);
+        option->setChecked(false);
+        option->setAutoExclusive(true);
+    }
     QWidget *const controles[] = {m_ui->Imprime, m_ui->D_tail, m_ui->Label2, m_ui->Tour, m_ui->Label1, m_ui->Label3};
     for (QWidget *controle : controles)
         controle->hide();

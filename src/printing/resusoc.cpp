@@ -61,6 +61,11 @@ void Resusoc::propose(int tableau, const QString &equipe1, const QString &equipe
 {
     poseEquipe(*m_ui->Option1, *m_ui->Option3, equipe1);
     poseEquipe(*m_ui->Option2, *m_ui->Option4, equipe2);
+    // Read aloud, an option tells what its heading shows; two teams can be of one club.
+    m_ui->Option1->setAccessibleName(mes(36) + u" 1 : "_qs + deLegende(*m_ui->Option1));
+    m_ui->Option2->setAccessibleName(mes(36) + u" 2 : "_qs + deLegende(*m_ui->Option2));
+    m_ui->Option3->setAccessibleName(mes(18) + u" 1 : "_qs + deLegende(*m_ui->Option3));
+    m_ui->Option4->setAccessibleName(mes(18) + u" 2 : "_qs + deLegende(*m_ui->Option4));
     m_ui->tableau->setText(QString::number(tableau));
     m_ui->Option1->setChecked(true);
 }

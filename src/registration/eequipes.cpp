@@ -70,6 +70,12 @@ void Eequipes::LegendesEequipes()
     m_ui->Label3->setText(mes(19));
     m_ui->Label4->setText(mes(20));
     m_ui->Label5->setText(mes(21));
+    for (std::size_t i = 0; i < m_LicenceJ.size(); ++i) {
+        const QString rang = u' ' + QString::number(i + 1);
+        m_LicenceJ[i]->setAccessibleName(mes(21) + rang);
+        m_NomJ[i]->setAccessibleName(mes(19) + rang);
+        m_PrénomJ[i]->setAccessibleName(mes(20) + rang);
+    }
     m_ui->Command1->setToolTip(mes(11));
     m_ui->cImport->setToolTip(mes(22));
     m_ui->Okc->setToolTip(mes(13));

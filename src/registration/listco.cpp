@@ -20,6 +20,7 @@ void Listco::LegendesListco()
 {
     FenetreDessus(*this, false);
     setWindowTitle(mes(29));
+    m_ui->Liste_c->setAccessibleName(mes(29));
 }
 
 QString Listco::format() const

@@ -52,6 +52,7 @@ void listeq::Form_Load()
 void listeq::LegendesListeq()
 {
     FenetreDessus(*this, false);
+    m_ui->Les_équipes->setAccessibleName(mes(30));
     setWindowTitle(mes(30) + u" - "_qs + mes(1) + u' ' + ZeroPad(partage().ConcoursCourant, largeurConcours));
 }
 

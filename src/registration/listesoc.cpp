@@ -52,6 +52,7 @@ void Listesoc::LegendesListesoc()
 {
     FenetreDessus(*this, false);
     setWindowTitle(mes(31));
+    m_ui->Liste_soc->setAccessibleName(mes(31));
 }
 
 void Listesoc::Form_Load()

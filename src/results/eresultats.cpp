@@ -68,6 +68,10 @@ void EResultats::LegendesResultats()
     setWindowTitle(mes(23));
     m_ui->Label1->setText(mes(1));
     m_ui->Label4->setText(equipe1 + QString(largeurEquipe1 - equipe1.size(), u' ') + u'-' + mes(25));
+    m_ui->Equipe1->setAccessibleName(mes(24));
+    m_ui->Equipe2->setAccessibleName(mes(25));
+    m_ui->Score1->setAccessibleName(mes(24) + u',' + mes(108));
+    m_ui->Score2->setAccessibleName(mes(25) + u',' + mes(108));
     m_ui->manquants->setToolTip(mes(26));
     m_ui->VALIDATION->setToolTip(mes(27));
     m_ui->hit->setToolTip(mes(33));

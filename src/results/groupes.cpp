@@ -5,6 +5,7 @@
 #include "ui_groupes.h"
 
 #include <QTabBar>
+#include <QToolButton>
 
 namespace {
 
@@ -21,6 +22,10 @@ Groupes::Groupes(const Contexte &contexte, QWidget *parent)
     m_ui->setupUi(this);
     m_grilles.front() = m_ui->les_resultats_0;
     prepareControles();
+    // The arrow keys change the tab; its two scroll buttons are for the mouse.
+    const auto defilement = m_ui->TabStrip1->findChildren<QToolButton *>();
+    for (QToolButton *bouton : defilement)
+        bouton->setFocusPolicy(Qt::NoFocus);
     setFixedSize(size());
     connect(m_ui->TabStrip1, &QTabBar::currentChanged, this, [this] { execute([this] { TabStrip1_Click(); }); });
     connect(m_ui->TabStrip1, &QTabBar::tabBarClicked, this, [this] { rendClavier(); });
@@ -88,6 +93,8 @@ void Groupes::fixeOnglets(int nombre)
 void Groupes::legende(int onglet, const QString &texte)
 {
     m_ui->TabStrip1->setTabText(onglet - 1, texte);
+    // Outside French the tab shows no text; the count of wins still tells it from the others.
+    m_ui->TabStrip1->setAccessibleTabName(onglet - 1, texte.isEmpty() ? QString::number(onglet - 1) : texte);
 }
 
 void Groupes::choisit(int onglet)

@@ -22,6 +22,9 @@ manqres::manqres(const Contexte &contexte, QWidget *parent)
 {
     m_ui->setupUi(this);
     prepareControles();
+    grille(0).setSensCouleur(grille::rouge, u"pas encore lancée"_qs);
+    for (const int equipe : {1, 2})
+        grille(0).setTitreLu(equipe + 2, u"Score %1"_qs.arg(equipe));
     for (const int index : {0, 1})
         surPression(&grille(index), [this, index](int bouton, int ligne, int colonne) {
             les_resultats_MouseDown(index, bouton, ligne, colonne);

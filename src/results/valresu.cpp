@@ -27,6 +27,10 @@ valresu::valresu(const Contexte &contexte, QWidget *parent)
 {
     m_ui->setupUi(this);
     prepareControles();
+    m_ui->les_resultats->setSensCouleur(grille::vert, u"gagne"_qs);
+    m_ui->les_resultats->setSensCouleur(grille::rouge, u"perd"_qs);
+    for (const int equipe : {1, 2})
+        m_ui->les_resultats->setTitreLu(equipe + 2, u"Score %1"_qs.arg(equipe));
     surPression(m_ui->les_resultats,
                 [this](int bouton, int ligne, int colonne) { les_resultats_MouseDown(bouton, ligne, colonne); });
 }
