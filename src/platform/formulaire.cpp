@@ -2,6 +2,7 @@
 
 #include "app/sauvegarde.h"
 #include "platform/formulaires.h"
+#include "platform/sablier.h"
 #include "platform/twips.h"
 
 #include <QAbstractButton>
@@ -173,6 +174,7 @@ void Formulaire::surClick(QAction *action, Traitement traitement)
 
 void GardeUneCopie(const Contexte &contexte)
 {
+    const Sablier sablier;
     if (const QString echec = SauveBase(contexte.partage); !echec.isEmpty())
         contexte.boites.MsgBox(echec, vbExclamation);
 }

@@ -1,6 +1,7 @@
 #include "printing/palmares.h"
 
 #include "app/routines.h"
+#include "maintenance/patience.h"
 #include "platform/flexgrid.h"
 #include "platform/formulaires.h"
 #include "platform/twips.h"
@@ -126,6 +127,7 @@ void palmares::Form_Load()
     grille.hide();
     m_ui->aucune->hide();
     m_avecNoms = 0;
+    PatienceTardive patience(contexte(), mes(130));
     for (int tour = 1; tour <= toursCharges && rencontres(tour, QString()) > 0; ++tour) {
         if (tour == 1) {
             effaceSelection(grille);
@@ -135,6 +137,7 @@ void palmares::Form_Load()
             prepareGrille(grille);
         }
         ajouteTour(grille, tour);
+        patience.avance(grille.Rows() - 1);
     }
     if (grille.isHidden())
         disAucuneRencontre();
@@ -220,6 +223,7 @@ void palmares::reconstruit(int Index)
     m_avecNoms ^= 1;
     FlexGrid &grille = Thonneur(Index);
     const QString duTableau = u" and tableau = "_qs + QString::number(Index);
+    PatienceTardive patience(contexte(), mes(130));
     int tour = 1;
     for (; tour <= toursReconstruits && rencontres(tour, duTableau) > 0; ++tour) {
         if (tour == 1) {
@@ -228,6 +232,7 @@ void palmares::reconstruit(int Index)
             prepareGrille(grille);
         }
         ajouteTour(grille, tour);
+        patience.avance(grille.Rows() - 1);
     }
     if (tour > 1)
         elargit(grille);

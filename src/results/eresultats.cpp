@@ -4,6 +4,7 @@
 #include "app/routines.h"
 #include "engine/routines_tirage.h"
 #include "platform/formulaires.h"
+#include "platform/sablier.h"
 #include "platform/twips.h"
 #include "ui_eresultats.h"
 
@@ -219,6 +220,7 @@ void EResultats::tirage_suivant_Click()
         return;
     m_tirageEnCours = true;
     const auto fin = qScopeGuard([this] { m_tirageEnCours = false; });
+    const Sablier sablier;
     formulaires().Decharge(u"Groupes"_qs);
     LanceTourSuivant(partage(), *this);
 

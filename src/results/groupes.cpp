@@ -88,6 +88,7 @@ void Groupes::fixeOnglets(int nombre)
 void Groupes::legende(int onglet, const QString &texte)
 {
     m_ui->TabStrip1->setTabText(onglet - 1, texte);
+    m_ui->TabStrip1->setTabToolTip(onglet - 1, mes(167) + QString::number(onglet - 1));
 }
 
 void Groupes::choisit(int onglet)
