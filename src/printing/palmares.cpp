@@ -15,6 +15,7 @@
 
 namespace {
 
+constexpr int debordChoix = 8; // pixels
 constexpr int toursCharges = 14;
 constexpr int toursReconstruits = 15; ///< One further than the load.
 
@@ -207,6 +208,16 @@ void palmares::disAucuneRencontre()
     m_ui->aucune->adjustSize();
     m_ui->aucune->move(width() / 2, height() / 2);
     m_ui->aucune->show();
+}
+
+/// The two rows of choices stand too close for a hurried hand: a press just above the upper row is one on it.
+void palmares::Form_MouseDown(int bouton, int, int x, int y)
+{
+    const QPoint presse(enPixels(x), enPixels(y));
+    for (QAbstractButton *choix : std::initializer_list<QAbstractButton *>{m_ui->Option1, m_ui->typedit}) {
+        if (bouton == Bouton::Gauche && choix->geometry().adjusted(0, -debordChoix, 0, 0).contains(presse))
+            choix->click();
+    }
 }
 
 void palmares::Thonneur_MouseDown(int Index, int Button, int Shift)
