@@ -218,7 +218,7 @@ void FlexGrid::setColWidth(int colonne, int twips)
         return;
     m_largeurs[size_t(colonne)] = twips < 0 ? LargeurInitiale : twips;
     if (!m_modele->enAttente())
-        setColumnWidth(colonne, enPixels(m_largeurs[size_t(colonne)]));
+        setColumnWidth(colonne, largeurVoulue(colonne));
 }
 
 int FlexGrid::RowHeight() const

@@ -6,7 +6,6 @@
 namespace {
 
 constexpr int dureeImpatience = 300; // ms; a shorter wait is no reason for a second click
-constexpr int delaiClics = 50; // ms in which the clicks of the wait come in
 
 /// Takes the presses of the mouse on their way to the windows.
 class AvaleClics final : public QObject
@@ -16,7 +15,8 @@ public:
         : QObject(qApp)
     {
         qApp->installEventFilter(this);
-        QTimer::singleShot(delaiClics, this, &QObject::deleteLater);
+        // The window system hands over what it holds before an idle timer runs.
+        QTimer::singleShot(0, this, [this] { delete this; });
     }
 
 protected:

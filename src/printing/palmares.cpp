@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int debordChoix = 8; // pixels
+constexpr int etroitesse = 90; // percent
 constexpr int toursCharges = 14;
 constexpr int toursReconstruits = 15; ///< One further than the load.
 
@@ -92,6 +93,12 @@ palmares::palmares(const Contexte &contexte, QWidget *parent)
 {
     m_ui->setupUi(this);
     prepareControles();
+    // The choices stand in columns that are narrow for letters of a readable height.
+    for (QWidget *choix : std::initializer_list<QWidget *>{m_ui->Option1, m_ui->detail, m_ui->typedit}) {
+        QFont etroite = choix->font();
+        etroite.setStretch(etroitesse);
+        choix->setFont(etroite);
+    }
     connect(m_ui->Thonneur_1, &FlexGrid::mousePresse, this,
             [this](Qt::MouseButton bouton, Qt::KeyboardModifiers touches) {
                 execute([&] { Thonneur_MouseDown(1, CodeBouton(bouton), EtatMaj(touches)); });
