@@ -24,6 +24,10 @@ void ChargeLangue(Partage &partage)
 
     store::Recordset textes = partage.BaseDonnees.OpenRecordset(u"select * from [langues] where lang = "_qs
                                                                 + QString::number(partage.LangueCourante));
-    for (; !textes.Eof(); textes.MoveNext())
+    for (; !textes.Eof(); textes.MoveNext()) {
+        if (textes[u"mes"].estNull())
+            throw store::Erreur(store::Erreur::ValeurNulle,
+                                u"Le message %1 n'a pas de texte."_qs.arg(textes[u"num"].texte()));
         partage.mes.pose(int(textes[u"num"].entier()), textes[u"mes"].texte());
+    }
 }

@@ -56,6 +56,7 @@ struct Partage
     QDateTime HeureAlarme;
 
     // Results
+    bool ScoreReel = true; ///< The score in hand was typed, not given by a double click.
     bool AttendusAJour = false;
     bool JouesAJour = false;
     bool ClicGrille = true;

@@ -21,8 +21,7 @@ QString LibellePluriel(const Partage &partage, double nombre, const QString &mot
 {
     if (partage.LangueCourante != 1)
         return {};
-    const QString blanc = mot.startsWith(u' ') ? QString() : u" "_qs;
-    return FormateNombre(nombre) + blanc + mot + (nombre > 1 ? u"s"_qs : QString());
+    return FormateNombre(nombre) + u' ' + mot + (nombre > 1 ? u"s"_qs : QString());
 }
 
 QString TexteScore(const Partage &partage, const store::Valeur &score)

@@ -10,7 +10,7 @@ inline const QString versionProgramme = u"V0.0.1"_qs;
 QString ZeroPad(const QString &valeur, int largeur);
 QString ZeroPad(qint64 valeur, int largeur);
 
-/// "\p nombre\p mot", with an s behind the word when \p nombre is above 1. Empty in any language but French: its
+/// \p nombre, a blank, \p mot, and an s behind the word when \p nombre is above 1. Empty in any language but French: its
 /// plurals cannot be made by an s.
 QString LibellePluriel(const Partage &partage, double nombre, const QString &mot);
 

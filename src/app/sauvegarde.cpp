@@ -63,6 +63,12 @@ QString phrase(const QString &cause)
 
 } // namespace
 
+void PrepareSauvegardes(Partage &partage)
+{
+    if (partage.AvecCopies)
+        partage.BaseDonnees.native().prepareCopies(motDePasseBase);
+}
+
 QString SauveBase(Partage &partage)
 {
     if (!partage.AvecCopies || !partage.BaseDonnees.estOuverte()
@@ -79,7 +85,8 @@ QString SauveBase(Partage &partage)
     retireLesRestes(dossier);
     QString cause;
     try {
-        partage.BaseDonnees.native().copieVers(provisoire, motDePasseBase);
+        PrepareSauvegardes(partage);
+        partage.BaseDonnees.native().copieVers(provisoire);
         if (!QFile::rename(provisoire, dossier.filePath(nom + finNom)))
             cause = u"le fichier ne peut pas être nommé."_qs;
     } catch (const store::Erreur &erreur) {

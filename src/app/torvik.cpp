@@ -4,6 +4,7 @@
 #include "app/langue.h"
 #include "app/langues.h"
 #include "app/routines.h"
+#include "app/sauvegarde.h"
 #include "maintenance/import_listes.h"
 #include "maintenance/purge.h"
 #include "platform/formulaires.h"
@@ -13,10 +14,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QToolButton>
+
+#include <stdexcept>
 
 namespace {
 
@@ -124,15 +128,27 @@ void Torvik::ouvreBase()
     }
 }
 
+/// A base keeps its texts for years: those that this version reads and that it lacks are added.
+void Torvik::completeMessages()
+{
+    QFile complement(u":/complement.sql"_qs);
+    if (!complement.open(QIODevice::ReadOnly))
+        throw std::logic_error("The program was built without its messages.");
+    m_contexte.partage.BaseDonnees.native().executeScript(QString::fromUtf8(complement.readAll()));
+}
+
 void Torvik::Form_Load()
 {
     Partage &partage = m_contexte.partage;
     ouvreBase();
+    PrepareSauvegardes(partage);
+    completeMessages();
     ChargeLangue(partage);
     LegendesTorvik();
     GardeUneCopie(m_contexte);
-    setGeometry(screen()->geometry());
-    show();
+    // A desktop keeps its bars and the window's own title in sight; without one the whole screen is taken.
+    setGeometry(QGuiApplication::primaryScreen()->geometry());
+    showMaximized();
     m_contexte.formulaires.Montre(u"Accueil"_qs);
 }
 
@@ -230,6 +246,9 @@ void Torvik::Form_Click()
 
 void Torvik::mousePressEvent(QMouseEvent *evenement)
 {
+    // A button hands on the presses that are not its own; they are no presses on the window.
+    if (qobject_cast<QAbstractButton *>(childAt(evenement->position().toPoint())) != nullptr)
+        return;
     if (evenement->button() == Qt::RightButton) {
         QAction *const menus[] = {m_ui->Mnu_concours, m_ui->Equipes->menuAction(), m_ui->Mnu_resultats,
                                   m_ui->Mnu_accueil->menuAction()};

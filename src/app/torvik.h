@@ -42,6 +42,7 @@ private:
     void surClick(QAction *action, void (Torvik::*traitement)());
     void surClick(QAction *action, void (*traitement)(const Contexte &));
     void ouvreBase();
+    void completeMessages();
     void Form_Click();
     void Form_Unload();
 

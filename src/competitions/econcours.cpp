@@ -130,7 +130,7 @@ void Econcours::majrefconcours()
         m_ui->référence->addItem(ZeroPad(concours[u"Concours"].entier(), largeurReference));
         proposition = ZeroPad(concours[u"Concours"].entier() + 1, largeurReference);
     }
-    m_ui->référence->setEditText(proposition);
+    poseTexte(m_ui->référence, proposition);
     m_refConcours = proposition.toInt();
 }
 
@@ -143,7 +143,7 @@ void Econcours::référence_KeyDown(int KeyCode, int)
 {
     const bool numerique = EstNumerique(m_ui->référence->currentText());
     if (KeyCode == Touche::Entree && !numerique)
-        m_ui->référence->setEditText(ZeroPad(m_refConcours, largeurReference));
+        poseTexte(m_ui->référence, ZeroPad(m_refConcours, largeurReference));
     if (KeyCode == Touche::Entree || (KeyCode == Touche::Droite && numerique))
         litConcours();
 }
@@ -161,9 +161,9 @@ void Econcours::litConcours()
     if (concours.Eof()) {
         videSaisie();
         m_ui->Check1->setChecked(false);
-        m_ui->référence->setEditText(ZeroPad(m_refConcours, largeurReference));
+        poseTexte(m_ui->référence, ZeroPad(m_refConcours, largeurReference));
     } else {
-        m_ui->référence->setEditText(ZeroPad(numero, largeurReference));
+        poseTexte(m_ui->référence, ZeroPad(numero, largeurReference));
         m_ancienType = concours[u"type"].texte();
         m_ui->Combo1->setEditText(m_ancienType);
         m_ui->Text2->setText(FormateDate(partage(), concours[u"date"]));
@@ -302,7 +302,7 @@ void Econcours::ajouteConcours(Recordset &concours)
     ChargeConcours(partage(), partage().ConcoursCourant);
     m_refConcours = partage().ConcoursCourant;
     m_ui->référence->addItem(numero);
-    m_ui->référence->setEditText(ZeroPad(partage().ConcoursCourant + 1, largeurReference));
+    poseTexte(m_ui->référence, ZeroPad(partage().ConcoursCourant + 1, largeurReference));
     if (m_ui->référence->isHidden()) {
         MsgBox(mes(95) + numero);
         m_ui->Label4->show();
@@ -317,7 +317,7 @@ void Econcours::modifieConcours(Recordset &concours)
     concours.Edit();
     ecritChampsCommuns(concours);
     enregistreEtVide(concours);
-    m_ui->référence->setEditText(ZeroPad(m_refConcours, largeurReference));
+    poseTexte(m_ui->référence, ZeroPad(m_refConcours, largeurReference));
 }
 
 void Econcours::ecritChampsCommuns(Recordset &concours) const

@@ -61,5 +61,5 @@ void Econcours::relitReferences()
     }
     for (; !restants.Eof(); restants.MoveNext())
         m_ui->référence->addItem(ZeroPad(restants[u"Concours"].entier(), largeurReference));
-    m_ui->référence->setEditText(ZeroPad(m_refConcours, largeurReference));
+    poseTexte(m_ui->référence, ZeroPad(m_refConcours, largeurReference));
 }

@@ -130,6 +130,12 @@ void Execute(Boites &boites, const std::function<void()> &traitement)
     }
 }
 
+void poseTexte(QComboBox *combo, const QString &texte)
+{
+    combo->setCurrentIndex(combo->findText(texte));
+    combo->setEditText(texte);
+}
+
 bool PasseErreur(const std::function<void()> &instruction)
 {
     try {
@@ -182,6 +188,7 @@ void GardeUneCopie(const Contexte &contexte)
 void Formulaire::surChoix(QComboBox *combo, Traitement traitement)
 {
     connect(combo, &QComboBox::activated, this, [this, traitement = std::move(traitement)] { execute(traitement); });
+    m_listes.insert(combo);
 }
 
 void Formulaire::surKeyDown(QWidget *controle, TraitementTouche traitement)
@@ -240,9 +247,28 @@ bool Formulaire::toucheSurControle(QWidget *controle, QKeyEvent *evenement)
     return code == Touche::Entree || avant != QApplication::focusWidget();
 }
 
+/// Wheel and arrows would walk through competitions and teams under the operator's hand, each one read as if picked.
+bool Formulaire::retientListe(QWidget *controle, const QEvent &evenement)
+{
+    auto *combo = qobject_cast<QComboBox *>(controle);
+    if (combo == nullptr)
+        return false;
+    if (evenement.type() == QEvent::Wheel)
+        return true;
+    if (evenement.type() != QEvent::KeyPress || !m_listes.contains(combo))
+        return false;
+    const int touche = static_cast<const QKeyEvent &>(evenement).key();
+    if (touche != Qt::Key_Up && touche != Qt::Key_Down && touche != Qt::Key_PageUp && touche != Qt::Key_PageDown)
+        return false;
+    combo->showPopup();
+    return true;
+}
+
 bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
 {
     QWidget *controle = controleDe(objet);
+    if (retientListe(controle, *evenement))
+        return true;
     switch (evenement->type()) {
     case QEvent::KeyPress:
         if (toucheSurControle(controle, static_cast<QKeyEvent *>(evenement)))
@@ -256,13 +282,19 @@ bool Formulaire::eventFilter(QObject *objet, QEvent *evenement)
         }
         break;
     case QEvent::MouseButtonDblClick:
-        if (const Traitement traitement = m_doubleClics.value(controle))
+        if (const Traitement traitement = m_doubleClics.value(controle);
+            traitement && static_cast<QMouseEvent *>(evenement)->button() == Qt::LeftButton)
             execute(traitement);
         break;
     default:
         break;
     }
     return QWidget::eventFilter(objet, evenement);
+}
+
+void Formulaire::focusInEvent(QFocusEvent *)
+{
+    execute([this] { Form_GotFocus(); });
 }
 
 void Formulaire::mousePressEvent(QMouseEvent *evenement)

@@ -41,6 +41,9 @@ void Execute(Boites &boites, const std::function<void()> &traitement);
 /// Puts a copy of the base aside before rows go for good. A copy that fails is told in a box and stops nothing.
 void GardeUneCopie(const Contexte &contexte);
 
+/// Shows \p texte in an editable list; the item of that text becomes the current one.
+void poseTexte(QComboBox *combo, const QString &texte);
+
 /// Runs one statement of a handler that passes over the errors of the store; false when it failed.
 bool PasseErreur(const std::function<void()> &instruction);
 
@@ -61,6 +64,7 @@ public:
     virtual void Form_Load() {}
     /// The form has become the active one, coming from another form; a message box does not count as one.
     virtual void Form_Activate() {}
+    /// The focus has come to the form itself, none of its controls having it.
     virtual void Form_GotFocus() {}
     virtual void Form_Unload() {}
     virtual void Form_Click() {}
@@ -94,7 +98,7 @@ protected:
 
     void surClick(QAbstractButton *bouton, Traitement traitement);
     void surClick(QAction *action, Traitement traitement);
-    /// An item of the combo's list has been picked.
+    /// An item of the combo's list has been picked. The arrows open that list: they walk through nothing unseen.
     void surChoix(QComboBox *combo, Traitement traitement);
     /// \p traitement gets the key code and the shift state before the control sees the key.
     void surKeyDown(QWidget *controle, TraitementTouche traitement);
@@ -118,12 +122,14 @@ protected:
     }
 
     bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void focusInEvent(QFocusEvent *evenement) override;
     void mousePressEvent(QMouseEvent *evenement) override;
     void resizeEvent(QResizeEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
 
 private:
     bool toucheSurControle(QWidget *controle, QKeyEvent *evenement);
+    bool retientListe(QWidget *controle, const QEvent &evenement);
 
     Contexte m_contexte;
     QHash<QWidget *, TraitementTouche> m_touches;
@@ -131,6 +137,7 @@ private:
     QHash<QWidget *, Traitement> m_lostFocus;
     QHash<QWidget *, TraitementSouris> m_souris;
     QHash<QWidget *, Traitement> m_doubleClics;
+    QSet<QComboBox *> m_listes;
 };
 
 /// Size of the screen in twips.

@@ -11,10 +11,17 @@ namespace {
 constexpr int largeurNumero = 6;
 const QString tous = u"*"_qs;
 
+/// The digits that \p texte begins with, as a number; 0 without any.
 int valeur(const QString &texte)
 {
-    constexpr double borne = 100000;
-    return int(std::clamp(store::Val(texte), -borne, borne));
+    constexpr int borne = 100000;
+    int nombre = 0;
+    for (const QChar signe : texte.trimmed()) {
+        if (signe < u'0' || signe > u'9')
+            break;
+        nombre = std::min(nombre * 10 + signe.unicode() - u'0', borne);
+    }
+    return nombre;
 }
 
 } // namespace

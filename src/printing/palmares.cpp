@@ -136,6 +136,13 @@ void palmares::Form_Load()
     m_ui->aucune->hide();
     m_avecNoms = 0;
     PatienceTardive patience(contexte(), mes(130));
+    // Also when a round cannot be read: what has been read so far stays on a form that can be seen.
+    const auto mesure = qScopeGuard([&] {
+        if (grille.isHidden())
+            disAucuneRencontre();
+        else
+            elargit(grille);
+    });
     for (int tour = 1; tour <= toursCharges && rencontres(tour, QString()) > 0; ++tour) {
         if (tour == 1) {
             effaceSelection(grille);
@@ -147,10 +154,6 @@ void palmares::Form_Load()
         ajouteTour(grille, tour);
         patience.avance(grille.Rows() - 1);
     }
-    if (grille.isHidden())
-        disAucuneRencontre();
-    else
-        elargit(grille);
 }
 
 /// Matches of a round that meet \p condition.

@@ -17,12 +17,6 @@ constexpr int margeGauche = 50;
 
 } // namespace
 
-void poseTexte(QComboBox *combo, const QString &texte)
-{
-    combo->setCurrentIndex(combo->findText(texte));
-    combo->setEditText(texte);
-}
-
 void FormeInscription::relie(const Champs &champs)
 {
     m_champs = champs;
@@ -39,23 +33,6 @@ void FormeInscription::surSortie(QWidget *controle, Traitement traitement)
         if (m_sortieFaite != controle)
             traitement();
     });
-}
-
-/// In the lists of numbers, wheel and arrows would walk through competitions and teams under the operator's hand: the
-/// arrows open the list instead.
-bool FormeInscription::eventFilter(QObject *objet, QEvent *evenement)
-{
-    auto *combo = qobject_cast<QComboBox *>(objet);
-    if (combo != nullptr && evenement->type() == QEvent::Wheel)
-        return true;
-    if (combo != nullptr && evenement->type() == QEvent::KeyPress) {
-        const int touche = static_cast<QKeyEvent *>(evenement)->key();
-        if (touche == Qt::Key_Up || touche == Qt::Key_Down || touche == Qt::Key_PageUp || touche == Qt::Key_PageDown) {
-            combo->showPopup();
-            return true;
-        }
-    }
-    return Formulaire::eventFilter(objet, evenement);
 }
 
 void FormeInscription::placeForme()

@@ -85,8 +85,6 @@ protected:
     bool refuseSansClub();
     void placeListesoc(int largeur);
 
-    bool eventFilter(QObject *objet, QEvent *evenement) override;
-
 private:
     void refuseNumero(std::optional<qint64> maxe);
     bool litNumero(std::optional<qint64> maxe);
@@ -96,6 +94,3 @@ private:
     Champs m_champs;
     const QWidget *m_sortieFaite = nullptr;
 };
-
-/// Shows \p texte in an editable list; the item of that text becomes the current one.
-void poseTexte(QComboBox *combo, const QString &texte);

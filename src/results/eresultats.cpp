@@ -8,6 +8,8 @@
 #include "platform/twips.h"
 #include "ui_eresultats.h"
 
+#include <stdexcept>
+
 using store::EstNumerique;
 using store::Recordset;
 
@@ -59,10 +61,14 @@ void EResultats::relie()
 
 void EResultats::LegendesResultats()
 {
+    const QString &equipe1 = mes(24);
+    if (equipe1.size() > largeurEquipe1)
+        throw std::length_error("Le message 24 a plus de 22 signes.");
     FenetreDessus(*this, false);
+    partage().SelectionEnCours = false;
     setWindowTitle(mes(23));
     m_ui->Label1->setText(mes(1));
-    m_ui->Label4->setText(mes(24).leftJustified(largeurEquipe1) + u'-' + mes(25));
+    m_ui->Label4->setText(equipe1 + QString(largeurEquipe1 - equipe1.size(), u' ') + u'-' + mes(25));
     m_ui->manquants->setToolTip(mes(26));
     m_ui->VALIDATION->setToolTip(mes(27));
     m_ui->hit->setToolTip(mes(33));
@@ -87,7 +93,7 @@ void EResultats::Form_Load()
     for (; !concours.Eof(); concours.MoveNext())
         m_ui->listconcours->addItem(ZeroPad(concours[u"concours"].entier(), largeurNumero));
     afficheConcours(partage().ConcoursCourant);
-    m_ui->listconcours->setEditText(ZeroPad(partage().ConcoursCourant, largeurNumero));
+    poseTexte(m_ui->listconcours, ZeroPad(partage().ConcoursCourant, largeurNumero));
     afficheEtat(Moment::Chargement);
     videRencontre();
     placeForme();
@@ -148,7 +154,7 @@ void EResultats::listconcours_KeyDown(int KeyCode, int)
     partage().ConcoursCourant = qint32(numero);
     ChargeConcours(partage(), partage().ConcoursCourant);
     verrouille(false);
-    m_ui->listconcours->setEditText(ZeroPad(numero, largeurNumero));
+    poseTexte(m_ui->listconcours, ZeroPad(numero, largeurNumero));
     afficheEtat(Moment::ChangementConcours);
 }
 
@@ -222,6 +228,7 @@ void EResultats::tirage_suivant_Click()
     const auto fin = qScopeGuard([this] { m_tirageEnCours = false; });
     const Sablier sablier;
     formulaires().Decharge(u"Groupes"_qs);
+    m_signes = m_ui->tour_P1->text();
     LanceTourSuivant(partage(), *this);
 
     m_ui->tirage_suivant->hide();
@@ -254,6 +261,7 @@ void EResultats::avertit(const QString &texte)
 
 void EResultats::annonce(const QString &texte)
 {
+    m_signes = texte;
     m_ui->tour_P1->setText(texte);
     m_dernierSigne.start();
     DoEvents();
@@ -262,10 +270,11 @@ void EResultats::annonce(const QString &texte)
 /// The draw tells a sign for every pair; the screen follows often enough to show that the program is at work.
 void EResultats::progresse(QStringView signe)
 {
+    m_signes += signe;
     if (m_dernierSigne.isValid() && m_dernierSigne.elapsed() < signeDeVieMs)
         return;
     m_dernierSigne.start();
-    m_ui->tour_P1->setText(m_ui->tour_P1->text() + signe.toString());
+    m_ui->tour_P1->setText(m_signes);
     DoEvents();
 }
 
@@ -296,6 +305,7 @@ void EResultats::annuleTirage()
         partage().BaseDonnees.Execute(u"update concours set tourpri=0 where concours="_qs + numero);
     });
     partage().TourCourant = 0;
+    partage().AttendusAJour = partage().JouesAJour = false;
     m_ui->tour_P1->clear();
     m_ui->tirage_suivant->setText(u"Tirage annulé Relancer"_qs);
     m_ui->tirage_suivant->show();
@@ -313,6 +323,7 @@ void EResultats::annuleTour()
             u"update concours set tourpri= %1 where concours=%2"_qs.arg(partage().TourCourant - 2).arg(numero));
     });
     --partage().TourCourant;
+    partage().AttendusAJour = partage().JouesAJour = false;
     m_ui->tour_P1->setText(u"annulé"_qs);
     m_ui->tirage_suivant->setText(u"Tour %1 annulé Relancer"_qs.arg(partage().TourCourant + 1));
     m_ui->tirage_suivant->show();

@@ -94,7 +94,7 @@ private:
     void progresse(QStringView signe) override;
 
     std::unique_ptr<Ui::EResultats> m_ui;
-    bool m_scoreReel = true;
     bool m_tirageEnCours = false;
     QElapsedTimer m_dernierSigne;
+    QString m_signes; ///< What tour_P1 says of the draw, the signs that the screen has yet to show included.
 };

@@ -93,7 +93,7 @@ void EResultats::Equipe1_DblClick()
 {
     m_ui->Score1->setText(QString::number(moteur::scoreGagnant));
     m_ui->Score2->setText(QString::number(moteur::scoreConcedeExempt));
-    m_scoreReel = false;
+    partage().ScoreReel = false;
     DoEvents();
     Score2_KeyDown(Touche::Entree, Maj::Majuscule);
 }
@@ -102,7 +102,7 @@ void EResultats::Equipe2_DblClick()
 {
     m_ui->Score1->setText(QString::number(moteur::scoreConcedeExempt));
     m_ui->Score2->setText(QString::number(moteur::scoreGagnant));
-    m_scoreReel = false;
+    partage().ScoreReel = false;
     DoEvents();
     Score1_KeyDown(Touche::Entree, Maj::Majuscule);
 }
@@ -121,7 +121,7 @@ void EResultats::Score2_KeyDown(int KeyCode, int)
 void EResultats::saisieScore(Cote cote, int KeyCode)
 {
     if (!Touche::Avance(KeyCode)) {
-        m_scoreReel = true;
+        partage().ScoreReel = true;
         return;
     }
     TextesGardes gardes{m_ui->Score1->text(), m_ui->Score2->text()};
@@ -191,7 +191,7 @@ bool EResultats::enregistreScore()
     if (scores.NoMatch())
         return false;
     scores.Edit();
-    scores[u"score_reel"] = m_scoreReel;
+    scores[u"score_reel"] = partage().ScoreReel;
     scores[u"score_1"] = m_ui->Score1->text();
     scores[u"score_2"] = m_ui->Score2->text();
     scores.Update();

@@ -232,11 +232,6 @@ bool Instruction::estNulle(int colonne) const
 }
 
 BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode mode)
-    : BaseNative(fichier, motDePasse, mode, false)
-{
-}
-
-BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode mode, bool formatCourant)
     : m_fichier(QDir::toNativeSeparators(fichier))
 {
     const QFileInfo infos(fichier);
@@ -247,7 +242,7 @@ BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode m
             throw Erreur(Erreur::FichierEtranger, u"Le fichier %1 n'est pas une base de ce programme."_qs.arg(m_fichier));
     }
     try {
-        ouvre(motDePasse, mode, formatCourant);
+        ouvre(motDePasse, mode, false);
     } catch (const Erreur &erreur) {
         if (erreur.numero() != Erreur::MotDePasse || valeurUnique(u"pragma cipher_version"_qs).texte() < u"4"_qs) {
             ferme();
@@ -257,7 +252,7 @@ BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode m
         ouvre(motDePasse, mode, true);
     }
     try {
-        if (mode != Mode::Creation)
+        if (mode != Mode::Creation && mode != Mode::DejaVerifiee)
             verifie();
         executeScript(u"pragma temp_store = memory; pragma cache_size = -16000;"_qs);
     } catch (...) {
@@ -275,7 +270,6 @@ BaseNative::~BaseNative()
 /// SQLCipher 3, which every version reads; \p formatCourant tries that of version 4 instead.
 void BaseNative::ouvre(const QString &motDePasse, Mode mode, bool formatCourant)
 {
-    m_formatCourant = formatCourant;
     // Without the right to create, the engine could not attach the new file of a compaction either.
     const int drapeaux =
         mode == Mode::LectureSeule ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <future>
 #include <memory>
 
 struct sqlite3;
@@ -64,7 +65,8 @@ private:
 class BaseNative
 {
 public:
-    enum class Mode { Creation, LectureEcriture, LectureSeule };
+    /// DejaVerifiee is for a further connection to a file that has just been opened and found sound.
+    enum class Mode { Creation, LectureEcriture, LectureSeule, DejaVerifiee };
 
     /// Opens \p fichier under \p motDePasse, or creates it. Throws Erreur with one sentence for each of: file missing,
     /// file of another program, wrong password, damaged file. An existing file is only read here.
@@ -85,9 +87,13 @@ public:
     /// First column of the first row, Null when there is none.
     Valeur valeurUnique(const QString &sql);
 
-    /// Writes the whole base, as it is at this moment, into the new file \p cible under \p motDePasse. Throws Erreur
-    /// when that file exists or cannot be written; a part of it may stay behind then.
-    void copieVers(const QString &cible, const QString &motDePasse);
+    /// Opens, beside the caller's work and once, the second connection that copieVers reads by. A copy is then possible
+    /// while statements of this one are at work.
+    void prepareCopies(const QString &motDePasse);
+    /// Writes the whole base, as it stands on the disk and without its empty pages, into the new file \p cible, which the
+    /// same password opens. Not inside a write group; without prepareCopies, not while a statement is at work either.
+    /// Throws Erreur when that file exists or cannot be written; a part of it may stay behind then.
+    void copieVers(const QString &cible);
     /// Whether anything has been written since the last copy; true as long as there is none.
     bool changeeDepuisCopie() const { return m_changementsCopies != changements(); }
 
@@ -100,10 +106,10 @@ public:
 private:
     friend class Instruction;
 
-    BaseNative(const QString &fichier, const QString &motDePasse, Mode mode, bool formatCourant);
-
     void ouvre(const QString &motDePasse, Mode mode, bool formatCourant);
     void verifie();
+    void exporte(const QString &cible);
+    void remplitCible();
     void ferme();
     sqlite3_stmt *emprunte(const QString &sql);
     void rend(const QString &sql, sqlite3_stmt *stmt);
@@ -113,7 +119,8 @@ private:
     sqlite3 *m_base = nullptr;
     QHash<QString, sqlite3_stmt *> m_libres;
     QStringList m_anciennete;
-    bool m_formatCourant = false;
+    std::future<std::unique_ptr<BaseNative>> m_ouvertureCopiste;
+    std::unique_ptr<BaseNative> m_copiste;
     int m_changementsCopies = -1;
 };
 

@@ -3,8 +3,6 @@
 #include "store/dialecte.h"
 #include "store/recordset_base.h"
 
-#include <QFile>
-
 namespace store {
 
 namespace {
@@ -155,21 +153,7 @@ Workspace &DBEngine::Workspaces(int numero)
 
 void DBEngine::CompactDatabase(const QString &source, const QString &cible, const QString &connexion)
 {
-    if (QFile::exists(cible))
-        throw Erreur(Erreur::DossierProtege, u"Le fichier %1 existe déjà."_qs.arg(cible));
-    const QString motDePasse = motDePasseDe(connexion);
-    BaseNative ancienne(source, motDePasse, BaseNative::Mode::LectureEcriture);
-    Instruction attache(ancienne, u"attach ? as cible key ?"_qs);
-    attache.lie(1, cible);
-    attache.lie(2, motDePasse);
-    attache.avance();
-    ancienne.execute(u"select sqlcipher_export('cible')"_qs);
-    for (const QStringView marque : {u"application_id", u"user_version"}) {
-        const QString valeur = ancienne.valeurUnique(u"pragma %1"_qs.arg(marque)).texte();
-        ancienne.executeScript(u"pragma cible.%1 = %2"_qs.arg(marque, valeur));
-    }
-    attache.rend();
-    ancienne.execute(u"detach cible"_qs);
+    BaseNative(source, motDePasseDe(connexion), BaseNative::Mode::LectureEcriture).copieVers(cible);
 }
 
 } // namespace store

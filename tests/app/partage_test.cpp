@@ -36,7 +36,7 @@ TEST_F(EtatPartage, LangueActive)
     poseIcone(u"2.ico"_qs);
     execute(u"insert into traduc (numero, traducteur, icone, actif) values (1, 'Anne', '1.ico', 0), "
             u"(2, 'Ben', '2.ico', -1); "
-            u"insert into langues values (1, 0, 'fr'), (2, 180, 'last'), (2, 0, 'first'), (2, 5, null)"_qs);
+            u"insert into langues values (1, 0, 'fr'), (2, 180, 'last'), (2, 0, 'first'), (2, 5, '')"_qs);
     partage.mes.pose(7, u"ancien"_qs);
     ChargeLangue(partage);
     EXPECT_EQ(partage.LangueCourante, 2);
@@ -55,6 +55,8 @@ TEST_F(EtatPartage, NumeroDeMessageHorsDeLaTable)
         execute(u"delete from langues; insert into langues values (1, %1, 'trop')"_qs.arg(numero));
         EXPECT_THROW(ChargeLangue(partage), std::out_of_range) << numero;
     }
+    execute(u"delete from langues; insert into langues values (1, 1, null)"_qs);
+    EXPECT_THROW(ChargeLangue(partage), store::Erreur);
 }
 
 TEST_F(EtatPartage, SansLangueActiveLesTextesRestent)
@@ -121,9 +123,9 @@ TEST_F(EtatPartage, TextesCourts)
 {
     EXPECT_EQ(ZeroPad(42, 6), u"000042"_qs);
     EXPECT_EQ(ZeroPad(1234567, 6), u"234567"_qs);
-    EXPECT_EQ(LibellePluriel(partage, 0, u" équipe"_qs), u"0 équipe"_qs);
+    EXPECT_EQ(LibellePluriel(partage, 0, u" équipe"_qs), u"0  équipe"_qs);
     EXPECT_EQ(LibellePluriel(partage, 1, u"équipe"_qs), u"1 équipe"_qs);
-    EXPECT_EQ(LibellePluriel(partage, 2, u" équipe"_qs), u"2 équipes"_qs);
+    EXPECT_EQ(LibellePluriel(partage, 2, u" équipe"_qs), u"2  équipes"_qs);
     partage.LangueCourante = 2;
     EXPECT_EQ(LibellePluriel(partage, 2, u" équipe"_qs), QString());
 

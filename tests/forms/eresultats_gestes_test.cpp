@@ -1,11 +1,14 @@
 #include "app/base.h"
 #include "salle_resultats.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTest>
+#include <QWheelEvent>
 
 namespace {
 
@@ -35,14 +38,14 @@ protected:
 TEST_F(TirageResultats, TroisToursPourHuitEquipes)
 {
     ouvre(8);
-    EXPECT_EQ(texte(u"Label2"_qs), u"8 équipes"_qs);
+    EXPECT_EQ(texte(u"Label2"_qs), u"8  équipes"_qs);
     EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Lancer le concours"_qs);
     for (int tour = 1; tour <= 3; ++tour) {
         tire();
         EXPECT_EQ(tourpri(), tour);
         EXPECT_FALSE(visible(u"tirage_suivant"_qs));
         EXPECT_EQ(texte(u"Label2"_qs), u"Tour N° %1"_qs.arg(tour));
-        EXPECT_EQ(texte(u"tour_P1"_qs), u" manque 4 Résultats"_qs);
+        EXPECT_EQ(texte(u"tour_P1"_qs), u" manque 4  Résultats"_qs);
         joueTour();
         EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tirage tour N°%1"_qs.arg(tour + 1));
         EXPECT_EQ(visible(u"tirage_suivant"_qs), tour < 3);
@@ -167,6 +170,7 @@ TEST_F(TirageResultats, AnnulerLeTour)
     EXPECT_EQ(matchs(1).size(), 4u);
     EXPECT_TRUE(matchs(2).empty());
     EXPECT_EQ(texte(u"tour_P1"_qs), u"annulé"_qs);
+    EXPECT_FALSE(prog.partage().JouesAJour || prog.partage().AttendusAJour);
     EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tour 2 annulé Relancer"_qs);
     EXPECT_TRUE(visible(u"tirage_suivant"_qs));
     tire();
@@ -213,6 +217,18 @@ TEST_F(TirageResultats, ChangementDeConcours)
     choisit(QString::number(lance));
     tire();
     EXPECT_EQ(texte(u"Label2"_qs), u"Tour N° 1"_qs);
+
+    // Neither the wheel nor the arrows walk through the competitions in passing.
+    auto *combo = qobject_cast<QComboBox *>(controle(u"listconcours"_qs));
+    EXPECT_EQ(combo->currentIndex(), combo->findText(texte(u"listconcours"_qs)));
+    QWheelEvent roue(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo, &roue);
+    combo->setFocus();
+    prog.touche(Qt::Key_Up);
+    EXPECT_EQ(prog.partage().ConcoursCourant, lance);
+    EXPECT_TRUE(combo->view()->isVisible());
+    combo->hidePopup();
     EXPECT_EQ(prog.valeur(u"select count(*) from scores where concours <> %1"_qs.arg(lance)).entier(), 0);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTest>
 
 namespace {
 
@@ -119,6 +120,9 @@ TEST_F(SaisieResultats, MotsEtPartiesPerdues)
 TEST_F(SaisieResultats, DoubleClicGagneTreizeASept)
 {
     appelle(0);
+    QWidget *equipe1 = prog.controle(u"EResultats"_qs, u"Equipe1"_qs);
+    QTest::mouseDClick(equipe1, Qt::RightButton); // the gesture of another button
+    EXPECT_EQ(prog.valeur(u"select count(*) from scores where score_1 is not null"_qs).entier(), 0);
     doubleClic(u"Equipe1"_qs);
     attendEnregistre(0, 13, 7, false);
     appelle(1);
@@ -134,7 +138,7 @@ TEST_F(SaisieResultats, DoubleClicGagneTreizeASept)
     // Without a match the gesture stores nothing and leaves a typed result real.
     doubleClic(u"Equipe1"_qs);
     EXPECT_EQ(prog.valeur(u"select count(*) from scores where score_1 is not null"_qs).entier(), 2);
-    prog.controle(u"EResultats"_qs, u"Equipe1"_qs)->setFocus();
+    equipe1->setFocus();
     appelle(2);
     prog.tape(u"13\n5\n"_qs);
     attendEnregistre(2, 13, 5, true);

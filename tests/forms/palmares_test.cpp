@@ -155,6 +155,15 @@ TEST_F(Palmares, ACompetitionWithoutAMatchSaysSoInsteadOfAGrid)
     EXPECT_EQ(boites().drapeaux(), vbExclamation);
 }
 
+TEST_F(Palmares, AMatchOfAMissingTeamLeavesAFormThatCanBeRead)
+{
+    boites().attend(u"Erreur"_qs);
+    ouvre(3, {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 5}, {.tour = 1, .equipe1 = 3, .equipe2 = 9}});
+    EXPECT_GT(forme(P)->width(), grille().width());
+    EXPECT_TRUE(visible(P, u"Thonneur_1"_qs));
+    EXPECT_GT(grille().Rows(), 2);
+}
+
 TEST_F(Palmares, NothingIsPrintedWithoutASelectionNorAPrinter)
 {
     ouvre(5, tours(5, 2));

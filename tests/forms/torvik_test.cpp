@@ -1,7 +1,9 @@
+#include "app/base.h"
 #include "app/torvik.h"
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
+#include "store/base_native.h"
 
 #include <gtest/gtest.h>
 
@@ -126,6 +128,24 @@ TEST(FenetrePrincipale, BaseInutilisableFinitParUneBoite)
         EXPECT_EQ(contenu(prog.fichier()), avant);
         EXPECT_EQ(QFile::exists(prog.fichier()), cas != u"absente");
     }
+}
+
+TEST(FenetrePrincipale, UneBaseEnServiceRecoitLesMessagesQuiLuiManquent)
+{
+    ProgrammePilote prog;
+    {
+        store::BaseNative base(prog.fichier(), motDePasseBase, store::BaseNative::Mode::LectureEcriture);
+        base.executeScript(u"delete from langues where num = 43 or lang = 6;"
+                           u"update langues set mes = 'Mon club' where lang = 1 and num = 18"_qs);
+    }
+    ASSERT_TRUE(prog.demarre());
+    EXPECT_EQ(prog.partage().mes(43), u"Forfait"_qs);
+    EXPECT_EQ(prog.partage().mes(18), u"Mon club"_qs);
+    const auto nombre = [&](int langue) {
+        return prog.base().native().valeurUnique(u"select count(*) from langues where lang = %1"_qs.arg(langue)).entier();
+    };
+    EXPECT_EQ(nombre(2), nombre(1));
+    EXPECT_EQ(nombre(6), 0); // a language without texts stays one
 }
 
 TEST(FenetrePrincipale, ImageDeLangueIntrouvable)

@@ -111,10 +111,12 @@ TEST_F(Contraste, ChaquePaireDeLaPaletteSeLit)
 TEST_F(Contraste, ChaqueTexteDeLaFeuilleSeLit)
 {
     const Feuille feuille(qApp->styleSheet());
-    const QRegularExpression sansTexte(u"::indicator|::drop-down|::down-arrow|QScrollBar|filet|alarme=\"rouge\"\\]$"_qs);
+    const QRegularExpression sansTexte(u"::indicator|::drop-down|::down-arrow|QScrollBar|filet|"
+                                       "alarme=\"rouge\"\\]$"_qs);
     int verifies = 0;
     for (const auto &[selecteur, proprietes] : feuille.regles()) {
-        if (selecteur.contains(sansTexte) || !(proprietes.contains(u"color"_qs) || proprietes.contains(u"background"_qs)))
+        const bool colore = proprietes.contains(u"color"_qs) || proprietes.contains(u"background"_qs);
+        if (!colore || selecteur.contains(sansTexte))
             continue;
         const QColor dite = feuille.couleur(selecteur, u"color"_qs);
         const QColor encre = dite.isValid() ? dite : QApplication::palette().color(QPalette::WindowText);

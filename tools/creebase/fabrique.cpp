@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QSaveFile>
 
 #include <filesystem>
 
@@ -265,4 +266,21 @@ void creeBase(const QString &dossier, const QString &cible)
         efface(provisoire);
         throw;
     }
+}
+
+void ecritComplement(const QString &dossier, const QString &cible)
+{
+    BaseNative base(u":memory:"_qs, motDePasseBase, BaseNative::Mode::Creation);
+    creeTables(base, dossier);
+    remplitLangues(base, dossier);
+    const QString lignes = base.valeurUnique(u"select group_concat('(' || lang || ', ' || num || ', ' || quote(mes) "
+                                             u"|| ')', ',' || char(10)) from langues"_qs).texte();
+    const QString script = u"with originaux(lang, num, mes) as (values\n%1)\n"
+                           u"insert into langues (lang, num, mes) select lang, num, mes from originaux\n"
+                           u"where lang in (select lang from langues)\n"
+                           u"and lang * 1000 + num not in (select lang * 1000 + num from langues)\n"_qs.arg(lignes);
+    QSaveFile fichier(cible);
+    const QByteArray octets = script.toUtf8();
+    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size() || !fichier.commit())
+        throw ErreurDonnees(cible, 0, u"écriture impossible (%1)"_qs.arg(fichier.errorString()));
 }
