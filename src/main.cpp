@@ -1,6 +1,7 @@
 #include "app/dossier_travail.h"
 #include "app/programme.h"
 #include "ui/apparence.h"
+#include "ui/echelle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -23,8 +24,8 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(u"VarloTour"_qs);
     QApplication::setApplicationVersion(QStringLiteral(VARLOTOUR_VERSION));
     QApplication::setDesktopFileName(u"fr.varlotour.VarloTour"_qs);
-    QApplication application(argc, argv);
-    appliqueApparence(application);
+    const std::unique_ptr<QApplication> application = ouvreApplication(argc, argv);
+    appliqueApparence(*application);
     BoitesQt boites;
 
     const DossierTravail dossier = dossierTravail();

@@ -173,6 +173,7 @@ void Torvik::LegendesTorvik()
     legende(m_ui->f_equipes, partage.mes(2));
     legende(m_ui->f_resultats, partage.mes(4));
     legende(m_ui->f_accueil, partage.mes(0));
+    m_ui->chrono->setToolTip(partage.mes(165));
     m_ui->Mnu_concours->setText(partage.mes(1));
     m_ui->apropo->setText(partage.mes(0));
     m_ui->traduction->setText(partage.mes(94));

@@ -36,7 +36,7 @@ void couronne(QPainter &peintre)
     for (int minute = 0; minute < 60; ++minute) {
         const double angle = minute * tour / 60;
         const bool heure = minute % 5 == 0;
-        peintre.setPen(QPen(heure ? encre : QColor(0x8A, 0x9B, 0xA8), heure ? 2.2 : 1, Qt::SolidLine, Qt::RoundCap));
+        peintre.setPen(QPen(heure ? encre : QColor(0x75, 0x84, 0x8F), heure ? 2.2 : 1, Qt::SolidLine, Qt::RoundCap));
         peintre.drawLine(vers(angle, bordInterieur), vers(angle, heure ? 78 : 76));
         if (!heure)
             continue;

@@ -2,6 +2,7 @@
 
 #include "app/routines.h"
 #include "platform/formulaires.h"
+#include "platform/sablier.h"
 
 #include <QComboBox>
 
@@ -44,7 +45,10 @@ void DupliqueConcours(const Contexte &contexte, Formulaire &formulaire)
         contexte.boites.MsgBox(u"Vous devez selectionner un concours existant "_qs);
         return;
     }
-    const qint64 m = copie(contexte.partage, n);
+    const qint64 m = [&] {
+        const Sablier sablier;
+        return copie(contexte.partage, n);
+    }();
     contexte.boites.MsgBox(u"Concours dupliqué sous le numéro "_qs + QString::number(m));
     const QString nom = formulaire.Name();
     contexte.formulaires.Decharge(nom);

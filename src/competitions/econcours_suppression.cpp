@@ -2,6 +2,7 @@
 #include "competitions/econcours.h"
 
 #include "app/routines.h"
+#include "platform/sablier.h"
 #include "ui_econcours.h"
 
 using store::Recordset;
@@ -25,8 +26,11 @@ void Econcours::Supprimer_Click()
     }
     if (MsgBox(mes(54) + u' ' + mes(55) + u"\r\n"_qs + mes(96), vbYesNo) != ReponseBoite::Oui)
         return;
-    GardeUneCopie(contexte());
-    supprimeConcours(concours);
+    {
+        const Sablier sablier;
+        GardeUneCopie(contexte());
+        supprimeConcours(concours);
+    }
     videSaisie();
     relitReferences();
     SetFocus(m_ui->Text2);

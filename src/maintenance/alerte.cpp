@@ -1,6 +1,5 @@
 #include "maintenance/alerte.h"
 
-#include "platform/formulaires.h"
 #include "ui_alerte.h"
 
 #include <QElapsedTimer>
@@ -8,7 +7,6 @@
 namespace {
 
 constexpr int patiencePeintureMs = 500;
-const QString nomAlerte = u"Alerte"_qs;
 
 } // namespace
 
@@ -24,14 +22,14 @@ Alerte::~Alerte() = default;
 void Alerte::Form_Load()
 {
     FenetreDessus(*this, true);
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_sablier.emplace();
     qApp->installEventFilter(this);
 }
 
 void Alerte::Form_Unload()
 {
     qApp->removeEventFilter(this);
-    QApplication::restoreOverrideCursor();
+    m_sablier.reset();
 }
 
 bool Alerte::eventFilter(QObject *objet, QEvent *evenement)
@@ -60,25 +58,4 @@ void Alerte::attendPeinture()
     do {
         DoEvents();
     } while (!m_peinte && !attente.hasExpired(patiencePeintureMs));
-}
-
-Patience::Patience(const Contexte &contexte, const QString &texte)
-    : m_formulaires(contexte.formulaires)
-{
-    m_formulaires.Charge(nomAlerte);
-    dit(texte);
-    m_formulaires.MontreSansFocus(nomAlerte);
-    if (auto *alerte = qobject_cast<Alerte *>(m_formulaires.forme(nomAlerte)))
-        alerte->attendPeinture();
-}
-
-Patience::~Patience()
-{
-    m_formulaires.Decharge(nomAlerte);
-}
-
-void Patience::dit(const QString &texte)
-{
-    if (auto *alerte = qobject_cast<Alerte *>(m_formulaires.forme(nomAlerte)))
-        alerte->dit(texte);
 }

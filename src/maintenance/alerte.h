@@ -1,8 +1,10 @@
 #pragma once
 
 #include "platform/formulaire.h"
+#include "platform/sablier.h"
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class Alerte;
@@ -32,20 +34,6 @@ protected:
 
 private:
     std::unique_ptr<Ui::Alerte> m_ui;
+    std::optional<Sablier> m_sablier;
     bool m_peinte = false;
-};
-
-/// Keeps the notice on the screen, in front of the other forms, as long as the object lives.
-class Patience
-{
-public:
-    /// Returns when the notice has been painted.
-    Patience(const Contexte &contexte, const QString &texte);
-    ~Patience();
-    Q_DISABLE_COPY_MOVE(Patience)
-
-    void dit(const QString &texte);
-
-private:
-    Formulaires &m_formulaires;
 };

@@ -1,7 +1,7 @@
 #include "maintenance/import_listes.h"
 
-#include "maintenance/alerte.h"
 #include "maintenance/import_table.h"
+#include "maintenance/patience.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "maintenance/purge.h"
 
 #include "app/base.h"
-#include "maintenance/alerte.h"
+#include "maintenance/patience.h"
 #include "store/base_native.h"
 
 #include <QDir>

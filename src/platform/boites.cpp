@@ -1,6 +1,7 @@
 #include "platform/boites.h"
 
 #include "platform/destinations.h"
+#include "platform/sablier.h"
 #include "platform/twips.h"
 
 #include <QApplication>
@@ -33,6 +34,13 @@ QMessageBox::Icon image(int drapeaux)
     }
 }
 
+/// Shows \p boite until it is answered, with the usual pointer even in the middle of a long operation.
+int interroge(QDialog &boite)
+{
+    const Sablier::Pause pause;
+    return boite.exec();
+}
+
 } // namespace
 
 Boites::~Boites() = default;
@@ -55,7 +63,7 @@ ReponseBoite BoitesQt::MsgBox(const QString &texte, int drapeaux, const QString 
         boite.addButton(QMessageBox::Cancel);
         boite.setEscapeButton(QMessageBox::Cancel);
     }
-    switch (boite.exec()) {
+    switch (interroge(boite)) {
     case QMessageBox::Yes:
         return ReponseBoite::Oui;
     case QMessageBox::No:
@@ -75,7 +83,7 @@ std::optional<QString> BoitesQt::InputBox(const QString &texte, const QString &t
     boite.setLabelText(texte);
     if (coin)
         boite.move(enPixels(coin->x()), enPixels(coin->y()));
-    return boite.exec() == QDialog::Accepted ? std::optional(boite.textValue()) : std::nullopt;
+    return interroge(boite) == QDialog::Accepted ? std::optional(boite.textValue()) : std::nullopt;
 }
 
 std::unique_ptr<Destination> BoitesQt::ShowPrinter()
@@ -83,7 +91,7 @@ std::unique_ptr<Destination> BoitesQt::ShowPrinter()
     compte();
     auto imprimante = std::make_unique<QPrinter>(QPrinter::HighResolution);
     QPrintDialog dialogue(imprimante.get(), QApplication::activeWindow());
-    if (dialogue.exec() != QDialog::Accepted)
+    if (interroge(dialogue) != QDialog::Accepted)
         return nullptr;
     return std::make_unique<DestinationImprimante>(std::move(imprimante));
 }
@@ -96,7 +104,7 @@ QString BoitesQt::ShowOpen(const BoiteFichier &dialogue)
     choix.setFileMode(QFileDialog::ExistingFile);
     choix.setDefaultSuffix(dialogue.DefaultExt);
     choix.setNameFilters({dialogue.FileName, u"*"_qs});
-    if (choix.exec() != QDialog::Accepted || choix.selectedFiles().isEmpty())
+    if (interroge(choix) != QDialog::Accepted || choix.selectedFiles().isEmpty())
         return dialogue.FileName;
     return choix.selectedFiles().constFirst();
 }

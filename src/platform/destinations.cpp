@@ -1,6 +1,7 @@
 #include "platform/destinations.h"
 
 #include "platform/police_papier.h"
+#include "platform/respiration.h"
 
 #include <QPageLayout>
 #include <QPainter>
@@ -38,7 +39,9 @@ bool joue(QPagedPaintDevice &appareil, const std::vector<PageDessinee> &pages, c
     QPainter crayon;
     if (!crayon.begin(&appareil))
         return false;
+    Respiration respiration;
     for (std::size_t i = 0; i < pages.size(); ++i) {
+        respiration.souffle();
         const PageDessinee &page = pages[i];
         if (i > 0) {
             oriente(page.orientation);

@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -15,6 +16,7 @@ constexpr int LargeurInitiale = 960; // twips
 constexpr int MargeCellule = 14;     // pixels, both sides together
 constexpr int MargeTexte = 8;        // pixels around a cell's own text, gridline included
 constexpr int TraitChoix = 2;        // pixels
+constexpr int HauteurLigne = 32;     // pixels, room for a finger
 
 /// A cell that has a colour of its own keeps it when its row is selected, within a frame: the colour tells who won.
 class DelegueFlex final : public QStyledItemDelegate
@@ -65,6 +67,7 @@ FlexGrid::FlexGrid(QWidget *parent)
     setMouseTracking(true);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(HauteurLigne);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setHighlightSections(false);
@@ -72,6 +75,12 @@ FlexGrid::FlexGrid(QWidget *parent)
     horizontalHeader()->setMinimumSectionSize(0);
     horizontalHeader()->viewport()->installEventFilter(this);
     connect(m_modele, &FlexGridModele::structureChangee, this, &FlexGrid::marque);
+    // A bar that has nothing to scroll shows no handle.
+    for (QScrollBar *barre : {verticalScrollBar(), horizontalScrollBar()}) {
+        const auto eveille = [barre](int premier, int dernier) { barre->setEnabled(dernier > premier); };
+        eveille(barre->minimum(), barre->maximum());
+        connect(barre, &QScrollBar::rangeChanged, this, eveille);
+    }
 }
 
 bool FlexGrid::existe(int ligne, int colonne) const
@@ -209,7 +218,7 @@ void FlexGrid::setColWidth(int colonne, int twips)
         return;
     m_largeurs[size_t(colonne)] = twips < 0 ? LargeurInitiale : twips;
     if (!m_modele->enAttente())
-        setColumnWidth(colonne, enPixels(m_largeurs[size_t(colonne)]));
+        setColumnWidth(colonne, largeurVoulue(colonne));
 }
 
 int FlexGrid::RowHeight() const

@@ -72,6 +72,10 @@ public:
 
     int ColWidth(int colonne) const;
     void setColWidth(int colonne, int twips);
+    /// Whether a column is shown at least as wide as its heading, whatever ColWidth() says.
+    void setTitresEntiers(bool entiers);
+    /// Width in pixels that a column has on the screen, unless it is the last one and takes what is left.
+    int LargeurAffichee(int colonne);
     /// Height of a row; all rows below the header have the same.
     int RowHeight() const;
     void setRowHeight(int twips);
@@ -144,6 +148,7 @@ private:
     void synchronise();
     void montreSelection();
     void appliqueLargeurs();
+    int largeurVoulue(int colonne) const;
     void noteSouris(const QPoint &point);
     void suitBoutonGauche(const QMouseEvent &evenement);
     void clicAuClavier(const QKeyEvent &evenement);
@@ -151,7 +156,8 @@ private:
     FlexGridModele *m_modele;
     FlexGridModele::Comparaison m_compare;
     QString m_format;
-    std::vector<int> m_largeurs; // twips
+    std::vector<int> m_largeurs;
+    bool m_titresEntiers = false; // twips
     int m_row = 0;
     int m_col = 0;
     int m_rowSel = 0;

@@ -10,15 +10,6 @@
 
 namespace {
 
-/// Black or white, whichever reads better on \p fond.
-QColor encreSur(const QColor &fond)
-{
-    const auto lineaire = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    const double clarte = 0.2126 * lineaire(fond.redF()) + 0.7152 * lineaire(fond.greenF())
-                          + 0.0722 * lineaire(fond.blueF());
-    return clarte > 0.179 ? Qt::black : Qt::white;
-}
-
 /// Only the weight: the rest comes from the view's own font.
 QFont policeGrasse()
 {
@@ -57,6 +48,14 @@ int compareCles(const Cle &a, const Cle &b, const FlexGridModele::Comparaison &c
 QColor couleurEcran(quint32 bgr)
 {
     return QColor(int(bgr & 0xFF), int((bgr >> 8) & 0xFF), int((bgr >> 16) & 0xFF));
+}
+
+QColor encreSur(const QColor &fond)
+{
+    const auto lineaire = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    const double clarte = 0.2126 * lineaire(fond.redF()) + 0.7152 * lineaire(fond.greenF())
+                          + 0.0722 * lineaire(fond.blueF());
+    return clarte > 0.179 ? Qt::black : Qt::white;
 }
 
 FlexGridModele::FlexGridModele(QObject *parent)

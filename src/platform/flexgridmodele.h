@@ -97,3 +97,5 @@ private:
 
 /// Colour of the screen for a colour \p bgr given in blue-green-red order.
 QColor couleurEcran(quint32 bgr);
+/// Black or white, whichever reads better on \p fond.
+QColor encreSur(const QColor &fond);

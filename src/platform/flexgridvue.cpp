@@ -40,7 +40,25 @@ void FlexGrid::synchronise()
 void FlexGrid::appliqueLargeurs()
 {
     for (int colonne = 0; colonne < Cols(); ++colonne)
-        setColumnWidth(colonne, enPixels(m_largeurs[size_t(colonne)]));
+        setColumnWidth(colonne, largeurVoulue(colonne));
+}
+
+int FlexGrid::largeurVoulue(int colonne) const
+{
+    const int dite = enPixels(m_largeurs[size_t(colonne)]);
+    return m_titresEntiers ? std::max(dite, horizontalHeader()->sectionSizeHint(colonne)) : dite;
+}
+
+void FlexGrid::setTitresEntiers(bool entiers)
+{
+    m_titresEntiers = entiers;
+    appliqueLargeurs();
+}
+
+int FlexGrid::LargeurAffichee(int colonne)
+{
+    synchronise();
+    return largeurVoulue(colonne);
 }
 
 void FlexGrid::montreSelection()

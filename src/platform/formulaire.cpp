@@ -2,6 +2,7 @@
 
 #include "app/sauvegarde.h"
 #include "platform/formulaires.h"
+#include "platform/sablier.h"
 #include "platform/touches_alt.h"
 #include "platform/twips.h"
 
@@ -181,6 +182,7 @@ void Formulaire::surClick(QAction *action, Traitement traitement)
 
 void GardeUneCopie(const Contexte &contexte)
 {
+    const Sablier sablier;
     if (const QString echec = SauveBase(contexte.partage); !echec.isEmpty())
         contexte.boites.MsgBox(echec, vbExclamation);
 }

@@ -1,6 +1,7 @@
 #include "platform/formulaires.h"
 
 #include "platform/roles_acces.h"
+#include "ui/infobulles.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -70,6 +71,7 @@ Formulaire *Formulaires::Charge(const QString &nom)
     m_chargees.insert(nom, formulaire);
     place(*formulaire);
     formulaire->execute([&] { formulaire->Form_Resize(); });
+    PoseInfobulles(*formulaire, m_contexte->partage.mes);
     formulaire->execute([&] { formulaire->Form_Load(); });
     return m_chargees.value(nom);
 }

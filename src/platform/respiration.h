@@ -10,10 +10,12 @@ class Respiration
 public:
     Respiration() { m_derniere.start(); }
 
+    /// Whether the next souffle() lets events run.
+    bool echue() const { return m_derniere.hasExpired(intervalleMs); }
     /// Called at each turn of the loop.
     void souffle()
     {
-        if (m_derniere.elapsed() < intervalleMs)
+        if (!echue())
             return;
         DoEvents();
         m_derniere.start();

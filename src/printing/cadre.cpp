@@ -46,6 +46,7 @@ std::unique_ptr<Cadre> Cadre::ouvre(const Contexte &contexte)
 
 Cadre::Cadre(const Contexte &contexte, std::unique_ptr<Destination> destination)
     : m_partage(contexte.partage)
+    , m_patience(contexte, contexte.partage.mes(129))
     , m_papier(std::move(destination))
 {
     m_papier.FontName = policeFeuilles;
@@ -53,6 +54,7 @@ Cadre::Cadre(const Contexte &contexte, std::unique_ptr<Destination> destination)
 
 void Cadre::saute(int limite)
 {
+    m_patience.avance(m_page + 1);
     if (m_papier.CurrentY <= limite)
         return;
     ecritPied();

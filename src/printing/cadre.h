@@ -1,5 +1,6 @@
 #pragma once
 
+#include "maintenance/patience.h"
 #include "platform/formulaire.h"
 #include "platform/imprimante.h"
 
@@ -43,6 +44,7 @@ private:
     void ecritPied();
 
     const Partage &m_partage;
+    PatienceTardive m_patience;
     Imprimante m_papier;
     std::function<void()> m_entete;
     int m_pied = piedHabituel;

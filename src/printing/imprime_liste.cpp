@@ -1,7 +1,6 @@
 #include "printing/imprime_liste.h"
 
 #include "platform/flexgrid.h"
-#include "platform/respiration.h"
 #include "printing/cadre.h"
 
 #include <algorithm>
@@ -150,9 +149,7 @@ void FeuilleListe::imprime()
         derniere = m_grille.Rows() - 1;
     m_papier.CurrentY = 0;
     m_cadre.commence();
-    Respiration respiration;
     for (int numero = std::max(premiere, 1); numero <= derniere; ++numero) {
-        respiration.souffle();
         m_cadre.saute(limite());
         ligne(numero);
     }

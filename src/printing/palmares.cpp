@@ -1,6 +1,7 @@
 #include "printing/palmares.h"
 
 #include "app/routines.h"
+#include "maintenance/patience.h"
 #include "platform/flexgrid.h"
 #include "platform/formulaires.h"
 #include "platform/twips.h"
@@ -14,6 +15,8 @@
 
 namespace {
 
+constexpr int debordChoix = 8; // pixels
+constexpr int etroitesse = 90; // percent
 constexpr int toursCharges = 14;
 constexpr int toursReconstruits = 15; ///< One further than the load.
 
@@ -90,6 +93,12 @@ palmares::palmares(const Contexte &contexte, QWidget *parent)
 {
     m_ui->setupUi(this);
     prepareControles();
+    // The choices stand in columns that are narrow for letters of a readable height.
+    for (QWidget *choix : std::initializer_list<QWidget *>{m_ui->Option1, m_ui->detail, m_ui->typedit}) {
+        QFont etroite = choix->font();
+        etroite.setStretch(etroitesse);
+        choix->setFont(etroite);
+    }
     connect(m_ui->Thonneur_1, &FlexGrid::mousePresse, this,
             [this](Qt::MouseButton bouton, Qt::KeyboardModifiers touches) {
                 execute([&] { Thonneur_MouseDown(1, CodeBouton(bouton), EtatMaj(touches)); });
@@ -126,6 +135,7 @@ void palmares::Form_Load()
     grille.hide();
     m_ui->aucune->hide();
     m_avecNoms = 0;
+    PatienceTardive patience(contexte(), mes(130));
     // Also when a round cannot be read: what has been read so far stays on a form that can be seen.
     const auto mesure = qScopeGuard([&] {
         if (grille.isHidden())
@@ -142,6 +152,7 @@ void palmares::Form_Load()
             prepareGrille(grille);
         }
         ajouteTour(grille, tour);
+        patience.avance(grille.Rows() - 1);
     }
 }
 
@@ -209,6 +220,16 @@ void palmares::disAucuneRencontre()
     m_ui->aucune->show();
 }
 
+/// The two rows of choices stand too close for a hurried hand: a press just above the upper row is one on it.
+void palmares::Form_MouseDown(int bouton, int, int x, int y)
+{
+    const QPoint presse(enPixels(x), enPixels(y));
+    for (QAbstractButton *choix : std::initializer_list<QAbstractButton *>{m_ui->Option1, m_ui->typedit}) {
+        if (bouton == Bouton::Gauche && choix->geometry().adjusted(0, -debordChoix, 0, 0).contains(presse))
+            choix->click();
+    }
+}
+
 void palmares::Thonneur_MouseDown(int Index, int Button, int Shift)
 {
     if (Shift == Maj::Controle && Thonneur(Index).RowSel() >= 1)
@@ -223,6 +244,7 @@ void palmares::reconstruit(int Index)
     m_avecNoms ^= 1;
     FlexGrid &grille = Thonneur(Index);
     const QString duTableau = u" and tableau = "_qs + QString::number(Index);
+    PatienceTardive patience(contexte(), mes(130));
     int tour = 1;
     for (; tour <= toursReconstruits && rencontres(tour, duTableau) > 0; ++tour) {
         if (tour == 1) {
@@ -231,6 +253,7 @@ void palmares::reconstruit(int Index)
             prepareGrille(grille);
         }
         ajouteTour(grille, tour);
+        patience.avance(grille.Rows() - 1);
     }
     if (tour > 1)
         elargit(grille);

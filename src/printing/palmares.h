@@ -24,6 +24,7 @@ public:
 
     void LegendesPalmares();
     void Form_Load() override;
+    void Form_MouseDown(int bouton, int maj, int x, int y) override;
     void Thonneur_MouseDown(int Index, int Button, int Shift);
     void Thonneur_KeyDown(int Index, int KeyCode);
     void imprimer_Click();

@@ -27,13 +27,13 @@ void FormeListe::prendGrille(FlexGrid *grille, const std::function<void(int bout
 void FormeListe::remplit(const QString &format, const std::function<void()> &lignes)
 {
     // Events run while the rows come in, and one of them may ask for the same.
-    if (m_enRemplissage)
+    if (m_patience)
         return;
-    m_enRemplissage = true;
+    m_patience.emplace(contexte(), mes(130));
     const GardeDefilement defilement(*m_grille);
     m_grille->setRedraw(false);
     const auto fin = qScopeGuard([this] {
-        m_enRemplissage = false;
+        m_patience.reset();
         m_grille->setRedraw(true);
     });
     m_grille->setRows(1);
@@ -62,7 +62,7 @@ void FormeListe::ajoute(std::initializer_list<QString> cellules)
     int colonne = 0;
     for (const QString &cellule : cellules)
         m_grille->setTextMatrix(ligne, colonne++, cellule);
-    m_respiration.souffle();
+    m_patience->avance(ligne);
 }
 
 /// What stands in order already, from the first row to the last, is turned round.

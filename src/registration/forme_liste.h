@@ -2,7 +2,7 @@
 
 #include "platform/flexgrid.h"
 #include "platform/formulaire.h"
-#include "platform/respiration.h"
+#include "maintenance/patience.h"
 
 #include <initializer_list>
 #include <vector>
@@ -46,7 +46,6 @@ private:
     void elargitNumeros();
 
     FlexGrid *m_grille = nullptr;
-    Respiration m_respiration;
+    std::optional<PatienceTardive> m_patience;
     std::vector<Tri> m_tris;
-    bool m_enRemplissage = false;
 };

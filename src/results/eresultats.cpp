@@ -4,6 +4,7 @@
 #include "app/routines.h"
 #include "engine/routines_tirage.h"
 #include "platform/formulaires.h"
+#include "platform/sablier.h"
 #include "platform/twips.h"
 #include "ui_eresultats.h"
 
@@ -229,6 +230,7 @@ void EResultats::tirage_suivant_Click()
         return;
     m_tirageEnCours = true;
     const auto fin = qScopeGuard([this] { m_tirageEnCours = false; });
+    const Sablier sablier;
     formulaires().Decharge(u"Groupes"_qs);
     m_signes = m_ui->tour_P1->text();
     LanceTourSuivant(partage(), *this);

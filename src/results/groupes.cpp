@@ -93,8 +93,10 @@ void Groupes::fixeOnglets(int nombre)
 void Groupes::legende(int onglet, const QString &texte)
 {
     m_ui->TabStrip1->setTabText(onglet - 1, texte);
-    // Outside French the tab shows no text; the count of wins still tells it from the others.
-    m_ui->TabStrip1->setAccessibleTabName(onglet - 1, texte.isEmpty() ? QString::number(onglet - 1) : texte);
+    // Outside French the tab shows no text; its tip still tells it from the others.
+    const QString victoires = mes(167) + QString::number(onglet - 1);
+    m_ui->TabStrip1->setTabToolTip(onglet - 1, victoires);
+    m_ui->TabStrip1->setAccessibleTabName(onglet - 1, texte.isEmpty() ? victoires : texte);
 }
 
 void Groupes::choisit(int onglet)

@@ -26,6 +26,7 @@ valresu::valresu(const Contexte &contexte, QWidget *parent)
     , m_ui(std::make_unique<Ui::valresu>())
 {
     m_ui->setupUi(this);
+    m_ui->les_resultats->setTitresEntiers(true);
     prepareControles();
     m_ui->les_resultats->setSensCouleur(grille::vert, u"gagne"_qs);
     m_ui->les_resultats->setSensCouleur(grille::rouge, u"perd"_qs);
@@ -73,7 +74,7 @@ void valresu::ajusteLargeur()
     FlexGrid &grille = *m_ui->les_resultats;
     int colonnes = 0;
     for (int colonne = 0; colonne < grille.Cols(); ++colonne)
-        colonnes += enPixels(grille.ColWidth(colonne));
+        colonnes += grille.LargeurAffichee(colonne);
     const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
     const int largeur = std::max(largeurGrille, colonnes + cadre);
     const int libre = enPixels(largeurLibre) - (frameGeometry().width() - width());
@@ -124,8 +125,8 @@ void valresu::recopieEquipe(const QString &champ, int ligne, int colonne)
     const FlexGrid &grille = *m_ui->les_resultats;
     QLineEdit *equipe = formulaires().forme(u"EResultats"_qs)->champTexte(champ);
     equipe->setText(grille.TextMatrix(ligne, colonne));
-    equipe->setStyleSheet(u"background: %1; color: #101A22;"_qs.arg(
-        couleurEcran(grille.CellBackColor(ligne, colonne)).name()));
+    const QColor fond = couleurEcran(grille.CellBackColor(ligne, colonne));
+    equipe->setStyleSheet(u"background: %1; color: %2;"_qs.arg(fond.name(), encreSur(fond).name()));
     connect(equipe, &QLineEdit::textChanged, equipe, [equipe] { equipe->setStyleSheet({}); },
             Qt::SingleShotConnection);
 }

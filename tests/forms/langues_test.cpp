@@ -2,6 +2,7 @@
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
+#include "ui/apparence.h"
 
 #include <gtest/gtest.h>
 
@@ -129,6 +130,7 @@ QString coupe(const QWidget &controle)
 
 TEST_F(ChoixLangue, AucunTexteNEstCoupe)
 {
+    appliqueApparence(*qApp);
     poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
     const QString formes[] = {u"Econcours"_qs, u"Eequipes"_qs, u"Ejoueurs"_qs,   u"Listesoc"_qs,
                               u"EResultats"_qs, u"manqres"_qs,  u"I_tirage"_qs,   u"palmares"_qs,

@@ -4,6 +4,7 @@
 #include "incident.h"
 #include "journee.h"
 #include "ui/apparence.h"
+#include "ui/echelle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -99,10 +100,10 @@ int main(int argc, char *argv[])
 {
     using namespace demonstration;
     const EcranPortable ecran;
-    QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = ouvreApplication(argc, argv);
     try {
-        const Options options = litOptions(application);
-        appliqueApparence(application);
+        const Options options = litOptions(*application);
+        appliqueApparence(*application);
         creeDossier(options.dossier);
         const InstanceUnique instance(options.dossier);
         exige(!instance.dejaPrise(), u"Un autre programme se sert déjà de ce dossier."_qs);

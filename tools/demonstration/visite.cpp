@@ -17,8 +17,10 @@ struct Langue
     QString image; ///< How the pictures' names begin.
     QString designation;
 };
-const Langue autres[] = {{u"anglais"_qs, u"English"_qs}, {u"allemand"_qs, u"Deutsch"_qs}};
-const QString francais = u"Français"_qs;
+/// French comes last: the walk ends as it began.
+const Langue chacune[] = {{u"anglais"_qs, u"English"_qs},   {u"allemand"_qs, u"Deutsch"_qs},
+                          {u"espagnol"_qs, u"Español"_qs},  {u"italien"_qs, u"Italiano"_qs},
+                          {u"neerlandais"_qs, u"Nederlands"_qs}, {u"francais"_qs, u"Français"_qs}};
 
 const QString formes[] = {u"Accueil"_qs,  u"Econcours"_qs, u"Eequipes"_qs, u"Ejoueurs"_qs,   u"Listesoc"_qs,
                           u"Listco"_qs,   u"listeq"_qs,    u"listjo"_qs,   u"EResultats"_qs, u"manqres"_qs,
@@ -45,7 +47,7 @@ QString nomImage(const QString &debut, const QString &forme)
 QStringList Visite::images()
 {
     QStringList noms;
-    for (const Langue &langue : autres) {
+    for (const Langue &langue : chacune) {
         noms += langue.image + u"-bureau"_qs;
         for (const QString &forme : formes)
             noms += nomImage(langue.image, forme);
@@ -106,13 +108,12 @@ void Visite::passeFormes(const QString &debut)
 
 void Visite::langues()
 {
-    for (const Langue &langue : autres) {
+    for (const Langue &langue : chacune) {
         choisit(langue.designation);
         m_programme.formulaires().DechargeTout();
         m_photographe.prendBureau(langue.image + u"-bureau"_qs, *m_main.fenetre(u"Torvik"_qs));
         passeFormes(langue.image);
     }
-    choisit(francais);
     m_programme.formulaires().DechargeTout();
 }
 

@@ -5,7 +5,7 @@
 
 namespace demonstration {
 
-/// A walk through all forms for their pictures: in other languages, and at other sizes.
+/// A walk through all forms for their pictures: in every language, and at other sizes.
 class Visite
 {
 public:
@@ -16,7 +16,7 @@ public:
     {
     }
 
-    /// Chooses one language after the other, takes every form in it, and comes back to French.
+    /// Chooses one language after the other and takes every form in it; French is the last one.
     void langues();
     /// Takes every form that scales at 60 % and at 250 % of its size.
     void tailles();
