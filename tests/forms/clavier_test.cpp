@@ -194,6 +194,9 @@ TEST_F(Clavier, LesLettresSeMontrentTantQueAltEstTenue)
     alt(u"Text4"_qs);
     EXPECT_EQ(etiquettes(), sans);
     EXPECT_EQ(prog.focus(), u"Text4"_qs);
+    // A letter that leads nowhere does nothing, and is not written either.
+    QTest::keyClick(QApplication::focusWidget(), 'x', Qt::AltModifier);
+    EXPECT_EQ(qobject_cast<QLineEdit *>(QApplication::focusWidget())->text(), QString());
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
     QTest::qWait(300);
     EXPECT_EQ(etiquettes(), sans);
