@@ -150,6 +150,7 @@ TEST_F(Clavier, UneJourneeEntiere)
     alt(u"hit"_qs);
     ASSERT_EQ(fenetre(), u"palmares"_qs);
     const auto *grille = QApplication::activeWindow()->findChild<FlexGrid *>(u"Thonneur_1"_qs);
+    ASSERT_NE(grille, nullptr);
     alt(u"Thonneur_1"_qs);
     touches({Qt::Key_Down, Qt::Key_Down});
     touche(Qt::Key_Down, Qt::ShiftModifier);
@@ -172,6 +173,7 @@ TEST_F(Clavier, LesGrillesSeCliquentAuClavier)
 
     alt(u"hit"_qs);
     const auto *grille = QApplication::activeWindow()->findChild<FlexGrid *>(u"Thonneur_1"_qs);
+    ASSERT_NE(grille, nullptr);
     alt(u"Thonneur_1"_qs);
     touches({Qt::Key_Down, Qt::Key_Right});
     EXPECT_EQ(grille->Text(), u"  1 (A)  bat   2 (B) "_qs);
