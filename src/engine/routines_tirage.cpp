@@ -259,10 +259,21 @@ void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur)
     partage.BaseDonnees.EcritEnGroupe([&] { metAJourClassement(partage, avant, apres); });
 }
 
-void LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
+bool LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
 {
-    if (partage.TourCourant == 0)
-        return ConfirmeTirage(partage, interlocuteur);
+    if (partage.TourCourant == 0) {
+        ConfirmeTirage(partage, interlocuteur);
+        return true;
+    }
+    const int tour = partage.TourCourant + 1;
+    // Cancelling a round leaves the file one round behind the program. When the competition is opened anew before the
+    // next draw, that round would be drawn a second time, beside the results that it has.
+    if (tourDejaTire(partage, 1, tour)) {
+        fixeTourPrincipal(partage, tour);
+        partage.TourCourant = qint16(tour);
+        interlocuteur.informe(u"Le tour N° %1 est déjà tiré : le concours reprend à ce tour"_qs.arg(tour));
+        return false;
+    }
 
     partage.EssaisTirage = 0;
     do {
@@ -272,7 +283,6 @@ void LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
         TirageSuivant(partage, interlocuteur);
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
-    const int tour = partage.TourCourant + 1;
     const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
     // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
@@ -282,4 +292,5 @@ void LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
     partage.TourCourant = qint16(tour);
     avertitSelonStatut(interlocuteur, partage.TabTirage.statut);
     partage.TabTirage = {};
+    return true;
 }

@@ -26,5 +26,6 @@ void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau,
 void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur);
 
 /// Draws and stores the next round of the current competition, with up to ten attempts, and warns of what they could
-/// not avoid. Round 1 goes through ConfirmeTirage.
-void LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur);
+/// not avoid. Round 1 goes through ConfirmeTirage. Gives false when that round is already in the file: then it becomes
+/// the current one as it stands.
+bool LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur);

@@ -86,12 +86,12 @@ Formulaire::Formulaire(const Contexte &contexte, QWidget *parent)
 
 int Formulaire::Left() const
 {
-    return enTwips(x());
+    return enTwips(m_placeVoulue.value_or(pos()).x());
 }
 
 int Formulaire::Top() const
 {
-    return enTwips(y());
+    return enTwips(m_placeVoulue.value_or(pos()).y());
 }
 
 QSize Formulaire::tailleCadre() const
@@ -111,7 +111,8 @@ int Formulaire::Height() const
 
 void Formulaire::Move(int gauche, int haut)
 {
-    move(enPixels(gauche), enPixels(haut));
+    m_placeVoulue = QPoint(enPixels(gauche), enPixels(haut));
+    move(*m_placeVoulue);
 }
 
 void Formulaire::Move(int gauche, int haut, int largeur, int hauteur)
@@ -322,6 +323,14 @@ void Formulaire::mousePressEvent(QMouseEvent *evenement)
         if (bouton == Bouton::Gauche)
             Form_Click();
     });
+}
+
+/// A desktop takes its time to put a new window into its frame: in between its place is only what was asked for.
+void Formulaire::moveEvent(QMoveEvent *evenement)
+{
+    if (isVisible())
+        m_placeVoulue.reset();
+    QWidget::moveEvent(evenement);
 }
 
 void Formulaire::resizeEvent(QResizeEvent *)

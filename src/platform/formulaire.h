@@ -6,9 +6,11 @@
 
 #include <QHash>
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class Formulaires;
 class QAbstractButton;
@@ -126,6 +128,7 @@ protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
     void focusInEvent(QFocusEvent *evenement) override;
     void mousePressEvent(QMouseEvent *evenement) override;
+    void moveEvent(QMoveEvent *evenement) override;
     void resizeEvent(QResizeEvent *evenement) override;
     void showEvent(QShowEvent *evenement) override;
     void closeEvent(QCloseEvent *evenement) override;
@@ -142,6 +145,7 @@ private:
     QHash<QWidget *, TraitementSouris> m_souris;
     QHash<QWidget *, Traitement> m_doubleClics;
     QSet<QComboBox *> m_listes;
+    std::optional<QPoint> m_placeVoulue;
 };
 
 /// Size of the screen in twips.

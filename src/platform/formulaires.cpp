@@ -1,6 +1,7 @@
 #include "platform/formulaires.h"
 
 #include "platform/roles_acces.h"
+#include "platform/twips.h"
 #include "ui/infobulles.h"
 
 #include <QApplication>
@@ -57,7 +58,7 @@ void Formulaires::place(Formulaire &formulaire) const
     const QRect dehors = m_parent->geometry();
     const int libreX = dehors.width() - formulaire.width();
     const int libreY = dehors.height() - formulaire.height();
-    formulaire.move(dehors.x() + std::max(libreX / 2, 0), dehors.y() + std::max(libreY * 2 / 5, 0));
+    formulaire.Move(enTwips(dehors.x() + std::max(libreX / 2, 0)), enTwips(dehors.y() + std::max(libreY * 2 / 5, 0)));
 }
 
 Formulaire *Formulaires::Charge(const QString &nom)

@@ -233,8 +233,10 @@ void EResultats::tirage_suivant_Click()
     const Sablier sablier;
     formulaires().Decharge(u"Groupes"_qs);
     m_signes = m_ui->tour_P1->text();
-    LanceTourSuivant(partage(), *this);
-
+    if (!LanceTourSuivant(partage(), *this)) {
+        afficheEtat(Moment::ChangementConcours);
+        return;
+    }
     m_ui->tirage_suivant->hide();
     m_ui->Label2->setText(u"Tour N° %1"_qs.arg(partage().TourCourant));
     const qint64 attendus =

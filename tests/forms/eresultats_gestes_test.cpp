@@ -178,6 +178,27 @@ TEST_F(TirageResultats, AnnulerLeTour)
     EXPECT_EQ(matchs(2).size(), 4u);
 }
 
+TEST_F(TirageResultats, UnConcoursRouvertApresUneAnnulationReprendLeTourDejaTire)
+{
+    ouvre(8);
+    tire();
+    joueEtTire();
+    joueEtTire();
+    presse(aCote(), Qt::ControlModifier);
+    rouvre();
+    EXPECT_EQ(prog.partage().TourCourant, 1); // the file is one round behind
+    const std::vector<MatchEssai> joues = matchs(2);
+    prog.boites.attend(u"Le tour N° 2 est déjà tiré"_qs);
+    tire();
+    EXPECT_EQ(matchs(2), joues);
+    EXPECT_EQ(tourpri(), 2);
+    EXPECT_EQ(texte(u"tirage_suivant"_qs), u"Tirage tour N°3"_qs);
+    EXPECT_TRUE(visible(u"tirage_suivant"_qs));
+    tire();
+    EXPECT_EQ(matchs(3).size(), 4u);
+    EXPECT_EQ(matchs(2), joues);
+}
+
 TEST_F(TirageResultats, AnnulerLeTour1LaisseUnConcoursSansRencontre)
 {
     ouvre(8);
