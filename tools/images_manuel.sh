@@ -31,6 +31,7 @@ forme concours concours-rempli
 forme liste-concours liste-concours 1200x130+0+0
 forme equipes bureau-equipes 1068x560+0+120
 forme equipes-correction equipes-correction
+forme clubs clubs
 forme liste-equipes liste-equipes
 forme joueurs joueurs-appel
 forme liste-joueurs liste-joueurs
