@@ -61,8 +61,8 @@ QString corps(const QString &markdown)
         remplace(html.mid(html.indexOf(QStringLiteral("<body"))), balise,
                  [](const QRegularExpressionMatch &trouve) { return trouve.captured().remove(presentation); });
     return remplace(sobre, titre, [](const QRegularExpressionMatch &trouve) {
-        return QStringLiteral("<%1 id=\"%2\">%3</%1>").arg(trouve.captured(1), ancre(trouve.captured(2)),
-                                                           trouve.captured(2));
+        return QStringLiteral("<%1 id=\"%2\">%3</%1>")
+            .arg(trouve.captured(1), ancre(trouve.captured(2)), trouve.captured(2));
     });
 }
 

@@ -13,7 +13,8 @@ QT_QPA_PLATFORM=offscreen build/bin/demonstration --equipes 37 --type 2 --graine
 reduit() { # picture, name, then what is to be done to it
     local source=$1 nom=$2
     shift 2
-    convert "$source" "$@" +repage +dither -colors 128 -strip -define png:exclude-chunks=date,time "PNG8:docs/images/$nom.png"
+    convert "$source" "$@" +repage +dither -colors 128 -strip -define png:exclude-chunks=date,time \
+        "PNG8:docs/images/$nom.png"
 }
 
 forme() { # name in the manual, picture of the day, part of it to keep (all without)

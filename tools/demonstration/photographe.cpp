@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <tuple>
 
 namespace demonstration {
 
