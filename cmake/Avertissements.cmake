@@ -7,6 +7,7 @@ target_compile_options(varlotour_reglages INTERFACE
 target_compile_definitions(varlotour_reglages INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(VARLOTOUR_SANITIZE)
-  target_compile_options(varlotour_reglages INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
+  target_compile_options(varlotour_reglages INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
   target_link_options(varlotour_reglages INTERFACE -fsanitize=address,undefined)
 endif()

@@ -1,7 +1,6 @@
 #include "app/programme.h"
 
 #include "app/accueil.h"
-#include "app/langues.h"
 #include "app/torvik.h"
 #include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
@@ -21,6 +20,7 @@
 #include "results/groupes.h"
 #include "results/manqres.h"
 #include "results/valresu.h"
+#include "ui/langues.h"
 
 #include <QDir>
 #include <QSysInfo>

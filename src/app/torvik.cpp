@@ -2,13 +2,13 @@
 
 #include "app/base.h"
 #include "app/langue.h"
-#include "app/langues.h"
 #include "app/routines.h"
 #include "app/sauvegarde.h"
 #include "maintenance/import_listes.h"
 #include "maintenance/purge.h"
 #include "platform/formulaires.h"
 #include "ui/apparence.h"
+#include "ui/langues.h"
 #include "ui_torvik.h"
 
 #include <QApplication>

@@ -18,6 +18,12 @@ namespace {
 /// Alt is on its way to another use when it is not held this long: another window, a key known by heart.
 constexpr int attenteLettres = 200; // milliseconds
 
+/// Some systems write with Alt: there, Qt makes no key of a marked letter.
+bool ALettresAlt()
+{
+    return !QKeySequence::mnemonic(u"&A"_qs).isEmpty();
+}
+
 QRect etiquette(const QRect &place, const QSize &dedans)
 {
     constexpr int cote = 24;
@@ -108,11 +114,11 @@ bool AccesClavier::eventFilter(QObject *objet, QEvent *evenement)
 bool AccesClavier::touche(QWidget &porteur, const QKeyEvent &evenement)
 {
     const Qt::KeyboardModifiers avec = evenement.modifiers() & ~Qt::KeypadModifier;
-    if (evenement.key() == Qt::Key_Alt) {
+    if (evenement.key() == Qt::Key_Alt && ALettresAlt()) {
         m_attente.start();
         return false;
     }
-    if (avec.testFlag(Qt::AltModifier) && !avec.testFlag(Qt::ControlModifier))
+    if (ALettresAlt() && avec.testFlag(Qt::AltModifier) && !avec.testFlag(Qt::ControlModifier))
         return toucheAlt(*porteur.window(), evenement);
     if (evenement.key() == Qt::Key_F6 && (avec & ~Qt::ShiftModifier) == 0) {
         autreFenetre(avec.testFlag(Qt::ShiftModifier));
@@ -145,7 +151,8 @@ bool AccesClavier::toucheAlt(QWidget &fenetre, const QKeyEvent &evenement)
             vaA(touche.controle);
         return true;
     }
-    return false;
+    // A letter that leads nowhere must not be written into the field that it was pressed in.
+    return signe >= u'A' && signe <= u'Z';
 }
 
 void AccesClavier::montreLettres()

@@ -53,7 +53,8 @@ ReponseBoite BoitesQt::MsgBox(const QString &texte, int drapeaux, const QString 
     boite.setText(QString(texte).replace(u"\r\n"_qs, u"\n"_qs));
     boite.setTextFormat(Qt::PlainText);
     boite.setIcon(image(drapeaux));
-    const int boutons = drapeaux & 0x7;
+    boite.setWindowFlag(Qt::WindowStaysOnTopHint, drapeaux == vbYesNoDevant);
+    const int boutons = BoutonsBoite(drapeaux);
     if (boutons == vbYesNo || boutons == vbYesNoCancel) {
         boite.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         boite.setDefaultButton(QMessageBox::Yes);

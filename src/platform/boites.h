@@ -17,7 +17,14 @@ enum DrapeauBoite {
     vbQuestion = 32,
     vbExclamation = 48,
     vbInformation = 64,
+    vbYesNoDevant = 524294, ///< Yes and No, in front of the windows of every program.
 };
+
+/// The buttons that \p drapeaux asks for: vbOKOnly, vbYesNo or vbYesNoCancel.
+inline int BoutonsBoite(int drapeaux)
+{
+    return drapeaux == vbYesNoDevant ? vbYesNo : drapeaux & 0x7;
+}
 
 /// What the file dialog starts with.
 struct BoiteFichier

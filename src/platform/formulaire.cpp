@@ -94,14 +94,19 @@ int Formulaire::Top() const
     return enTwips(y());
 }
 
+QSize Formulaire::tailleCadre() const
+{
+    return formulaires().cadre(*this);
+}
+
 int Formulaire::Width() const
 {
-    return enTwips(frameGeometry().width());
+    return enTwips(width() + tailleCadre().width());
 }
 
 int Formulaire::Height() const
 {
-    return enTwips(frameGeometry().height());
+    return enTwips(height() + tailleCadre().height());
 }
 
 void Formulaire::Move(int gauche, int haut)
@@ -111,9 +116,8 @@ void Formulaire::Move(int gauche, int haut)
 
 void Formulaire::Move(int gauche, int haut, int largeur, int hauteur)
 {
-    const QSize cadre = frameGeometry().size() - size();
     Move(gauche, haut);
-    resize(enPixels(largeur) - cadre.width(), enPixels(hauteur) - cadre.height());
+    resize(enPixels(largeur) - tailleCadre().width(), enPixels(hauteur) - tailleCadre().height());
 }
 
 QLineEdit *Formulaire::champTexte(const QString &nom) const

@@ -74,6 +74,7 @@ public:
     /// Rebuilds what the form shows of the store, when it is visible.
     virtual void Rafraichir() {}
 
+    // The frame that the desktop draws round the form counts.
     int Left() const;
     int Top() const;
     int Width() const;
@@ -130,6 +131,7 @@ protected:
     void closeEvent(QCloseEvent *evenement) override;
 
 private:
+    QSize tailleCadre() const;
     bool toucheSurControle(QWidget *controle, QKeyEvent *evenement);
     bool retientListe(QWidget *controle, const QEvent &evenement);
 

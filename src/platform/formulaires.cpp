@@ -102,6 +102,19 @@ void Formulaires::MontreSansFocus(const QString &nom)
         devant->activateWindow();
 }
 
+QSize Formulaires::cadre(const QWidget &fenetre)
+{
+    const QWidget *const modeles[] = {&fenetre, m_active, m_parent};
+    for (const QWidget *modele : modeles) {
+        if (modele == nullptr || !modele->isVisible())
+            continue;
+        const QSize sien = modele->frameGeometry().size() - modele->size();
+        if (!sien.isNull())
+            return m_cadre = sien;
+    }
+    return m_cadre;
+}
+
 void Formulaires::Cache(const QString &nom)
 {
     if (Formulaire *formulaire = forme(nom))

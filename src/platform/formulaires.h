@@ -48,6 +48,10 @@ public:
     bool estChargee(const QString &nom) const { return m_chargees.contains(nom); }
     bool estVisible(const QString &nom) const;
 
+    /// What the desktop's frame adds to the size of a window, in pixels. A desktop gives a window its frame once the
+    /// window stands; until then what it gave to others counts.
+    QSize cadre(const QWidget &fenetre);
+
     Redimensionnement &redimensionnement() { return m_redimensionnement; }
 
 protected:
@@ -67,6 +71,7 @@ private:
     QPointer<Formulaire> m_devant;
     QPointer<QWidget> m_controle;
     QPointer<Formulaire> m_formeDuControle;
+    QSize m_cadre{0, 0};
     bool m_enAttente = false;
     bool m_sourisPressee = false;
     bool m_pressionPerdue = false;

@@ -204,9 +204,10 @@ void palmares::elargit(FlexGrid &grille)
     fixeLargeur(largeur + autourGrille);
 }
 
-/// Keeps the middle of the form where it is, and the form on the screen.
-void palmares::fixeLargeur(int twips)
+/// Gives the form \p interieure twips inside its frame; its middle stays where it is, and the form on the screen.
+void palmares::fixeLargeur(int interieure)
 {
+    const int twips = interieure + Width() - enTwips(width());
     const int gauche = std::clamp(Left() + (Width() - twips) / 2, 0, std::max(Ecran::Width() - twips, 0));
     Move(gauche, Top(), twips, Height());
 }

@@ -37,7 +37,7 @@ private:
     void reconstruit(int Index);
     void montreFeuilles(int Index);
     void elargit(FlexGrid &grille);
-    void fixeLargeur(int twips);
+    void fixeLargeur(int interieure);
     void disAucuneRencontre();
     bool imprimeZone(const FlexGrid &grille) const;
 

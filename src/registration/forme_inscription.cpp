@@ -152,7 +152,7 @@ void FormeInscription::signaleEngagement(const Engagement &engagement, int place
     const QString joueur = u"%1 %2(%3)"_qs.arg(engagement.nom, engagement.prenom, engagement.societe);
     MsgBox(mes(103) + u" : "_qs + ligne.LicenceJ->text() + saut + mes(19) + u" : "_qs + joueur + saut + mes(104) + u' '
                + mes(17) + QString::number(engagement.equipe) + saut + saut + mes(105),
-           vbYesNo);
+           vbYesNoDevant);
     const bool memePersonne = memeTexte(engagement.nom, ligne.NomJ->text())
         && memeTexte(engagement.prenom, ligne.PrénomJ->text())
         && memeTexte(engagement.societe, m_champs.Société->text());

@@ -77,7 +77,7 @@ void valresu::ajusteLargeur()
         colonnes += grille.LargeurAffichee(colonne);
     const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
     const int largeur = std::max(largeurGrille, colonnes + cadre);
-    const int libre = enPixels(largeurLibre) - (frameGeometry().width() - width());
+    const int libre = enPixels(largeurLibre) - formulaires().cadre(*this).width();
     const int marge = std::clamp((libre - largeur) / 2, 0, gaucheGrille);
     grille.setGeometry(marge, marge, largeur, height() - 2 * marge);
     if (width() != largeur + 2 * marge) {

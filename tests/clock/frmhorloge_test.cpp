@@ -110,7 +110,7 @@ protected:
 
 TEST_F(BoiteAOutils, OuverteEtFermeeParLeMemeBouton)
 {
-    EXPECT_EQ(forme()->Left(), Ecran::Width() - enTwips(forme()->width()));
+    EXPECT_EQ(forme()->Left(), Ecran::Width() - forme()->Width());
     EXPECT_EQ(forme()->Top(), 0);
     EXPECT_EQ(texte(u"Heure"_qs), u"09:30:00"_qs);
     passe(61);

@@ -71,7 +71,7 @@ std::optional<BoitesScript::Attendue> BoitesScript::suivante(const QString &text
 ReponseBoite BoitesScript::MsgBox(const QString &texte, int drapeaux, const QString &titre)
 {
     m_drapeaux = drapeaux;
-    const int boutons = drapeaux & 0x7;
+    const int boutons = BoutonsBoite(drapeaux);
     const bool question = boutons == vbYesNo || boutons == vbYesNoCancel;
     if (m_muette) {
         compte();

@@ -150,6 +150,7 @@ TEST_F(Clavier, UneJourneeEntiere)
     alt(u"hit"_qs);
     ASSERT_EQ(fenetre(), u"palmares"_qs);
     const auto *grille = QApplication::activeWindow()->findChild<FlexGrid *>(u"Thonneur_1"_qs);
+    ASSERT_NE(grille, nullptr);
     alt(u"Thonneur_1"_qs);
     touches({Qt::Key_Down, Qt::Key_Down});
     touche(Qt::Key_Down, Qt::ShiftModifier);
@@ -172,6 +173,7 @@ TEST_F(Clavier, LesGrillesSeCliquentAuClavier)
 
     alt(u"hit"_qs);
     const auto *grille = QApplication::activeWindow()->findChild<FlexGrid *>(u"Thonneur_1"_qs);
+    ASSERT_NE(grille, nullptr);
     alt(u"Thonneur_1"_qs);
     touches({Qt::Key_Down, Qt::Key_Right});
     EXPECT_EQ(grille->Text(), u"  1 (A)  bat   2 (B) "_qs);
@@ -194,6 +196,9 @@ TEST_F(Clavier, LesLettresSeMontrentTantQueAltEstTenue)
     alt(u"Text4"_qs);
     EXPECT_EQ(etiquettes(), sans);
     EXPECT_EQ(prog.focus(), u"Text4"_qs);
+    // A letter that leads nowhere does nothing, and is not written either.
+    QTest::keyClick(QApplication::focusWidget(), 'x', Qt::AltModifier);
+    EXPECT_EQ(qobject_cast<QLineEdit *>(QApplication::focusWidget())->text(), QString());
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
     QTest::qWait(300);
     EXPECT_EQ(etiquettes(), sans);

@@ -1,4 +1,4 @@
-#include "app/langues.h"
+#include "ui/langues.h"
 
 #include "app/langue.h"
 #include "ui_langues.h"
