@@ -7,7 +7,17 @@ set(originaux_poses ${CMAKE_BINARY_DIR}/base/VarloBase.mdb ${CMAKE_RUNTIME_OUTPU
 foreach(numero RANGE 1 6)
   list(APPEND originaux_poses ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${numero}.ico)
 endforeach()
-set(papiers docs/manuel.md docs/carte-rapide.md)
+set(papiers ${CMAKE_BINARY_DIR}/docs/manuel.html docs/carte-rapide.html)
+# Installed as a page for the browser, which shows its pictures and prints it; the links to them are the same.
+add_custom_command(
+  OUTPUT ${CMAKE_BINARY_DIR}/docs/manuel.html
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/docs
+  COMMAND creemanuel ${PROJECT_SOURCE_DIR}/docs/manuel.md ${CMAKE_BINARY_DIR}/docs/manuel.html
+          "VarloTour : le manuel de l'organisateur"
+  DEPENDS creemanuel docs/manuel.md
+  COMMENT "Making the manual's page"
+  VERBATIM)
+add_custom_target(manuel ALL DEPENDS ${CMAKE_BINARY_DIR}/docs/manuel.html)
 set(bureau ${PROJECT_SOURCE_DIR}/packaging/bureau)
 
 string(TIMESTAMP jour %Y-%m-%d UTC)

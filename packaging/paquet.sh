@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source packaging/langue.sh
 
-packaging/construit.sh VarloTour ressources
+packaging/construit.sh VarloTour ressources manuel
 if ! command -v dpkg-deb >/dev/null; then
     echo "Sans dpkg-deb, seul le dossier à emporter est fait." >&2
     set -- -G TGZ

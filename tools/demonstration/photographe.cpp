@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <tuple>
 
 namespace demonstration {
 
@@ -46,11 +47,14 @@ const QStringView chronique[] = {
     u"resultats-mot",
     u"resultats-correction",
     u"resultats-tour-complet",
+    u"resultats-lettres",
     u"boite-meme-club",
     u"boite-deja-rencontrees",
     u"vue-attendus",
     u"vue-classement",
     u"vue-joues",
+    u"vue-attendus-lancee",
+    u"vue-groupes",
     u"detail-equipe",
     u"vue-joues-triee",
     u"resultats-recopie",
@@ -137,7 +141,10 @@ void Photographe::prendBureau(QStringView nom, QWidget &fond)
     QPainter peintre(&bureau);
     QWidgetList fenetres = QApplication::topLevelWidgets();
     const QWidget *devant = QApplication::activeWindow();
-    std::ranges::stable_partition(fenetres, [devant](const QWidget *fenetre) { return fenetre != devant; });
+    // Nobody tells how windows lie on a screen that nobody sees, and their list has no order of its own.
+    std::ranges::sort(fenetres, {}, [devant](const QWidget *fenetre) {
+        return std::tuple(fenetre == devant, fenetre->x(), fenetre->y(), fenetre->objectName());
+    });
     for (QWidget *fenetre : std::as_const(fenetres)) {
         if (fenetre->isVisible() && fenetre != &fond && fenetre->windowType() == Qt::Window)
             peintFenetre(peintre, *fenetre, fenetre == devant);

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QTest>
 
 namespace demonstration {
 
@@ -18,6 +19,7 @@ constexpr int scoreForfait = -1;
 constexpr int pourcentDoubleClic = 5;
 constexpr int pourcentCorrection = 4;
 constexpr int pourcentMot = 1;
+constexpr int lettresMs = 300;
 
 } // namespace
 
@@ -88,6 +90,8 @@ int Resultats::saisitTour()
     for (int place = 0; place < nombre; ++place)
         joue(rencontres[size_t(place)], place, nombre);
     photographie(termine() ? u"resultats-termine" : u"resultats-tour-complet");
+    if (tour() == 1)
+        montreLettres();
     return nombre;
 }
 
@@ -231,6 +235,8 @@ void Resultats::basculeLancee()
     const quint32 avant = attendus->CellBackColor(1, 1);
     m_main.cliqueCellule(attendus, 1, 1, Qt::RightButton);
     exige(attendus->CellBackColor(1, 1) != avant, u"La rencontre lancée ne se distingue pas des autres."_qs);
+    m_photographe.prend(u"vue-attendus-lancee", *m_main.fenetre(u"manqres"_qs));
+    m_photographe.prend(u"vue-groupes", *m_main.fenetre(u"Groupes"_qs));
     m_main.cliqueCellule(attendus, 1, 1, Qt::RightButton);
     exige(attendus->CellBackColor(1, 1) == avant, u"La rencontre est restée lancée."_qs);
 }
@@ -242,6 +248,16 @@ void Resultats::montreDetail()
     m_photographe.prend(u"detail-equipe", *m_main.fenetre(detail));
     m_main.fenetre(detail)->close();
     m_main.exigeFocus(forme, u"Equipe1"_qs);
+}
+
+/// The letters come up for a hand that keeps Alt down.
+void Resultats::montreLettres()
+{
+    QWidget *champ = m_main.controle(forme, u"Equipe1"_qs);
+    QTest::keyPress(champ, Qt::Key_Alt);
+    QTest::qWait(lettresMs);
+    photographie(u"resultats-lettres");
+    QTest::keyRelease(champ, Qt::Key_Alt);
 }
 
 void Resultats::verifie(const Rencontre &rencontre, const Score &score)

@@ -56,6 +56,7 @@ private:
     void corrigeParLesVues(const Rencontre &rencontre);
     void basculeLancee();
     void montreDetail();
+    void montreLettres();
     void verifie(const Rencontre &rencontre, const Score &score);
     void photographie(QStringView nom);
 
