@@ -110,15 +110,18 @@ void ProgrammePilote::touche(Qt::Key touche, Qt::KeyboardModifiers avec)
     QTest::keyClick(QApplication::focusWidget(), touche, avec);
 }
 
-/// The mouse goes through the window, as from the desktop: it meets whatever stands at that place by then.
+/// The mouse goes through the window, as from the desktop: it meets whatever stands at that place by then. The program
+/// is at rest first, whatever the speed of the machine: clicks made during a long operation are dropped.
 void ProgrammePilote::clique(const QString &forme, const QString &nom)
 {
+    QApplication::processEvents();
     if (const QWidget *widget = cherche(forme, nom))
         QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
 }
 
 void ProgrammePilote::doubleClique(const QString &forme, const QString &nom)
 {
+    QApplication::processEvents();
     if (const QWidget *widget = cherche(forme, nom))
         QTest::mouseDClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
     QApplication::processEvents();
