@@ -78,6 +78,12 @@ Concours::Clic Concours::clique(SourceAleatoire &alea, bool reponse)
         confirme(alea, reponse, clic);
         return clic;
     }
+    if (std::ranges::any_of(rencontres, [this](const Rencontre &r) { return r.tour == tourCourant + 1; })) {
+        tourpri = ++tourCourant;
+        clic.repris = true;
+        clic.dits += u"informe : Le tour N° %1 est déjà tiré : le concours reprend à ce tour"_qs.arg(tourCourant);
+        return clic;
+    }
     moteur::TabTirage table;
     bool encore = true;
     while (encore) {

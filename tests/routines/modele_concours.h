@@ -28,6 +28,7 @@ struct Concours
     {
         QStringList dits;
         int essais = 0;
+        bool repris = false; ///< The round was there already.
         std::vector<moteur::LigneClassement> classement; ///< In order of rank.
         Journal journal;
     };
