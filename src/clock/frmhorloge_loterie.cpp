@@ -125,7 +125,7 @@ void FrmHorloge::finitTirage()
 void FrmHorloge::Decale(int colonne)
 {
     Colonne &tournee = m_colonnes[size_t(colonne)];
-    std::ranges::rotate(tournee.figures, tournee.figures.begin() + 1);
+    std::rotate(tournee.figures.begin(), tournee.figures.begin() + 1, tournee.figures.end());
     ++tournee.decalees;
 }
 

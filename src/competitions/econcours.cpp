@@ -8,7 +8,6 @@
 using store::EstNumerique;
 using store::LireDate;
 using store::Recordset;
-using store::Val;
 
 namespace {
 

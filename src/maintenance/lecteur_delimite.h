@@ -15,7 +15,7 @@ class LecteurDelimite
 {
 public:
     /// Bytes and fields that a row may have.
-    static constexpr qsizetype longueurMax = 64 * 1024;
+    static constexpr qsizetype longueurMax = 65536;
     static constexpr std::size_t champsMax = 500;
 
     /// Reads the line of the names. Throws ErreurLecture, also when there is none.

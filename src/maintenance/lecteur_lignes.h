@@ -11,7 +11,7 @@ class LecteurLignes
 {
 public:
     /// Bytes that a line may have; a longer one is no line of a list, and nobody has the memory to find its end.
-    static constexpr qsizetype longueurMax = 64 * 1024;
+    static constexpr qsizetype longueurMax = 65536;
 
     explicit LecteurLignes(QIODevice &source) : m_flux(source) {}
 

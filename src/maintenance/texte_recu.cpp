@@ -10,7 +10,7 @@ namespace recu {
 
 namespace {
 
-constexpr qint64 tailleBloc = 64 * 1024;
+constexpr qint64 tailleBloc = 65536;
 constexpr unsigned char premierAccent = 0x80;
 
 /// The characters of Windows-1252 from 0x80 to 0x9F; the others are those of Latin-1.
