@@ -200,27 +200,27 @@ void Formulaire::surChoix(QComboBox *combo, Traitement traitement)
 
 void Formulaire::surKeyDown(QWidget *controle, TraitementTouche traitement)
 {
-    m_touches.insert(controle, std::move(traitement));
+    m_touches[controle] = std::move(traitement);
 }
 
 void Formulaire::surGotFocus(QWidget *controle, Traitement traitement)
 {
-    m_gotFocus.insert(controle, std::move(traitement));
+    m_gotFocus[controle] = std::move(traitement);
 }
 
 void Formulaire::surLostFocus(QWidget *controle, Traitement traitement)
 {
-    m_lostFocus.insert(controle, std::move(traitement));
+    m_lostFocus[controle] = std::move(traitement);
 }
 
 void Formulaire::surMouseDown(QWidget *controle, TraitementSouris traitement)
 {
-    m_souris.insert(controle, std::move(traitement));
+    m_souris[controle] = std::move(traitement);
 }
 
 void Formulaire::surDblClick(QWidget *controle, Traitement traitement)
 {
-    m_doubleClics.insert(controle, std::move(traitement));
+    m_doubleClics[controle] = std::move(traitement);
 }
 
 void Formulaire::prepareControles()

@@ -41,7 +41,7 @@ Formulaires::~Formulaires()
 
 void Formulaires::enregistre(const QString &nom, Fabrique fabrique)
 {
-    m_fabriques.insert(nom, std::move(fabrique));
+    m_fabriques[nom] = std::move(fabrique);
 }
 
 void Formulaires::prepare(const Contexte &contexte, QWidget *parent)

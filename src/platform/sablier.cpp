@@ -28,6 +28,11 @@ protected:
     }
 };
 
+void avaleLesClicsEnAttente()
+{
+    new AvaleClics; // goes by itself
+}
+
 } // namespace
 
 Sablier::Sablier()
@@ -40,7 +45,7 @@ Sablier::~Sablier()
 {
     QApplication::restoreOverrideCursor();
     if (m_duree.hasExpired(dureeImpatience))
-        new AvaleClics;
+        avaleLesClicsEnAttente();
 }
 
 Sablier::Pause::Pause()
