@@ -29,7 +29,7 @@ public:
         const qsizetype fin = m_reste.indexOf(separateur);
         if (fin < 0)
             throw recu::ErreurLecture(u"La ligne est incomplète : il y manque %1."_qs.arg(quoi));
-        const QString champ = m_reste.left(fin);
+        QString champ = m_reste.left(fin);
         m_reste.remove(0, fin + 1);
         return champ;
     }

@@ -5,6 +5,9 @@
 #include "registration/equipe_inscrite.h"
 #include "store/collation.h"
 
+#include <QComboBox>
+#include <QLineEdit>
+
 using store::EstNumerique;
 using store::Recordset;
 using store::Val;

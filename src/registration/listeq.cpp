@@ -10,6 +10,8 @@
 #include "ui_listeq.h"
 
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
 
 using store::Recordset;
 

@@ -8,6 +8,9 @@
 #include "registration/equipe_inscrite.h"
 #include "ui_listjo.h"
 
+#include <QComboBox>
+#include <QLineEdit>
+
 using store::Recordset;
 
 namespace {
