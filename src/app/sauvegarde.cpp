@@ -6,6 +6,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
 
 namespace {
 
@@ -87,7 +90,11 @@ QString SauveBase(Partage &partage)
     try {
         PrepareSauvegardes(partage);
         partage.BaseDonnees.native().copieVers(provisoire);
-        if (!QFile::rename(provisoire, dossier.filePath(nom + finNom)))
+        // The plain rename of the file system: one that copies when it fails could leave a part under the final name.
+        std::error_code echec;
+        std::filesystem::rename(QFileInfo(provisoire).filesystemFilePath(),
+                                QFileInfo(dossier, nom + finNom).filesystemFilePath(), echec);
+        if (echec)
             cause = u"le fichier ne peut pas être nommé."_qs;
     } catch (const store::Erreur &erreur) {
         cause = erreur.numero() == store::Erreur::DisquePlein
