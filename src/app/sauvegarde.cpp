@@ -3,12 +3,10 @@
 #include "app/base.h"
 #include "store/base_native.h"
 #include "store/erreur.h"
+#include "store/fichiers.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
-
-#include <filesystem>
 
 namespace {
 
@@ -90,11 +88,7 @@ QString SauveBase(Partage &partage)
     try {
         PrepareSauvegardes(partage);
         partage.BaseDonnees.native().copieVers(provisoire);
-        // The plain rename of the file system: one that copies when it fails could leave a part under the final name.
-        std::error_code echec;
-        std::filesystem::rename(QFileInfo(provisoire).filesystemFilePath(),
-                                QFileInfo(dossier, nom + finNom).filesystemFilePath(), echec);
-        if (echec)
+        if (!store::renomme(provisoire, dossier.filePath(nom + finNom)))
             cause = u"le fichier ne peut pas être nommé."_qs;
     } catch (const store::Erreur &erreur) {
         cause = erreur.numero() == store::Erreur::DisquePlein

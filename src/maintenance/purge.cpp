@@ -3,6 +3,7 @@
 #include "app/base.h"
 #include "maintenance/patience.h"
 #include "store/base_native.h"
+#include "store/fichiers.h"
 
 #include <QDir>
 #include <QFile>
@@ -117,7 +118,7 @@ void FichiersBase::compacte(const QString &source, const QString &cible) const
 
 void FichiersBase::renomme(const QString &ancien, const QString &nouveau) const
 {
-    if (!QFile::rename(ancien, nouveau))
+    if (!store::renomme(ancien, nouveau))
         throw Erreur(Erreur::DossierProtege,
                      u"Le fichier %1 ne peut pas être renommé."_qs.arg(affiche(ancien)));
 }

@@ -1,3 +1,5 @@
+#include "app/base.h"
+#include "app/sauvegarde.h"
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
 #include "journee.h"
@@ -256,6 +258,14 @@ protected:
         return true;
     }
 
+    /// Size and first bytes of a file.
+    static std::string debut(const QString &chemin)
+    {
+        QFile fichier(chemin);
+        fichier.open(QIODevice::ReadOnly);
+        return u"%1 bytes: "_qs.arg(fichier.size()).toStdString() + fichier.read(16).toHex().toStdString();
+    }
+
     /// Every copy that bears its name is one of the states of the day.
     static void verifieCopies(const QString &dossier, const std::vector<QStringList> &etats)
     {
@@ -263,9 +273,13 @@ protected:
         const QStringList noms = copies.entryList({u"*.mdb"_qs}, QDir::Files);
         EXPECT_LE(noms.size(), 20);
         for (const QString &nom : noms) {
-            store::BaseNative copie(copies.filePath(nom), u"qz7tkn42"_qs, store::BaseNative::Mode::LectureSeule);
-            EXPECT_EQ(copie.valeurUnique(u"pragma integrity_check"_qs).texte(), u"ok"_qs);
-            EXPECT_NE(std::find(etats.begin(), etats.end(), Contenu(copie)), etats.end()) << nom.toStdString();
+            try {
+                store::BaseNative copie(copies.filePath(nom), motDePasseBase, store::BaseNative::Mode::LectureSeule);
+                EXPECT_EQ(copie.valeurUnique(u"pragma integrity_check"_qs).texte(), u"ok"_qs);
+                EXPECT_NE(std::find(etats.begin(), etats.end(), Contenu(copie)), etats.end()) << nom.toStdString();
+            } catch (const store::Erreur &erreur) {
+                ADD_FAILURE() << erreur.phrase().toStdString() << " (" << debut(copies.filePath(nom)) << ')';
+            }
         }
     }
 
@@ -304,4 +318,27 @@ TEST_F(Coupures, WhateverHappensAnAcknowledgedEntryIsThereAndNothingIsHalfWritte
     }
     std::cout << departs << " runs, " << m_tuees << " killed, " << m_refus << " failed operations\n";
     EXPECT_GT(m_tuees, 0);
+}
+
+TEST_F(Coupures, ADiskThatRefusesAnyCallOfACopyLeavesNoPartOfItUnderItsName)
+{
+    const BaseEssai base;
+    AleaFixe alea{1};
+    Horloge horloge;
+    Partage partage(base.dossier(), alea, horloge);
+    partage.BaseDonnees = base.ouvre();
+    std::vector<QStringList> etats;
+    for (const auto &[genre, duree] : {std::pair{Genre::Refus, 1}, {Genre::Refus, 8}, {Genre::Plein, 1000}}) {
+        bool frappe = true;
+        for (int apres = 0; frappe; ++apres) {
+            partage.BaseDonnees.Execute(u"insert into scores (concours, tour) values (1, 1)"_qs);
+            etats.push_back(Contenu(partage.BaseDonnees.native()));
+            panne::arme(genre, apres, duree);
+            SauveBase(partage);
+            frappe = panne::desarme();
+            verifieCopies(base.dossier(), etats);
+            ASSERT_FALSE(HasFailure()) << "call " << apres << " failed, and " << duree - 1 << " more";
+        }
+    }
+    EXPECT_GT(etats.size(), 60U);
 }

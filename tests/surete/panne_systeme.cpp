@@ -12,6 +12,7 @@ namespace {
 panne::Genre genreArme = panne::Genre::Aucune;
 int reste = 0;
 int aEchouer = 0;
+bool aFrappe = false;
 
 bool mortelle()
 {
@@ -26,9 +27,10 @@ bool echoue(bool ecriture)
     if (mortelle())
         kill(getpid(), SIGKILL);
     if (aEchouer-- <= 0) {
-        panne::desarme();
+        genreArme = panne::Genre::Aucune;
         return false;
     }
+    aFrappe = true;
     errno = genreArme == panne::Genre::Plein ? ENOSPC : EIO;
     return true;
 }
@@ -57,11 +59,13 @@ void panne::arme(Genre genre, int apres, int duree)
     genreArme = genre;
     reste = apres;
     aEchouer = duree;
+    aFrappe = false;
 }
 
-void panne::desarme()
+bool panne::desarme()
 {
     genreArme = Genre::Aucune;
+    return aFrappe;
 }
 
 extern "C" {

@@ -14,6 +14,7 @@ enum class Genre {
 
 /// Lets \p apres calls through, then fails \p duree of them.
 void arme(Genre genre, int apres, int duree);
-void desarme();
+/// Whether a call has failed since arme().
+bool desarme();
 
 } // namespace panne

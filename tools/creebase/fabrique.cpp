@@ -5,14 +5,13 @@
 #include "lecteur.h"
 #include "store/base_native.h"
 #include "store/erreur.h"
+#include "store/fichiers.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QSaveFile>
-
-#include <filesystem>
 
 using store::BaseNative;
 using store::Instruction;
@@ -257,11 +256,8 @@ void creeBase(const QString &dossier, const QString &cible)
         ecrit(QDir(dossier), provisoire);
         if (QFileInfo::exists(cible + u"-wal"_qs))
             throw ErreurDonnees(cible, 0, u"la base est ouverte ou a été mal refermée"_qs);
-        std::error_code code;
-        std::filesystem::rename(QFileInfo(provisoire).filesystemFilePath(), QFileInfo(cible).filesystemFilePath(),
-                                code);
-        if (code)
-            throw ErreurDonnees(cible, 0, u"écriture impossible (%1)"_qs.arg(QString::fromStdString(code.message())));
+        if (!store::renomme(provisoire, cible))
+            throw ErreurDonnees(cible, 0, u"écriture impossible"_qs);
     } catch (...) {
         efface(provisoire);
         throw;
