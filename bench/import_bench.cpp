@@ -34,7 +34,7 @@ void ImportJoueurs(benchmark::State &etat)
     prog.demarre();
     ecritJoueurs(prog.dossier() + u"/joueurs.txt"_qs, lignes);
     auto *menu = prog.torvik()->findChild<QAction *>(u"mnu_ijoueur"_qs);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         QElapsedTimer montre;
         montre.start();
         menu->trigger();

@@ -65,7 +65,7 @@ void OuvreListeJoueurs(benchmark::State &etat)
 {
     limite(etat, 500);
     TableInscription table(16);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         table.ouvreListe(u"Command2"_qs);
         etat.PauseTiming();
         if (table.grille(u"listjo"_qs).Rows() != joueurs + 1)
@@ -81,7 +81,7 @@ void OuvreListeEquipes(benchmark::State &etat)
 {
     limite(etat, 500);
     TableInscription table(int(etat.range(0)));
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         table.ouvreListe(u"Command1"_qs);
         etat.PauseTiming();
         if (table.grille(u"listeq"_qs).Rows() != 3 * etat.range(0) + 1)
@@ -108,7 +108,7 @@ void TrieListeJoueurs(benchmark::State &etat)
     table.ouvreListe(u"Command2"_qs);
     FlexGrid &grille = table.grille(u"listjo"_qs);
     const QPoint cellule = grille.visualRect(grille.model()->index(0, int(etat.range(0)))).center();
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         QTest::mouseClick(grille.viewport(), Qt::RightButton, Qt::NoModifier, cellule);
         QApplication::processEvents();
     }
@@ -128,7 +128,7 @@ void DefileListeJoueurs(benchmark::State &etat)
     TableInscription table(16);
     table.ouvreListe(u"Command2"_qs);
     QScrollBar *barre = table.grille(u"listjo"_qs).verticalScrollBar();
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         barre->setValue(barre->value() < barre->maximum() ? barre->value() + barre->pageStep() : 0);
         QApplication::processEvents();
     }
@@ -141,7 +141,7 @@ void OuvreFichierJoueurs(benchmark::State &etat)
     limite(etat, 500);
     TableInscription table(16);
     auto *entree = table.prog.torvik()->findChild<QAction *>(u"mnu_joueurs"_qs);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         entree->trigger();
         QApplication::processEvents();
         etat.PauseTiming();

@@ -39,7 +39,7 @@ void Palmares(benchmark::State &etat)
     limite(etat, double(etat.range(2)));
     ProgrammePilote prog;
     prepare(prog, int(etat.range(0)), int(etat.range(1)));
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         prog.formulaires().Montre(u"palmares"_qs);
         QApplication::processEvents();
         etat.PauseTiming();
@@ -62,7 +62,7 @@ void FeuilleTirage(benchmark::State &etat)
     prepare(prog, int(etat.range(0)), 1);
     const QString fichier = prog.dossier() + u"/tirage.pdf"_qs;
     prog.boites.imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
-    for (auto _ : etat)
+    for ([[maybe_unused]] auto _ : etat)
         ImprimeTirage({prog.partage(), prog.formulaires(), prog.boites}, ModeTirage::Tirage, false, 1, QString());
     if (QFileInfo(fichier).size() == 0)
         etat.SkipWithError("nothing was printed");

@@ -88,7 +88,7 @@ void CalculClassement(benchmark::State &etat)
     partage.BaseDonnees = base.ouvre();
     poseSaison(partage.BaseDonnees);
     const qint32 concours = poseConcoursJoue(partage.BaseDonnees, int(etat.range(0)), int(etat.range(1)));
-    for (auto _ : etat)
+    for ([[maybe_unused]] auto _ : etat)
         ::CalculClassement(partage, QString::number(concours));
 }
 BENCHMARK(CalculClassement)
@@ -111,7 +111,7 @@ void CopieDeSecurite(benchmark::State &etat)
     Partage partage(base.dossier(), alea, horloge);
     partage.BaseDonnees = base.ouvre();
     poseSaison(partage.BaseDonnees);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         etat.PauseTiming();
         partage.BaseDonnees.Execute(u"update concours set tourpri = 1");
         etat.ResumeTiming();
@@ -128,7 +128,7 @@ void ClicTirageSuivant(benchmark::State &etat)
     limite(etat, 150);
     const int tours = int(etat.range(1));
     EcranResultats ecran(int(etat.range(0)), tours);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         ecran.revientAuTour(tours);
         // What the draw could not avoid is told in a box; the operator's time to answer is not the program's.
         ecran.prog.boites.repondATout();
@@ -158,7 +158,7 @@ void ResultatEntre(benchmark::State &etat)
     EcranResultats ecran(int(etat.range(0)), tours);
     ProgrammePilote &prog = ecran.prog;
     prog.clique(u"EResultats"_qs, u"tirage_suivant"_qs);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         const QString attendue = prog.valeur(u"select equipe_1 from scores where score_1 is null limit 1"_qs).texte();
         prog.tape(attendue + u"\n7"_qs);
         QElapsedTimer montre;
@@ -176,7 +176,7 @@ BENCHMARK(ResultatEntre)->ArgName("equipes")->Arg(512)->Unit(benchmark::kMillise
 void Demarrage(benchmark::State &etat)
 {
     limite(etat, 400);
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         ProgrammePilote prog;
         prog.avecCopies();
         if (etat.range(0) != 0) {

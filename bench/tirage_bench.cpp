@@ -16,7 +16,7 @@ void TirageSuivant(benchmark::State &etat)
     const std::vector<QString> clubs = concours.clubs(classement);
     const std::vector<moteur::PaireJouee> jouees = concours.jouees();
     std::vector<moteur::LigneClassement> lignes;
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         lignes = classement; // the draw changes its rows
         benchmark::DoNotOptimize(
             moteur::tireTourSuivant({lignes, clubs, jouees, concours.tourpri(), concours.repeche()}));
@@ -43,7 +43,7 @@ void TirageSuivantUnSeulClub(benchmark::State &etat)
     const std::vector<moteur::LigneClassement> classement = concours.classement();
     const std::vector<QString> clubs = concours.clubs(classement);
     const std::vector<moteur::PaireJouee> jouees = concours.jouees();
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         std::vector<moteur::LigneClassement> lignes = classement;
         benchmark::DoNotOptimize(moteur::tireTourSuivant({lignes, clubs, jouees, 1, false}));
     }
@@ -56,7 +56,7 @@ void Classement(benchmark::State &etat)
     const std::vector<moteur::Rencontre> rencontres
         = concoursJoue(int(etat.range(0)), int(etat.range(1))).rencontres();
     AleaFixe alea(1);
-    for (auto _ : etat)
+    for ([[maybe_unused]] auto _ : etat)
         benchmark::DoNotOptimize(moteur::etablitClassement(rencontres, alea));
 }
 BENCHMARK(Classement)
@@ -76,7 +76,7 @@ void TirageTour1(benchmark::State &etat)
             equipe.club = u"Pétanque de Sète"_qs;
     }
     AleaFixe alea(1);
-    for (auto _ : etat)
+    for ([[maybe_unused]] auto _ : etat)
         benchmark::DoNotOptimize(moteur::tireTour1(equipes, moteur::pasDExempt, alea));
 }
 BENCHMARK(TirageTour1)

@@ -33,7 +33,7 @@ void AfficheJoues(benchmark::State &etat)
 {
     limite(etat, double(etat.range(1)));
     EcranVues ecran(int(etat.range(0)));
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         ::AfficheJoues(ecran.prog.partage(), ecran.prog.formulaires());
         QApplication::processEvents();
     }
@@ -44,7 +44,7 @@ void AfficheAttendus(benchmark::State &etat)
 {
     limite(etat, double(etat.range(1)));
     EcranVues ecran(int(etat.range(0)));
-    for (auto _ : etat) {
+    for ([[maybe_unused]] auto _ : etat) {
         ::AfficheAttendus(ecran.prog.partage(), ecran.prog.formulaires());
         QApplication::processEvents();
     }

@@ -1,27 +1,18 @@
 #include "commun/programme_pilote.h"
 
 #include "app/torvik.h"
-#include "fabrique.h"
 #include "ui/apparence.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
-#include <QPixmap>
+#include <QLabel>
+#include <QLineEdit>
 #include <QWindow>
 
 namespace {
-
-/// The base file as the program comes with it, made once.
-QByteArray baseNeuve()
-{
-    QTemporaryDir dossier;
-    creeBase(QStringLiteral(VARLOTOUR_DONNEES), dossier.filePath(u"neuve.mdb"_qs));
-    QFile cree(dossier.filePath(u"neuve.mdb"_qs));
-    cree.open(QIODevice::ReadOnly);
-    return cree.readAll();
-}
 
 QPoint milieu(const QWidget &widget)
 {
@@ -33,14 +24,10 @@ QPoint milieu(const QWidget &widget)
 ProgrammePilote::ProgrammePilote(quint32 graine)
     : alea(graine)
 {
-    static const QByteArray neuve = baseNeuve();
     [[maybe_unused]] static const bool habille = (appliqueApparence(*qApp), true);
-    QFile copie(fichier());
-    if (!copie.open(QIODevice::WriteOnly) || copie.write(neuve) != neuve.size())
+    if (!QFile::copy(QStringLiteral(VARLOTOUR_BASE), fichier())
+        || !QFile::copy(QStringLiteral(VARLOTOUR_ICONE), m_dossier.filePath(u"1.ico"_qs)))
         qFatal("no room for a test base");
-    QPixmap drapeau(16, 16);
-    drapeau.fill(Qt::blue);
-    drapeau.save(m_dossier.filePath(u"1.ico"_qs), "PNG");
 }
 
 ProgrammePilote::~ProgrammePilote()
@@ -73,8 +60,20 @@ QWidget *ProgrammePilote::cherche(const QString &forme, const QString &nom)
     QWidget *parent = forme.isEmpty() ? torvik() : static_cast<QWidget *>(formulaires().forme(forme));
     auto *trouve = parent == nullptr ? nullptr : parent->findChild<QWidget *>(nom);
     if (trouve == nullptr)
-        ADD_FAILURE() << "No control " << nom.toStdString() << " on " << forme.toStdString();
+        throw std::runtime_error((u"no control "_qs + forme + u'.' + nom).toStdString());
     return trouve;
+}
+
+QString ProgrammePilote::texte(const QString &forme, const QString &nom)
+{
+    const QWidget *trouve = cherche(forme, nom);
+    if (const auto *champ = qobject_cast<const QLineEdit *>(trouve))
+        return champ->text();
+    if (const auto *liste = qobject_cast<const QComboBox *>(trouve))
+        return liste->currentText();
+    if (const auto *bouton = qobject_cast<const QAbstractButton *>(trouve))
+        return bouton->text();
+    return qobject_cast<const QLabel *>(trouve)->text();
 }
 
 QString ProgrammePilote::focus() const
@@ -115,20 +114,15 @@ void ProgrammePilote::touche(Qt::Key touche, Qt::KeyboardModifiers avec)
 void ProgrammePilote::clique(const QString &forme, const QString &nom)
 {
     QApplication::processEvents();
-    if (const QWidget *widget = cherche(forme, nom))
-        QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
+    const QWidget *widget = cherche(forme, nom);
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
+    QApplication::processEvents();
 }
 
 void ProgrammePilote::doubleClique(const QString &forme, const QString &nom)
 {
     QApplication::processEvents();
-    if (const QWidget *widget = cherche(forme, nom))
-        QTest::mouseDClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
-    QApplication::processEvents();
-}
-
-void ProgrammePilote::ouvre(const QString &bouton)
-{
-    clique({}, bouton);
+    const QWidget *widget = cherche(forme, nom);
+    QTest::mouseDClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
     QApplication::processEvents();
 }

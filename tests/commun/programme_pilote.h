@@ -44,12 +44,14 @@ public:
     /// First column of the first row of a statement.
     store::Valeur valeur(const QString &sql) { return base().native().valeurUnique(sql); }
 
-    /// The control \p nom of the loaded form \p forme; a missing one fails the test.
+    /// The control \p nom of the loaded form \p forme, of the main window without one; a missing one throws.
     template<typename Widget = QWidget>
     Widget *controle(const QString &forme, const QString &nom)
     {
         return qobject_cast<Widget *>(cherche(forme, nom));
     }
+    /// Text of a field, a list, a label or a button.
+    QString texte(const QString &forme, const QString &nom);
     /// Name of the control that has the focus, a combo for its editor.
     QString focus() const;
 
@@ -60,7 +62,7 @@ public:
     /// Press, release, second press and release, as they come from a mouse.
     void doubleClique(const QString &forme, const QString &nom);
     /// Opens a family of forms from the main window, by its button.
-    void ouvre(const QString &bouton);
+    void ouvre(const QString &bouton) { clique({}, bouton); }
 
     BoitesScript boites;
     AleaFixe alea;

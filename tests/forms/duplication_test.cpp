@@ -34,7 +34,7 @@ TEST_F(Copie, KeepsWholeTeamsAndNoDraw)
 {
     prepare();
     choisit(u"000001"_qs);
-    boites().attend(u"Concours dupliqué sous le numéro 3"_qs);
+    boites.attend(u"Concours dupliqué sous le numéro 3"_qs);
     clic(C, u"Dupliquer"_qs);
     EXPECT_EQ(lignes(u"select lieu, organisateur, type, tourpri, repeche from concours where concours = 3"_qs),
               QStringList{u"L'Étoile d'Aÿ|(duplicata du 000001)|2 - Triplettes|0|0"_qs});
@@ -47,9 +47,9 @@ TEST_F(Copie, KeepsWholeTeamsAndNoDraw)
 
     for (const QString &faux : {u"000099"_qs, u"1 or 1=1"_qs, u""_qs}) {
         choisit(faux);
-        boites().attend(u"Vous devez selectionner un concours existant "_qs);
+        boites.attend(u"Vous devez selectionner un concours existant "_qs);
         clic(C, u"Dupliquer"_qs);
-        boites().verifie();
+        boites.verifie();
     }
     EXPECT_EQ(nombre(u"select count(*) from concours"_qs), 3);
 }
@@ -58,10 +58,10 @@ TEST_F(Copie, RemovalTakesEverythingOfOneCompetitionOnConsent)
 {
     prepare();
     choisit(u"000001"_qs);
-    boites().attend(partage().mes(96), ReponseBoite::Non);
+    boites.attend(partage().mes(96), ReponseBoite::Non);
     clic(C, u"Supprimer"_qs);
     EXPECT_EQ(nombre(u"select count(*) from equipes where concours = 1"_qs), 9);
-    boites().attend(partage().mes(96), ReponseBoite::Oui);
+    boites.attend(partage().mes(96), ReponseBoite::Oui);
     clic(C, u"Supprimer"_qs);
     for (const QString &table : {u"concours"_qs, u"equipes"_qs, u"evolution"_qs, u"scores"_qs}) {
         EXPECT_EQ(nombre(u"select count(*) from %1 where concours = 1"_qs.arg(table)), 0) << table.toStdString();
@@ -74,7 +74,7 @@ TEST_F(Copie, RemovalTakesEverythingOfOneCompetitionOnConsent)
     clic(C, u"Supprimer"_qs);
     EXPECT_EQ(nombre(u"select count(*) from concours"_qs), 1) << "a number without a competition removes nothing";
     choisit(u"000002"_qs);
-    boites().attend(partage().mes(96), ReponseBoite::Oui);
+    boites.attend(partage().mes(96), ReponseBoite::Oui);
     clic(C, u"Supprimer"_qs);
     EXPECT_FALSE(visible(C, u"référence"_qs)) << "without a competition there is nothing to choose";
 }

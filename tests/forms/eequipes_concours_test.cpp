@@ -34,7 +34,7 @@ protected:
 
 TEST_F(ChoixConcours, WithoutACompetitionItMakesWayForTheEditor)
 {
-    clicFamille(u"f_equipes"_qs);
+    ProgrammePilote::ouvre(u"f_equipes"_qs);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !formulaires().estChargee(E); }));
     EXPECT_FALSE(formulaires().estChargee(L));
     EXPECT_TRUE(formulaires().estVisible(u"Econcours"_qs));
@@ -96,11 +96,11 @@ TEST_F(ChoixConcours, AnUnknownNumberHoldsTheOperatorThere)
 {
     ouvre();
     for (const QString &faux : {u"7"_qs, u"abc"_qs, u"1a"_qs, u"0"_qs}) {
-        boites().attend(partage().mes(91) + u"\r\n"_qs + partage().mes(82));
+        boites.attend(partage().mes(91) + u"\r\n"_qs + partage().mes(82));
         change(faux);
         EXPECT_EQ(focus(), u"référence"_qs);
         EXPECT_FALSE(visible(E, u"Okc"_qs));
-        boites().verifie();
+        boites.verifie();
     }
     EXPECT_EQ(partage().ConcoursCourant, 1);
     tape(u"1"_qs);
@@ -123,11 +123,13 @@ TEST_F(ChoixConcours, ThePickFromTheListCountsWheelAndArrowsDoNot)
     combo->setFocus();
     touche(Qt::Key_Up);
     EXPECT_EQ(texte(E, u"référence"_qs), u"000002"_qs);
+    QApplication::processEvents();
     ASSERT_TRUE(combo->view()->isVisible());
     QTest::keyClick(combo->view(), Qt::Key_Up);
     QTest::keyClick(combo->view(), Qt::Key_Return);
     EXPECT_EQ(partage().ConcoursCourant, 1);
     EXPECT_EQ(lignesVisibles(), 3);
+    active(E); // offscreen, a list that closes leaves no window active
     EXPECT_EQ(focus(), u"LicenceJ_0"_qs);
 }
 
@@ -177,7 +179,7 @@ TEST_F(ChoixConcours, TheWindowsCloseWithoutTouchingTheClosedBase)
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"00001"_qs);
     remplit(E, u"LicenceJ_0"_qs, u"à moitié"_qs);
     redemarre();
-    EXPECT_EQ(boites().textes(), QStringList());
+    EXPECT_EQ(boites.textes(), QStringList());
 }
 
 TEST_F(ChoixConcours, ButtonsOfFormsThatAreNotThereDoNothing)

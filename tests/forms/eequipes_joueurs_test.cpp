@@ -29,21 +29,21 @@ TEST_F(Joueurs, TwoOfOneClubAreNoMixedTeamWhateverTheCase)
     licence(1, u" 0832 "_qs);
     EXPECT_EQ(texte(E, u"Société"_qs), u"DUP"_qs);
     EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"ROUX"_qs);
-    EXPECT_EQ(boites().textes(), QStringList());
+    EXPECT_EQ(boites.textes(), QStringList());
 }
 
 TEST_F(Joueurs, MixedTeamsAreAskedForOnceACompetition)
 {
     ouvre();
     licence(0, u"0831"_qs);
-    boites().attend(questionPanachees, ReponseBoite::Non);
+    boites.attend(questionPanachees, ReponseBoite::Non);
     licence(1, u"0840"_qs);
-    EXPECT_EQ(boites().titre(), u"Enregistrement des équipes"_qs);
+    EXPECT_EQ(boites.titre(), u"Enregistrement des équipes"_qs);
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
     EXPECT_EQ(focus(), u"LicenceJ_1"_qs);
     EXPECT_EQ(texte(E, u"Société"_qs), panachee);
 
-    boites().attend(questionPanachees, ReponseBoite::Oui);
+    boites.attend(questionPanachees, ReponseBoite::Oui);
     licence(1, u"0840"_qs);
     EXPECT_EQ(focus(), u"NomJ_1"_qs);
     clic(E, u"Okc"_qs);
@@ -54,7 +54,7 @@ TEST_F(Joueurs, MixedTeamsAreAskedForOnceACompetition)
 
     liste(E, u"référence"_qs)->setFocus();
     entre();
-    boites().attend(questionPanachees, ReponseBoite::Oui);
+    boites.attend(questionPanachees, ReponseBoite::Oui);
     licence(0, u"9999"_qs);
     EXPECT_TRUE(partage().PanacheeAutorisee);
 }
@@ -63,7 +63,7 @@ TEST_F(Joueurs, APlayerPlaysOnceInATeam)
 {
     ouvre();
     licence(0, u"0831"_qs);
-    boites().attend(u"Un même joueur ne peut pas être\r\nengagé deux fois dans la même équipe"_qs);
+    boites.attend(u"Un même joueur ne peut pas être\r\nengagé deux fois dans la même équipe"_qs);
     licence(1, u"0831"_qs);
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
     EXPECT_EQ(focus(), u"LicenceJ_1"_qs);
@@ -77,9 +77,9 @@ TEST_F(Joueurs, ALicenceOfAnotherTeamIsShownAndCleared)
     const Partage &p = partage();
     const QString boite = p.mes(103) + u" : 0850\r\n"_qs + p.mes(19) + u" : NOIR Ève(MAR)\r\n"_qs + p.mes(104) + u' '
         + p.mes(17) + u"7\r\n\r\n"_qs + p.mes(105);
-    boites().attend(boite, ReponseBoite::Oui);
+    boites.attend(boite, ReponseBoite::Oui);
     licence(0, u"0850"_qs);
-    EXPECT_EQ(boites().textes().last(), boite);
+    EXPECT_EQ(boites.textes().last(), boite);
     EXPECT_EQ(texte(E, u"LicenceJ_0"_qs), QString());
     EXPECT_EQ(focus(), u"LicenceJ_0"_qs);
 
@@ -87,7 +87,7 @@ TEST_F(Joueurs, ALicenceOfAnotherTeamIsShownAndCleared)
     remplit(E, u"Société"_qs, u"MAR"_qs);
     remplit(E, u"NomJ_0"_qs, u"noir"_qs);
     remplit(E, u"PrénomJ_0"_qs, u"Ève"_qs);
-    boites().attend(boite, ReponseBoite::Non);
+    boites.attend(boite, ReponseBoite::Non);
     licence(0, u"0850"_qs);
     for (const QString &vide : {u"LicenceJ_0"_qs, u"NomJ_0"_qs, u"PrénomJ_0"_qs})
         EXPECT_EQ(texte(E, vide), QString());
@@ -103,7 +103,7 @@ TEST_F(Joueurs, ATeamReadBackKeepsItsOwnLicences)
     entre();
     EXPECT_EQ(focus(), u"NomJ_1"_qs);
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), u"L2-1"_qs);
-    boites().attend(partage().mes(103), ReponseBoite::Oui);
+    boites.attend(partage().mes(103), ReponseBoite::Oui);
     licence(1, u"L2-0"_qs); // The licence of the other line is another player's.
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
 }
@@ -125,9 +125,9 @@ TEST_F(Joueurs, TheLookUpRunsOnAnyWayOutAndOnlyOnce)
     EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"ROUX"_qs);
 
     // Each box comes once, whether the key or the loss of the focus has begun the look-up.
-    boites().attend(u"Un même joueur"_qs);
+    boites.attend(u"Un même joueur"_qs);
     licence(1, u"0831"_qs);
-    boites().attend(u"Un même joueur"_qs);
+    boites.attend(u"Un même joueur"_qs);
     remplit(E, u"LicenceJ_1"_qs, u"0831"_qs);
     clic(E, u"PrénomJ_0"_qs);
     EXPECT_EQ(focus(), u"LicenceJ_1"_qs);
@@ -151,14 +151,14 @@ TEST_F(Joueurs, ANewClubIsCreatedOnConsent)
     ouvre();
     remplit(E, u"NomJ_0"_qs, u"A"_qs);
     remplit(E, u"Société"_qs, u"L'Étoile"_qs);
-    boites().attend(partage().mes(92), ReponseBoite::Non);
+    boites.attend(partage().mes(92), ReponseBoite::Non);
     entre();
     EXPECT_EQ(texte(E, u"Société"_qs), QString());
     EXPECT_EQ(focus(), u"Société"_qs);
     EXPECT_EQ(nombre(u"select count(*) from societes"_qs), 3);
 
     tape(u" L'Étoile "_qs);
-    boites().attend(partage().mes(92), ReponseBoite::Oui);
+    boites.attend(partage().mes(92), ReponseBoite::Oui);
     entre();
     EXPECT_EQ(focus(), u"NomJ_0"_qs);
     EXPECT_EQ(lignes(u"select societe, codesoc from societes where codesoc > 3"_qs), QStringList({u"L'Étoile|4"_qs}));
@@ -180,7 +180,7 @@ TEST_F(Joueurs, TheFirstClubOfAllHasNoCode)
     ouvre();
     execute(u"delete * from societes"_qs);
     remplit(E, u"Société"_qs, u"SEUL"_qs);
-    boites().attend(partage().mes(92), ReponseBoite::Oui);
+    boites.attend(partage().mes(92), ReponseBoite::Oui);
     entre();
     EXPECT_EQ(lignes(u"select societe, codesoc from societes"_qs), QStringList({u"SEUL|Null"_qs}));
 }

@@ -29,9 +29,9 @@ TEST_F(Retard, TheLatecomerMeetsTheFreeTeam)
 {
     apresTirage(3);
     execute(u"update scores set score_1 = 13 where equipe_2 = 0"_qs);
-    boites().attend(u"La rencontre 4 contre 3 peut être lancée"_qs);
+    boites.attend(u"La rencontre 4 contre 3 peut être lancée"_qs);
     inscrit(u"TARD"_qs, u"DUP"_qs);
-    EXPECT_EQ(boites().titre(), u"Torvik"_qs);
+    EXPECT_EQ(boites.titre(), u"Torvik"_qs);
     EXPECT_EQ(rencontres(), QStringList({u"1|1|2|Null|Null|1|1"_qs, u"2|3|4|Null|Null|1|1"_qs}));
     EXPECT_EQ(numeros(1).last(), u"4"_qs);
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"00005"_qs);
@@ -41,20 +41,20 @@ TEST_F(Retard, WithoutAFreeTeamTheOperatorDecides)
 {
     apresTirage(0);
     const QString question = u"Le concours est déjà lancé, \r\n"_qs + partage().mes(126);
-    boites().attend(question, ReponseBoite::Non);
+    boites.attend(question, ReponseBoite::Non);
     inscrit(u"TARD"_qs, u"DUP"_qs);
-    EXPECT_EQ(boites().titre(), u"Torvik"_qs);
+    EXPECT_EQ(boites.titre(), u"Torvik"_qs);
     EXPECT_EQ(rencontres().size(), 1);
     EXPECT_EQ(numeros(1).last(), u"3"_qs);
     EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"TARD"_qs);
 
-    boites().attend(question, ReponseBoite::Oui);
+    boites.attend(question, ReponseBoite::Oui);
     clic(E, u"Okc"_qs);
     EXPECT_EQ(rencontres(), QStringList({u"1|1|2|Null|Null|1|1"_qs, u"2|4|0|Null|Null|1|1"_qs}));
     EXPECT_EQ(numeros(1).last(), u"4"_qs);
 
     // The free match that the first latecomer got is the place of the next one.
-    boites().attend(u"La rencontre 5 contre 4 peut être lancée"_qs);
+    boites.attend(u"La rencontre 5 contre 4 peut être lancée"_qs);
     inscrit(u"PLUS TARD"_qs, u"DUP"_qs);
     EXPECT_EQ(rencontres().last(), u"2|4|5|Null|Null|1|1"_qs);
 }
@@ -63,7 +63,7 @@ TEST_F(Retard, AfterAResultNoTeamComesInButOneCanBeCorrectedAndRemoved)
 {
     apresTirage(3);
     execute(u"update scores set score_1 = 13, score_2 = 5 where rencontre = 1"_qs);
-    boites().attend(partage().mes(83));
+    boites.attend(partage().mes(83));
     inscrit(u"TARD"_qs, u"DUP"_qs);
     EXPECT_EQ(numeros(1).last(), u"3"_qs);
     EXPECT_EQ(nombre(u"select count(*) from evolution"_qs), 3);
@@ -87,14 +87,14 @@ TEST_F(Retard, AFailureLeavesTheFreeTeamFree)
     apresTirage(3);
     abime(u"create trigger panne before insert on equipes when new.doublon = 1 "
           "begin select raise(abort, 'panne'); end"_qs);
-    boites().attend(u"L'équipe 4 n'a pas pu être enregistrée"_qs);
+    boites.attend(u"L'équipe 4 n'a pas pu être enregistrée"_qs);
     inscrit(u"TARD"_qs, u"DUP"_qs);
     EXPECT_EQ(rencontres().last(), u"2|3|0|Null|Null|1|1"_qs);
     EXPECT_EQ(numeros(1).last(), u"3"_qs);
     EXPECT_EQ(nombre(u"select count(*) from evolution"_qs), 3);
 
     abime(u"drop trigger panne"_qs);
-    boites().attend(u"La rencontre 4 contre 3 peut être lancée"_qs);
+    boites.attend(u"La rencontre 4 contre 3 peut être lancée"_qs);
     clic(E, u"Okc"_qs);
     EXPECT_EQ(rencontres().last(), u"2|3|4|Null|Null|1|1"_qs);
 }

@@ -126,11 +126,11 @@ TEST_F(Enregistrement, NumbersOutOfRangeGoBackToTheHighestOne)
     equipesStockees(1, 3);
     ouvre();
     for (const QString &faux : {u"0"_qs, u"abc"_qs, u"2bis"_qs, u"-1"_qs, u"5"_qs, u"99999999999999999999"_qs}) {
-        boites().attend(refus);
+        boites.attend(refus);
         appelle(faux);
         EXPECT_EQ(texte(E, u"Equipe"_qs), u"0003"_qs) << faux.toStdString();
         EXPECT_EQ(focus(), u"Equipe"_qs);
-        boites().verifie();
+        boites.verifie();
     }
     tape(u"4"_qs); // The refused number is selected: typing replaces it.
     entre();
@@ -143,7 +143,7 @@ TEST_F(Enregistrement, InAnEmptyCompetitionAnyNumberMeansTheFirst)
     ouvre();
     appelle(u"50"_qs);
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"0001"_qs);
-    boites().attend(partage().mes(81));
+    boites.attend(partage().mes(81));
     appelle(u"0"_qs);
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"0001"_qs);
 }
@@ -176,7 +176,7 @@ TEST_F(Enregistrement, AClubIsNeededAndNumbersEndAt32768)
     club(u"DUP"_qs);
     const qint32 concours = ouvre();
     remplit(E, u"NomJ_0"_qs, u"A"_qs);
-    boites().attend(u"Le nom du club est obligatoire"_qs);
+    boites.attend(u"Le nom du club est obligatoire"_qs);
     clic(E, u"Okc"_qs);
     EXPECT_EQ(focus(), u"Société"_qs);
     EXPECT_TRUE(formulaires().estVisible(L));
@@ -185,7 +185,7 @@ TEST_F(Enregistrement, AClubIsNeededAndNumbersEndAt32768)
 
     tape(u"DUP"_qs);
     champ(E, u"Equipe"_qs)->setText(u"32769"_qs);
-    boites().attend(partage().mes(89) + u"\r\n"_qs + partage().mes(90) + u" 32768 "_qs + partage().mes(73));
+    boites.attend(partage().mes(89) + u"\r\n"_qs + partage().mes(90) + u" 32768 "_qs + partage().mes(73));
     clic(E, u"Okc"_qs);
     EXPECT_EQ(texte(E, u"Société"_qs), QString());
     EXPECT_EQ(focus(), u"LicenceJ_0"_qs);
@@ -202,7 +202,7 @@ TEST_F(Enregistrement, AFailingStoreNeverLeavesATeamThatLooksRegistered)
     const qint32 concours = ouvre();
     inscrit(u"A"_qs, u"DUP"_qs);
     abime(u"create trigger panne before insert on evolution begin select raise(abort, 'panne'); end"_qs);
-    boites().attend(u"L'équipe 2 n'a pas pu être enregistrée"_qs);
+    boites.attend(u"L'équipe 2 n'a pas pu être enregistrée"_qs);
     inscrit(u"B"_qs, u"DUP"_qs);
     EXPECT_EQ(numeros(concours), QStringList({u"1"_qs}));
     EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"B"_qs);
@@ -226,7 +226,7 @@ TEST_F(Enregistrement, AFailedCorrectionIsToldAndTheOtherWritesStay)
     appelle(u"1"_qs);
     remplit(E, u"NomJ_0"_qs, u"X"_qs);
     remplit(E, u"NomJ_1"_qs, u"Y"_qs);
-    boites().attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
+    boites.attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
     clic(E, u"Okc"_qs);
     EXPECT_EQ(equipe(concours, 1),
               QStringList({u"0|NOM1|P0|L1-0|DUP|Null|0"_qs, u"1|Y|P1|L1-1|DUP|A|1"_qs}));
@@ -239,7 +239,7 @@ TEST_F(Enregistrement, WithoutTheTableOfMatchesNothingIsStoredAndTheProgramGoesO
     club(u"DUP"_qs);
     const qint32 concours = ouvre();
     abime(u"alter table scores rename to perdue"_qs);
-    boites().attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
+    boites.attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
     inscrit(u"A"_qs, u"DUP"_qs);
     EXPECT_EQ(numeros(concours), QStringList());
     abime(u"alter table perdue rename to scores"_qs);

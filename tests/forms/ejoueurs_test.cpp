@@ -65,7 +65,7 @@ TEST_F(Joueurs, ANewOneIsTypedFromKeyToKeyAndCutToWhatTheFileHolds)
     remplit(J, u"ne"_qs, u"jamais"_qs);
     clic(J, u"Okc"_qs);
     EXPECT_EQ(fichier().last(), u"2|0||||L'Étoile d'Aÿ|Null|M"_qs) << "what is no date is none";
-    boites().attend(u"Le nom du club est obligatoire"_qs);
+    boites.attend(u"Le nom du club est obligatoire"_qs);
     clic(J, u"Okc"_qs);
     EXPECT_TRUE(formulaires().estVisible(L));
     EXPECT_EQ(focus(), u"Société"_qs);
@@ -92,12 +92,12 @@ TEST_F(Joueurs, ACorrectionStoresTheTextsAsTypedAndProposesTheNumberOfTheTeams)
     const QString long60 = u"D'Aÿ-Œuvrard "_qs.repeated(5).left(60);
     remplit(J, u"NomJ_0"_qs, long60);
     remplit(J, u"ne"_qs, u"31/02/1960"_qs);
-    boites().attend(u"n'est pas une date"_qs);
+    boites.attend(u"n'est pas une date"_qs);
     clic(J, u"Okc"_qs);
     EXPECT_EQ(fichier()[1], u"2|0|%1|P|LDEUX|DUP|1960-01-31|F"_qs.arg(long60));
     EXPECT_EQ(numero(), u"0008"_qs) << "the teams of the current competition go on";
     EXPECT_EQ(focus(), u"Equipe"_qs);
-    boites().attend(partage().mes(81) + u"\r\n"_qs + partage().mes(82));
+    boites.attend(partage().mes(81) + u"\r\n"_qs + partage().mes(82));
     entre();
     EXPECT_EQ(numero(), u"0003"_qs);
 
@@ -119,7 +119,7 @@ TEST_F(Joueurs, ALicenceIsBorneOnce)
         + partage().mes(104) + u' ' + partage().mes(17) + u"1\r\n\r\n"_qs + partage().mes(105);
     remplit(J, u"NomJ_0"_qs, u"AUTRE"_qs);
     remplit(J, u"LicenceJ_0"_qs, u"831"_qs);
-    boites().attend(annonce, ReponseBoite::Non);
+    boites.attend(annonce, ReponseBoite::Non);
     entre();
     EXPECT_EQ(texte(J, u"LicenceJ_0"_qs), QString());
     EXPECT_EQ(texte(J, u"NomJ_0"_qs), u"AUTRE"_qs);
@@ -127,7 +127,7 @@ TEST_F(Joueurs, ALicenceIsBorneOnce)
     remplit(J, u"NomJ_0"_qs, u"meynier"_qs);
     remplit(J, u"PrénomJ_0"_qs, u"loïc"_qs);
     remplit(J, u"LicenceJ_0"_qs, u"831"_qs);
-    boites().attend(annonce, ReponseBoite::Non);
+    boites.attend(annonce, ReponseBoite::Non);
     touche(Qt::Key_Tab);
     EXPECT_EQ(texte(J, u"LicenceJ_0"_qs) + texte(J, u"NomJ_0"_qs) + texte(J, u"PrénomJ_0"_qs), QString());
     appelleJoueur(u"1"_qs);

@@ -173,7 +173,7 @@ TEST_F(FeuillesPalmares, TheListOfTeamsTakesAsManyPlayersAsATeamHas)
     execute(u"insert into equipes (concours, equipe, doublon, nom, licence, societe) values "
             "(0, 1, 0, 'NOM1', 'L10', 'Club connu')"_qs);
     execute(u"delete from equipes where concours = 1 and equipe = 2 and doublon = 1"_qs);
-    ASSERT_TRUE(ImprimeDetail({partage(), formulaires(), boites()}));
+    ASSERT_TRUE(ImprimeDetail({partage(), formulaires(), boites}));
     ASSERT_EQ(documents.size(), 1u);
     QStringList lignes;
     int y = 0;
@@ -209,7 +209,7 @@ TEST_F(FeuillesPalmares, AnotherReaderFindsTheTextsOfThePdf)
     execute(u"update equipes set societe = 'Éveil de Crécy' where equipe = 3"_qs);
     clicCellule(1, 1, Qt::RightButton);
     const QString fichier = dossier() + u"/palmares.pdf"_qs;
-    boites().imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
+    boites.imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
     const int lignes = grille().Rows();
     QStringList phrases;
     for (int ligne = 1; ligne < lignes; ++ligne)

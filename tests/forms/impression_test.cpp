@@ -30,7 +30,7 @@ protected:
             }
         }
         execute(u"update concours set tourpri = %1"_qs.arg(tours));
-        boites().imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
         ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);
         clic(u"EResultats"_qs, u"imprimer"_qs);
     }
@@ -148,11 +148,11 @@ TEST_F(Impression, MembersLookTheSameBehindAPageBreak)
 TEST_F(Impression, CancellingIsToldAndPrintsNothing)
 {
     prepare(4, 2);
-    boites().imprimante = nullptr;
+    boites.imprimante = nullptr;
     clic(D, u"Option1"_qs);
     champ(D, u"Tour"_qs)->setText(u"*"_qs);
-    boites().attend(u"Impression annulée"_qs);
-    boites().attend(u"Impression annulée"_qs);
+    boites.attend(u"Impression annulée"_qs);
+    boites.attend(u"Impression annulée"_qs);
     clic(D, u"Imprime"_qs);
     EXPECT_TRUE(documents.empty());
 }
@@ -161,7 +161,7 @@ TEST_F(Impression, APdfHoldsThePagesWithTheirFonts)
 {
     prepare(37, 1);
     const QString fichier = dossier() + u"/tirage.pdf"_qs;
-    boites().imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
+    boites.imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
     clic(D, u"Option1"_qs);
     clic(D, u"Imprime"_qs);
     QFile pdf(fichier);

@@ -14,7 +14,7 @@ protected:
     void SetUp() override
     {
         Inscription::SetUp();
-        boites().imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
     }
     FlexGrid *ouvreListe(const QString &bouton, const QString &nom)
     {
@@ -78,8 +78,8 @@ TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
     EXPECT_TRUE(texteDe(documents[1].front()).contains(u"|Sexe|2|P01 X|L1|DUP|31/01/1960|F|3|P02 X|L2|DUP|31/01/1960|F|"
                                                       "4|P03 X|L3|DUP|31/01/1960|F|www."_qs))
         << texteDe(documents[1].front()).toStdString();
-    boites().imprimante = nullptr;
-    boites().attend(u"Impression annulée"_qs);
+    boites.imprimante = nullptr;
+    boites.attend(u"Impression annulée"_qs);
     clic(u"listjo"_qs, u"imprimer"_qs);
     EXPECT_EQ(grille->Row() * 10 + grille->RowSel(), 42);
 }

@@ -103,7 +103,7 @@ TEST_F(Listes, TheTeamsAreShownAndWrittenToTheirFile)
     QFile::remove(QDir(dossier()).filePath(u"listEquipes.csv"_qs));
     QDir(dossier()).mkdir(u"listEquipes.csv"_qs);
     active(E);
-    boites().attend(u"listEquipes.csv"_qs);
+    boites.attend(u"listEquipes.csv"_qs);
     active(Q);
     EXPECT_EQ(grille(Q)->Rows(), 4);
     partage().NbJoueurs = 4;
@@ -167,12 +167,12 @@ TEST_F(Listes, APickedPlayerIsTypedIntoTheTeam)
     EXPECT_EQ(texte(E, u"Société"_qs), u"L'Étoile d'Aÿ"_qs);
 
     execute(u"delete * from equipes where concours = 0 and equipe = 3"_qs);
-    boites().attend(u"Un même joueur ne peut pas être"_qs);
+    boites.attend(u"Un même joueur ne peut pas être"_qs);
     clicLigne(P, 2, 1);
     EXPECT_EQ(grille(P)->Rows(), 4) << "while players are picked, the list stays as it is";
     EXPECT_TRUE(focusVient(u"LicenceJ_1"_qs));
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
-    boites().attend(u"panachées"_qs, ReponseBoite::Oui);
+    boites.attend(u"panachées"_qs, ReponseBoite::Oui);
     clicLigne(P, 1, 1);
     EXPECT_TRUE(focusVient(u"NomJ_1"_qs));
     EXPECT_EQ(texte(E, u"NomJ_1"_qs) + texte(E, u"Société"_qs), u"MEYNIER*Panachée"_qs);

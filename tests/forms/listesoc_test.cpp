@@ -67,7 +67,7 @@ TEST_F(Clubs, AreFoundByTheirFirstLettersOrTheNextOneInOrder)
     EXPECT_EQ(choix(), u"Écrin|Écrin"_qs);
     cherche(u"ZZ"_qs);
     EXPECT_EQ(choix(), u"|"_qs);
-    boites().attend(u"Impossible de supprimer"_qs);
+    boites.attend(u"Impossible de supprimer"_qs);
     clic(L, u"Command1"_qs);
     clic(L, u"Command2"_qs);
     EXPECT_EQ(texte(L, u"Recherche"_qs), QString());
@@ -129,19 +129,19 @@ TEST_F(Clubs, OneIsDeletedAfterAQuestionAndTheFirstOneStays)
 {
     avec({u"DUMAS"_qs, u"DUPONT"_qs, u"DURAND"_qs});
     clicClub(1);
-    boites().attend(u"Impossible de supprimer *Panachée"_qs);
+    boites.attend(u"Impossible de supprimer *Panachée"_qs);
     clic(L, u"Command1"_qs);
     clicClub(3);
-    boites().attend(u"Supprimer DUPONT"_qs, ReponseBoite::Non);
+    boites.attend(u"Supprimer DUPONT"_qs, ReponseBoite::Non);
     clic(L, u"Command1"_qs);
     EXPECT_EQ(listes().size(), 4);
-    boites().attend(u"Supprimer DUPONT"_qs, ReponseBoite::Oui);
+    boites.attend(u"Supprimer DUPONT"_qs, ReponseBoite::Oui);
     clic(L, u"Command1"_qs);
     EXPECT_EQ(listes(), QStringList({u"*Panachée"_qs, u"DUMAS"_qs, u"DURAND"_qs}));
     EXPECT_EQ(choix(), u"DURAND|DURAND"_qs);
     EXPECT_EQ(lignes(u"select societe from societes order by societe"_qs), listes());
 
-    boites().attend(u"Supprimer DURAND"_qs, ReponseBoite::Oui);
+    boites.attend(u"Supprimer DURAND"_qs, ReponseBoite::Oui);
     clic(L, u"Command1"_qs);
     EXPECT_EQ(listes(), QStringList({u"*Panachée"_qs, u"DUMAS"_qs}));
     cherche(u"D"_qs);
@@ -156,13 +156,13 @@ TEST_F(Clubs, AnApostropheBreaksItsOwnDeletionAlone)
     const QStringList avant = listes();
     for (const QString &club : apostrophes) {
         clicClub(int(avant.indexOf(club)) + 1);
-        boites().attend(u"Supprimer "_qs + club, ReponseBoite::Oui);
-        boites().attend(u"Erreur"_qs);
+        boites.attend(u"Supprimer "_qs + club, ReponseBoite::Oui);
+        boites.attend(u"Erreur"_qs);
         clic(L, u"Command1"_qs);
         EXPECT_EQ(lignes(u"select societe from societes order by societe"_qs), avant);
     }
     clicClub(int(avant.indexOf(u"DUMAS"_qs)) + 1);
-    boites().attend(u"Supprimer DUMAS"_qs, ReponseBoite::Oui);
+    boites.attend(u"Supprimer DUMAS"_qs, ReponseBoite::Oui);
     clic(L, u"Command1"_qs);
     EXPECT_EQ(nombre(u"select count(*) from societes"_qs), avant.size() - 1);
     EXPECT_EQ(nombre(u"select count(*) from societes where societe = 'DUMAS'"_qs), 0);
@@ -172,7 +172,7 @@ TEST_F(Clubs, AClubCreatedBesideItIsListedAtOnce)
 {
     avec({u"DUMAS"_qs});
     remplit(E, u"Société"_qs, u"Bormes"_qs);
-    boites().attend(partage().mes(92), ReponseBoite::Oui);
+    boites.attend(partage().mes(92), ReponseBoite::Oui);
     entre();
     EXPECT_EQ(listes(), QStringList({u"*Panachée"_qs, u"Bormes"_qs, u"DUMAS"_qs}));
 }

@@ -47,7 +47,7 @@ protected:
             execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) values "
                     "(1, %1, %2, %3, %4, %5, %6)"_qs.arg(m.tableau).arg(m.tour).arg(m.equipe1).arg(m.equipe2)
                         .arg(sql(m.score1), sql(m.score2)));
-        boites().imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
         ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);
         clic(u"EResultats"_qs, u"hit"_qs);
         ASSERT_NE(forme(nomPalmares), nullptr);

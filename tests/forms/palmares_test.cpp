@@ -150,14 +150,14 @@ TEST_F(Palmares, ACompetitionWithoutAMatchSaysSoInsteadOfAGrid)
     EXPECT_EQ(annonce->pos(), QPoint(forme(P)->width() / 2, forme(P)->height() / 2));
     EXPECT_EQ(annonce->font().pointSize(), 20);
     EXPECT_TRUE(forme(P)->rect().contains(annonce->geometry()));
-    boites().attend(u"Vous devez sélectionner la zone à imprimer"_qs);
+    boites.attend(u"Vous devez sélectionner la zone à imprimer"_qs);
     clic(P, u"imprimer"_qs);
-    EXPECT_EQ(boites().drapeaux(), vbExclamation);
+    EXPECT_EQ(boites.drapeaux(), vbExclamation);
 }
 
 TEST_F(Palmares, AMatchOfAMissingTeamLeavesAFormThatCanBeRead)
 {
-    boites().attend(u"Erreur"_qs);
+    boites.attend(u"Erreur"_qs);
     ouvre(3, {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 5}, {.tour = 1, .equipe1 = 3, .equipe2 = 9}});
     EXPECT_GT(forme(P)->width(), grille().width());
     EXPECT_TRUE(visible(P, u"Thonneur_1"_qs));
@@ -171,13 +171,13 @@ TEST_F(Palmares, NothingIsPrintedWithoutASelectionNorAPrinter)
     EXPECT_EQ(grille().RowSel(), 2);
     touche(Qt::Key_Escape);
     EXPECT_TRUE(grille().RowSel() == 0 && grille().Row() == 0 && grille().Col() == 0);
-    boites().attend(u"Vous devez sélectionner la zone à imprimer"_qs);
+    boites.attend(u"Vous devez sélectionner la zone à imprimer"_qs);
     clic(P, u"imprimer"_qs);
 
-    boites().imprimante = nullptr;
+    boites.imprimante = nullptr;
     for (const bool detail : {false, true}) {
         choisit(2, 4);
-        boites().attend(u"Impression annulée"_qs);
+        boites.attend(u"Impression annulée"_qs);
         EXPECT_TRUE(imprime(detail, false).empty());
         EXPECT_TRUE(grille().Row() == 2 && grille().RowSel() == 4);
     }

@@ -28,7 +28,7 @@ protected:
         qint32 concours = creeConcours({});
         partage().ConcoursCourant = ChargeConcours(partage(), concours);
         grille.setCols(3);
-        boites().imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
     }
 
     void membre(int equipe, int doublon, QString nom, const QString &prenom, QString club)
@@ -46,7 +46,7 @@ protected:
     Pages imprime(const QString &texte, GenreFeuille genre)
     {
         documents.clear();
-        ImprimeEquipe({partage(), formulaires(), boites()}, grille, texte, genre);
+        ImprimeEquipe({partage(), formulaires(), boites}, grille, texte, genre);
         EXPECT_EQ(documents.size(), 1u);
         return documents.size() == 1 ? documents.front() : Pages(1);
     }
@@ -272,9 +272,9 @@ TEST_F(ChoixFeuille, EachOptionHasItsSheetAndAMixedClubHasNone)
     option(4).setChecked(true);
     clic(R, u"imprimer"_qs);
     EXPECT_EQ(titres(), QString());
-    boites().imprimante = nullptr;
+    boites.imprimante = nullptr;
     clic(R, u"Option1"_qs);
-    boites().attend(u"Impression annulée"_qs);
+    boites.attend(u"Impression annulée"_qs);
     clic(R, u"imprimer"_qs);
     EXPECT_EQ(titres(), QString());
 }

@@ -1,10 +1,5 @@
 #include "salle_resultats.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-
 using store::Instruction;
 
 void SalleResultats::ouvre(int equipes, bool repeche)
@@ -35,18 +30,6 @@ void SalleResultats::joueTour()
         if (!match.score1)
             prog.tape(u"%1\n13\n6\n"_qs.arg(match.equipe1));
     }
-}
-
-QString SalleResultats::texte(const QString &nom)
-{
-    QWidget *widget = controle(nom);
-    if (const auto *champ = qobject_cast<QLineEdit *>(widget))
-        return champ->text();
-    if (const auto *combo = qobject_cast<QComboBox *>(widget))
-        return combo->currentText();
-    if (const auto *bouton = qobject_cast<QAbstractButton *>(widget))
-        return bouton->text();
-    return qobject_cast<QLabel *>(widget)->text();
 }
 
 QString SalleResultats::champs()

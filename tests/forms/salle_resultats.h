@@ -40,7 +40,7 @@ protected:
     }
 
     QWidget *controle(const QString &nom) { return prog.controle(u"EResultats"_qs, nom); }
-    QString texte(const QString &nom);
+    QString texte(const QString &nom) { return prog.texte(u"EResultats"_qs, nom); }
     bool visible(const QString &nom) { return controle(nom)->isVisible(); }
     /// Texts of the four fields of a match, joined by blanks.
     QString champs();

@@ -23,14 +23,14 @@ protected:
     /// The operator chooses the file and accepts the import; the boxes behind that are the test's.
     void choisit(const QString &fichier, ReponseBoite reponse = ReponseBoite::Oui)
     {
-        boites().attendFichier(partage().mes(22) + u" - "_qs + partage().mes(2), fichier);
-        boites().attend(partage().mes(100), reponse);
+        boites.attendFichier(partage().mes(22) + u" - "_qs + partage().mes(2), fichier);
+        boites.attend(partage().mes(100), reponse);
     }
-    void confirme(ReponseBoite reponse = ReponseBoite::Oui) { boites().attend(partage().mes(101), reponse); }
+    void confirme(ReponseBoite reponse = ReponseBoite::Oui) { boites.attend(partage().mes(101), reponse); }
     void lance()
     {
         clic(E, u"cImport"_qs);
-        boites().verifie();
+        boites.verifie();
     }
     /// The player is known, and his club too.
     void connu(const QString &licence, const QString &nom, const QString &societe)
@@ -45,7 +45,7 @@ TEST_F(ImportEquipes, TheExampleFileGivesThreeTeams)
 {
     const qint32 concours = ouvre(triplettes);
     choisit(QStringLiteral(VARLOTOUR_EXEMPLES "/equipes.dat"), ReponseBoite::Non); // No is as good as Yes.
-    boites().attend(questionPanachees, ReponseBoite::Oui); // unknown licences, whatever club the file names
+    boites.attend(questionPanachees, ReponseBoite::Oui); // unknown licences, whatever club the file names
     for (int equipe = 1; equipe <= 3; ++equipe)
         confirme();
     lance();
@@ -86,10 +86,10 @@ TEST_F(ImportEquipes, RefusalsLeaveTheFieldsAndTheNextLineGoesOn)
     choisit(ecrit("DUP|REFUSE|A||\n|SANS CLUB|B||\nNouveau|ROUX|C||\nInconnu|NOIR|D||\n"));
     confirme(ReponseBoite::Non);
     confirme();
-    boites().attend(u"Le nom du club est obligatoire"_qs);
-    boites().attend(partage().mes(92), ReponseBoite::Oui);
+    boites.attend(u"Le nom du club est obligatoire"_qs);
+    boites.attend(partage().mes(92), ReponseBoite::Oui);
     confirme();
-    boites().attend(partage().mes(92), ReponseBoite::Non); // clears the club
+    boites.attend(partage().mes(92), ReponseBoite::Non); // clears the club
     confirme(ReponseBoite::Non);
     lance();
     EXPECT_EQ(equipe(concours, 1), QStringList({u"0|ROUX|C||Nouveau|A|1"_qs}));
@@ -104,7 +104,7 @@ TEST_F(ImportEquipes, AShortLineStopsTheImport)
     const qint32 concours = ouvre();
     choisit(ecrit("DUP|A|B||C|D||\nDUP|SEUL|E||F\nDUP|G|H||I|J||\n"));
     confirme();
-    boites().attend(u"L'importation de equipes.dat s'arrête à la ligne 2. La ligne est incomplète : il y manque le "
+    boites.attend(u"L'importation de equipes.dat s'arrête à la ligne 2. La ligne est incomplète : il y manque le "
                     u"prénom du joueur 2."_qs);
     lance();
     EXPECT_EQ(numeros(concours).size(), 1);
@@ -113,7 +113,7 @@ TEST_F(ImportEquipes, AShortLineStopsTheImport)
 
     const auto arretee = [&](const QByteArray &octets, const QString &phrase) {
         choisit(ecrit(octets));
-        boites().attend(phrase);
+        boites.attend(phrase);
         lance();
     };
     arretee("\n", u"à la ligne 1. La ligne est incomplète : il y manque le nom du joueur 1."_qs);
@@ -129,7 +129,7 @@ TEST_F(ImportEquipes, NothingToImport)
     for (const std::optional<QString> &choix :
          {std::optional<QString>(), std::optional(QString()), std::optional(dossier() + u"/absent.dat"_qs),
           std::optional(dossier())}) {
-        boites().attendFichier(titre, choix);
+        boites.attendFichier(titre, choix);
         lance();
     }
     choisit(ecrit("DUP|A|B||C|D||\n"), ReponseBoite::Annuler);
