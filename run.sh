@@ -5,7 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 source packaging/langue.sh
 
 if [[ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]]; then
-    packaging/construit.sh VarloTour ressources
+    packaging/construit.sh VarloTour ressources manuel
     exec build/bin/VarloTour
 fi
 

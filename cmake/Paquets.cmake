@@ -7,17 +7,22 @@ set(originaux_poses ${CMAKE_BINARY_DIR}/base/VarloBase.mdb ${CMAKE_RUNTIME_OUTPU
 foreach(numero RANGE 1 6)
   list(APPEND originaux_poses ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${numero}.ico)
 endforeach()
-set(papiers ${CMAKE_BINARY_DIR}/docs/manuel.html docs/carte-rapide.html)
-# Installed as a page for the browser, which shows its pictures and prints it; the links to them are the same.
+set(manuel ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/docs)
+set(papiers ${manuel}/manuel.html docs/carte-rapide.html)
+file(GLOB images_manuel CONFIGURE_DEPENDS docs/images/*)
+# A page for the browser, which shows its pictures and prints it; the links to them are the same. It stands beside the
+# built program as it does in the portable folder.
 add_custom_command(
-  OUTPUT ${CMAKE_BINARY_DIR}/docs/manuel.html
-  COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/docs
-  COMMAND creemanuel ${PROJECT_SOURCE_DIR}/docs/manuel.md ${CMAKE_BINARY_DIR}/docs/manuel.html
+  OUTPUT ${manuel}/manuel.html
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/docs/images ${manuel}/images
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${PROJECT_SOURCE_DIR}/docs/exemples ${manuel}/exemples
+  COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_SOURCE_DIR}/docs/carte-rapide.html ${manuel}
+  COMMAND creemanuel ${PROJECT_SOURCE_DIR}/docs/manuel.md ${manuel}/manuel.html
           "VarloTour : le manuel de l'organisateur"
-  DEPENDS creemanuel docs/manuel.md
+  DEPENDS creemanuel docs/manuel.md docs/carte-rapide.html ${images_manuel}
   COMMENT "Making the manual's page"
   VERBATIM)
-add_custom_target(manuel ALL DEPENDS ${CMAKE_BINARY_DIR}/docs/manuel.html)
+add_custom_target(manuel ALL DEPENDS ${manuel}/manuel.html)
 set(bureau ${PROJECT_SOURCE_DIR}/packaging/bureau)
 
 string(TIMESTAMP jour %Y-%m-%d UTC)

@@ -1,4 +1,5 @@
 #include "app/dossier_travail.h"
+#include "app/manuel.h"
 #include "app/programme.h"
 #include "ui/apparence.h"
 #include "ui/echelle.h"
@@ -40,6 +41,7 @@ int main(int argc, char *argv[])
     AleaHorloge alea;
     const Horloge horloge;
     Programme programme(dossier.chemin(), alea, horloge, boites);
+    programme.donneManuel(FichierManuel(QApplication::applicationDirPath(), QStringLiteral(VARLOTOUR_PAPIERS)));
     if (!programme.demarre())
         return 1;
     return QApplication::exec();

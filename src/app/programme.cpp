@@ -1,6 +1,7 @@
 #include "app/programme.h"
 
 #include "app/accueil.h"
+#include "app/manuel.h"
 #include "app/torvik.h"
 #include "clock/frmhorloge.h"
 #include "competitions/econcours.h"
@@ -76,6 +77,8 @@ bool Programme::demarre()
     m_torvik = std::make_unique<Torvik>(contexte);
     m_formulaires.prepare(contexte, m_torvik.get());
     m_clavier = std::make_unique<AccesClavier>(*m_torvik, m_boites);
+    QObject::connect(m_clavier.get(), &AccesClavier::aideDemandee, m_torvik.get(),
+                     [this] { OuvreManuel(m_manuel, m_boites); });
     try {
         m_torvik->Form_Load();
     } catch (const store::Erreur &erreur) {

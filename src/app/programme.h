@@ -18,6 +18,8 @@ public:
     Programme(const QString &dossier, SourceAleatoire &alea, const Horloge &horloge, Boites &boites);
     ~Programme();
 
+    /// The page that F1 shows.
+    void donneManuel(const QString &fichier) { m_manuel = fichier; }
     /// Creates the main window, which opens the base and shows the welcome window. A failure is shown in one box; false
     /// then, and the program has to end.
     bool demarre();
@@ -33,6 +35,7 @@ private:
 
     Partage m_partage;
     Boites &m_boites;
+    QString m_manuel;
     Formulaires m_formulaires;
     std::unique_ptr<Torvik> m_torvik;
     std::unique_ptr<AccesClavier> m_clavier;

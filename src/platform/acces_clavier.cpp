@@ -126,6 +126,10 @@ bool AccesClavier::touche(QWidget &porteur, const QKeyEvent &evenement)
     }
     if (avec != 0)
         return false;
+    if (evenement.key() == Qt::Key_F1) {
+        Q_EMIT aideDemandee();
+        return true;
+    }
     if (evenement.key() == Qt::Key_F10) {
         ouvreMenus();
         return true;

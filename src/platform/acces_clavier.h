@@ -14,6 +14,7 @@ class QMainWindow;
 /// - Alt and a letter goes to a control, and presses it when it is a button. While Alt is held, the letters stand on the
 ///   controls: captions stay as they are, and buttons that bear a picture alone have their key too;
 /// - F6 goes to the next window of the program from left to right, Shift and F6 to the one before;
+/// - F1 asks for help;
 /// - F10 goes to the menus of the main window;
 /// - Enter presses the buttons of the main window, as it does on the forms.
 class AccesClavier : public QObject
@@ -24,6 +25,9 @@ public:
     /// Serves \p principale and all forms.
     AccesClavier(QMainWindow &principale, const Boites &boites);
     ~AccesClavier() override;
+
+Q_SIGNALS:
+    void aideDemandee();
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;

@@ -1,5 +1,6 @@
 // A whole day without a mouse, and the keys that make it possible.
 #include "app/langue.h"
+#include "app/manuel.h"
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
@@ -9,9 +10,12 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QDesktopServices>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTextBrowser>
 
 namespace {
 
@@ -202,6 +206,27 @@ TEST_F(Clavier, LesLettresSeMontrentTantQueAltEstTenue)
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
     QTest::qWait(300);
     EXPECT_EQ(etiquettes(), sans);
+}
+
+TEST_F(Clavier, F1MontreLeManuel)
+{
+    prog.boites.attend(u"Le manuel manque"_qs);
+    touche(Qt::Key_F1);
+    prog.boites.verifie();
+
+    QTextBrowser navigateur;
+    QDesktopServices::setUrlHandler(u"file"_qs, &navigateur, "setSource");
+    const QDir dossier(prog.dossier());
+    for (const QString &papiers : {u"share/doc"_qs, u"bin/docs"_qs}) {
+        ASSERT_TRUE(dossier.mkpath(u"bin"_qs) && dossier.mkpath(papiers));
+        const QString page = dossier.filePath(papiers + u"/manuel.html"_qs);
+        ASSERT_TRUE(QFile(page).open(QIODevice::WriteOnly));
+        prog.programme().donneManuel(FichierManuel(dossier.filePath(u"bin"_qs), u"../share/doc"_qs));
+        touches({Qt::Key_F10, Qt::Key_Return}); // from a form as from the main window
+        touche(Qt::Key_F1);
+        EXPECT_EQ(navigateur.source(), QUrl::fromLocalFile(page));
+    }
+    QDesktopServices::unsetUrlHandler(u"file"_qs);
 }
 
 } // namespace
