@@ -23,11 +23,11 @@ constexpr std::array<quint32, 128> poidsAscii()
         if (!estChiffre(c) && !estLettre(c))
             poids[std::size_t(c)] = suivant++;
     }
-    for (int c = '0'; c <= '9'; ++c)
-        poids[std::size_t(c)] = suivant++;
-    for (int c = 'a'; c <= 'z'; ++c) {
-        poids[std::size_t(c)] = suivant;
-        poids[std::size_t(c - 'a' + 'A')] = suivant++;
+    for (std::size_t c = '0'; c <= '9'; ++c)
+        poids[c] = suivant++;
+    for (std::size_t c = 'a'; c <= 'z'; ++c) {
+        poids[c] = suivant;
+        poids[c - 'a' + 'A'] = suivant++;
     }
     return poids;
 }

@@ -89,7 +89,7 @@ private:
 
     QString nombre()
     {
-        const QString lu = tantQue([](QChar c) { return continueMot(c) || c == u'.'; });
+        QString lu = tantQue([](QChar c) { return continueMot(c) || c == u'.'; });
         bool juste = false;
         lu.toDouble(&juste);
         if (!juste)

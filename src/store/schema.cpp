@@ -19,7 +19,7 @@ Schema::Schema(BaseNative &base)
         litIndex(base, table);
         m_noms.append(table.nom);
         m_connus.insert(cleNom(table.nom), table.nom);
-        m_tables.insert(cleNom(table.nom), std::move(table));
+        m_tables.insert(cleNom(table.nom), table);
     }
     for (const Table &table : std::as_const(m_tables)) {
         for (const Champ &champ : table.champs) {

@@ -115,7 +115,8 @@ TEST_F(EtatPartage, ConcoursCharge)
     EXPECT_EQ(partage.DateConcours, QString());
     EXPECT_EQ(partage.LieuConcours, QString());
     EXPECT_EQ(partage.TourCourant, 0);
-    ChargeConcours(partage, numero = 5);
+    numero = 5;
+    ChargeConcours(partage, numero);
     EXPECT_EQ(partage.NbJoueurs, 3);
 }
 

@@ -116,10 +116,12 @@ TEST(Alarme, SonneALHeureDite)
 
 /// Farthest point from the centre, along the ray \p minute of 60, at which the picture is not white; units of the
 /// dial. Looks inside the circle only.
-double longueur(const QImage &image, double minute, double jusque)
+double longueur(const QImage &image, double minute, int jusque)
 {
+    constexpr int quarts = 4;
     const double angle = minute / 60 * 2 * M_PI;
-    for (double r = jusque; r > 8; r -= 0.25) {
+    for (int pas = jusque * quarts; pas > 8 * quarts; --pas) {
+        const double r = double(pas) / quarts;
         const QPointF point(100 + r * std::sin(angle), 100 - r * std::cos(angle));
         if (qGray(image.pixel(int(point.x() * 2), int(point.y() * 2))) < 200)
             return r;
