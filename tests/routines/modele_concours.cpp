@@ -269,7 +269,8 @@ QString fauteDuTour(const Concours &concours, const Journal &journal)
             return paire + u"bears the wrong mark"_qs;
         if (bas != haut && !ontRemonte.insert(bas).second)
             return paire + u"holds a second team of its level sent up"_qs;
-        if (std::ranges::any_of(niveau, [&](const auto &n) { return n.second > bas && n.second < haut; }))
+        const auto entreEux = [bas = bas, haut = haut](const auto &n) { return n.second > bas && n.second < haut; };
+        if (std::ranges::any_of(niveau, entreEux))
             return paire + u"passes over a level"_qs;
     }
     vues.erase(0);

@@ -15,7 +15,7 @@ qint64 tas()
 {
     QPixmapCache::clear();
     const struct mallinfo2 infos = mallinfo2();
-    return qint64(infos.uordblks + infos.hblkhd);
+    return qint64(infos.uordblks) + qint64(infos.hblkhd);
 }
 
 qsizetype objets(const QWidget *torvik)
