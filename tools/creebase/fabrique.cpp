@@ -141,7 +141,7 @@ private:
                 echoue(ligne.numero, u"la colonne « %1 » est vide"_qs.arg(colonne.nom));
             return {};
         }
-        const Valeur valeur = valeurDe(*champ, colonne.type);
+        Valeur valeur = valeurDe(*champ, colonne.type);
         if (valeur.estNull())
             echoue(ligne.numero, u"« %1 » n'est pas %2 (colonne « %3 »)"_qs.arg(*champ, attendu(colonne.type),
                                                                                 colonne.nom));

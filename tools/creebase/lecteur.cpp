@@ -26,7 +26,7 @@ QString litTexte(const QString &chemin)
     if (!fichier.open(QIODevice::ReadOnly))
         throw ErreurDonnees(nom, 0, u"lecture impossible (%1)"_qs.arg(fichier.errorString()));
     QStringDecoder decodeur(QStringDecoder::Utf8);
-    const QString texte = decodeur(fichier.readAll());
+    QString texte = decodeur(fichier.readAll());
     if (decodeur.hasError())
         throw ErreurDonnees(nom, 0, u"le texte n'est pas en UTF-8"_qs);
     return texte;
