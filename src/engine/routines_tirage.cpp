@@ -154,15 +154,10 @@ void fixeTourPrincipal(Partage &partage, int tour)
 }
 
 /// Draws round 1 into the store; what the program knows of it follows once the draw is on the disk.
-void ecritTirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau)
+void ecritTirageTour1(Partage &partage, qint16 tableau)
 {
-    std::vector<Rencontre> rencontres;
-    if (tourDejaTire(partage, tableau, premierTour)) {
-        interlocuteur.informe(partage.mes(114) + u' ' + partage.mes(15) + u' ' + partage.mes(115));
-    } else {
-        const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
-        rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
-    }
+    const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
+    const auto rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
     partage.BaseDonnees.EcritEnGroupe([&] {
         ecritRencontres(partage, tableau, rencontres);
         fixeTourPrincipal(partage, premierTour);
@@ -227,14 +222,19 @@ void ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
         for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
             partage.BaseDonnees.Execute(
                 u"delete * from %1 where concours=%2 and tableau=1"_qs.arg(table).arg(partage.ConcoursCourant));
-        ecritTirageTour1(partage, interlocuteur, 1);
+        ecritTirageTour1(partage, 1);
     });
     partage.TourCourant = premierTour;
 }
 
 void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau, int)
 {
-    ecritTirageTour1(partage, interlocuteur, tableau);
+    if (tourDejaTire(partage, tableau, premierTour)) {
+        interlocuteur.informe(partage.mes(114) + u' ' + partage.mes(15) + u' ' + partage.mes(115));
+        fixeTourPrincipal(partage, premierTour);
+    } else {
+        ecritTirageTour1(partage, tableau);
+    }
     partage.TourCourant = premierTour;
 }
 

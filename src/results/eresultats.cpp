@@ -2,6 +2,7 @@
 
 #include "app/concours_courant.h"
 #include "app/routines.h"
+#include "engine/routines_resultats.h"
 #include "engine/routines_tirage.h"
 #include "platform/formulaires.h"
 #include "platform/sablier.h"
@@ -305,31 +306,16 @@ void EResultats::annuleTirage()
 {
     formulaires().Decharge({u"Groupes"_qs, u"manqres"_qs});
     GardeUneCopie(contexte());
-    const QString numero = QString::number(partage().ConcoursCourant);
-    partage().BaseDonnees.EcritEnGroupe([&] {
-        partage().BaseDonnees.Execute(u"delete * from scores where concours="_qs + numero + u" and tableau=1"_qs);
-        partage().BaseDonnees.Execute(u"update concours set tourpri=0 where concours="_qs + numero);
-    });
-    partage().TourCourant = 0;
-    partage().AttendusAJour = partage().JouesAJour = false;
+    AnnuleTirage(partage());
     m_ui->tour_P1->clear();
     m_ui->tirage_suivant->setText(u"Tirage annulé Relancer"_qs);
     m_ui->tirage_suivant->show();
 }
 
-/// The store ends one round lower than the program's own count.
 void EResultats::annuleTour()
 {
     GardeUneCopie(contexte());
-    const QString numero = QString::number(partage().ConcoursCourant);
-    partage().BaseDonnees.EcritEnGroupe([&] {
-        partage().BaseDonnees.Execute(u"delete * from scores where concours=%1 and tableau=1 and tour=%2"_qs.arg(numero)
-                                          .arg(partage().TourCourant));
-        partage().BaseDonnees.Execute(
-            u"update concours set tourpri= %1 where concours=%2"_qs.arg(partage().TourCourant - 2).arg(numero));
-    });
-    --partage().TourCourant;
-    partage().AttendusAJour = partage().JouesAJour = false;
+    AnnuleTour(partage());
     m_ui->tour_P1->setText(u"annulé"_qs);
     m_ui->tirage_suivant->setText(u"Tour %1 annulé Relancer"_qs.arg(partage().TourCourant + 1));
     m_ui->tirage_suivant->show();

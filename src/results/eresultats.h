@@ -69,7 +69,6 @@ private:
     void saisieScore(Cote cote, int KeyCode);
     void validationScore(Cote cote, TextesGardes &gardes);
     void traduitMots();
-    bool enregistreScore();
     void termineSaisie(Cote cote, qint64 tour);
     void videRencontre();
     void refuseScoreSansRencontre(const QString &score);

@@ -2,6 +2,7 @@
 
 #include "app/routines.h"
 #include "engine/rencontre.h"
+#include "engine/routines_resultats.h"
 #include "platform/formulaires.h"
 #include "ui_eresultats.h"
 
@@ -173,29 +174,12 @@ void EResultats::validationScore(Cote cote, TextesGardes &gardes)
     }
     gardes = {};
     const qint64 tour = partage().TourCourant;
-    if (enregistreScore())
+    if (EnregistreScore(partage(), {m_ui->listconcours->currentText(), m_ui->Equipe1->text(), m_ui->Equipe2->text(),
+                                    m_ui->Score1->text(), m_ui->Score2->text()}))
         termineSaisie(cote, tour);
     videRencontre();
     DoEvents();
     SetFocus(m_ui->Equipe1);
-}
-
-/// Stores the two scores in the match of the current round; false when there is no such match.
-bool EResultats::enregistreScore()
-{
-    constexpr int tableau = 1;
-    Recordset scores = partage().BaseDonnees.OpenRecordset(u"scores", store::dbOpenTable);
-    scores.Index(u"Equipes");
-    scores.Seek(u"=", {m_ui->listconcours->currentText(), tableau, partage().TourCourant, m_ui->Equipe1->text(),
-                       m_ui->Equipe2->text()});
-    if (scores.NoMatch())
-        return false;
-    scores.Edit();
-    scores[u"score_reel"] = partage().ScoreReel;
-    scores[u"score_1"] = m_ui->Score1->text();
-    scores[u"score_2"] = m_ui->Score2->text();
-    scores.Update();
-    return true;
 }
 
 /// Shows what the stored result has changed. The first field counts what is missing over all rounds, the second one in

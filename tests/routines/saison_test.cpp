@@ -3,6 +3,7 @@
 #include "salle.h"
 
 #include "engine/controle_tours.h"
+#include "engine/routines_resultats.h"
 #include "engine/routines_tirage.h"
 #include "registration/equipe_inscrite.h"
 
@@ -308,7 +309,7 @@ bool Saison::annuleTour()
     if (m_courant->tourCourant < (chance(90) ? 1 : 0))
         return false;
     m_courant->annuleTour();
-    m_salle.annuleTour();
+    AnnuleTour(m_salle.partage);
     m_relance = true;
     if (chance(30))
         rouvre(); // on a round lower than the one that the program had come back to
@@ -320,7 +321,7 @@ bool Saison::annuleTirage()
     if (chance(60))
         return false;
     m_courant->annuleTirage();
-    m_salle.annuleTirage();
+    AnnuleTirage(m_salle.partage);
     m_relance = true;
     return true;
 }

@@ -1,6 +1,7 @@
 #include "salle.h"
 
 #include "app/concours_courant.h"
+#include "engine/routines_resultats.h"
 
 #include <QCryptographicHash>
 
@@ -103,35 +104,8 @@ int Salle::tourpri()
 
 bool Salle::saisit(int equipe1, int equipe2, const QString &score1, const QString &score2)
 {
-    Recordset scores = partage.BaseDonnees.OpenRecordset(u"scores", store::dbOpenTable);
-    scores.Index(u"Equipes");
-    scores.Seek(u"=", {QString::number(partage.ConcoursCourant), 1, partage.TourCourant, QString::number(equipe1),
-                       QString::number(equipe2)});
-    if (scores.NoMatch())
-        return false;
-    scores.Edit();
-    scores[u"score_reel"] = true;
-    scores[u"score_1"] = score1;
-    scores[u"score_2"] = score2;
-    scores.Update();
-    return true;
-}
-
-void Salle::annuleTour()
-{
-    const QString concours = u" where concours=%1"_qs.arg(partage.ConcoursCourant);
-    partage.BaseDonnees.Execute(u"delete * from scores"_qs + concours
-                                + u" and tableau=1 and tour=%1"_qs.arg(partage.TourCourant));
-    --partage.TourCourant;
-    partage.BaseDonnees.Execute(u"update concours set tourpri= %1"_qs.arg(partage.TourCourant - 1) + concours);
-}
-
-void Salle::annuleTirage()
-{
-    const QString concours = u" where concours=%1"_qs.arg(partage.ConcoursCourant);
-    partage.BaseDonnees.Execute(u"delete * from scores"_qs + concours + u" and tableau=1"_qs);
-    partage.BaseDonnees.Execute(u"update concours set tourpri=0"_qs + concours);
-    partage.TourCourant = 0;
+    return EnregistreScore(partage, {QString::number(partage.ConcoursCourant), QString::number(equipe1),
+                                     QString::number(equipe2), score1, score2});
 }
 
 QByteArray Salle::empreinteSauf(qint32 concours)

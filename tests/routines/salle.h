@@ -41,12 +41,8 @@ public:
     /// Rows of `tbclass` as the index `rankkey` walks them.
     std::vector<moteur::LigneClassement> tbclass();
     int tourpri();
-    /// Stores a result the way of the results screen: the match of the current round is sought by its teams, the scores
-    /// are texts. False when there is no such match.
+    /// EnregistreScore, in the current competition.
     bool saisit(int equipe1, int equipe2, const QString &score1, const QString &score2);
-    /// Cancels the current round, or the whole draw, the way of the results screen.
-    void annuleTour();
-    void annuleTirage();
     /// Fingerprint of the whole file but for the matches and the round of \p concours.
     QByteArray empreinteSauf(qint32 concours);
     qint64 nombre(const QString &sql) { return native().valeurUnique(sql).entier(); }

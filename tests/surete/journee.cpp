@@ -3,6 +3,7 @@
 #include "app/base.h"
 #include "app/concours_courant.h"
 #include "app/sauvegarde.h"
+#include "engine/routines_resultats.h"
 #include "engine/routines_tirage.h"
 #include "platform/imprimante.h"
 #include "registration/equipe_inscrite.h"
@@ -129,9 +130,7 @@ void Journee::saisit(int place)
         rencontres.MoveNext();
     if (rencontres.Eof())
         return;
-    rencontres.Edit();
-    rencontres[u"score_reel"] = true;
-    rencontres[u"score_1"] = QString::number(place % 2 == 0 ? 13 : 5);
-    rencontres[u"score_2"] = QString::number(place % 2 == 0 ? 7 : 13);
-    rencontres.Update();
+    exige(EnregistreScore(m_partage, {QString::number(m_partage.ConcoursCourant), rencontres[u"equipe_1"].texte(),
+                                      rencontres[u"equipe_2"].texte(), QString::number(place % 2 == 0 ? 13 : 5),
+                                      QString::number(place % 2 == 0 ? 7 : 13)}));
 }
