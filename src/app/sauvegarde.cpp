@@ -5,8 +5,10 @@
 #include "store/erreur.h"
 #include "store/fichiers.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -57,6 +59,18 @@ void retireLesRestes(QDir &dossier)
         dossier.remove(reste);
 }
 
+/// Whether the last run has left the base as its last copy has it. A copy from the future tells that the clock has been
+/// put back: no date means anything then.
+bool copieeParLeDernier(Partage &partage, const QDir &dossier)
+{
+    const store::BaseNative &base = partage.BaseDonnees.native();
+    const QStringList noms = copies(dossier, debutNom);
+    if (noms.isEmpty() || base.changements() > 0 || QFileInfo(base.fichier() + u"-wal"_qs).size() > 0)
+        return false;
+    const QDateTime copie = QFileInfo(dossier, noms.back() + finNom).lastModified();
+    return QFileInfo(base.fichier()).lastModified() < copie && copie <= QDateTime::currentDateTime();
+}
+
 QString phrase(const QString &cause)
 {
     return u"La copie de sécurité n'a pas pu être faite : %1\r\nLe travail continue sans elle."_qs.arg(cause);
@@ -78,6 +92,8 @@ QString SauveBase(Partage &partage)
     QDir dossier(partage.DossierProgramme);
     if (!dossier.mkpath(dossierSauvegardes) || !dossier.cd(dossierSauvegardes))
         return phrase(u"le dossier %1 ne peut pas être créé."_qs.arg(dossierSauvegardes));
+    if (copieeParLeDernier(partage, dossier))
+        return {};
 
     const QString jour = partage.horloge.jour().toString(u"yyyyMMdd"_qs);
     const QString nom = nomLibre(dossier, jour + u'-' + partage.horloge.heure().toString(u"HHmmss"_qs));

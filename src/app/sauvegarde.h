@@ -9,6 +9,7 @@ inline const QString dossierSauvegardes = u"sauvegardes"_qs;
 void PrepareSauvegardes(Partage &partage);
 
 /// Puts a dated copy of the open base, encrypted like it, into dossierSauvegardes, unless nothing has been written
-/// since the last one or Partage::AvecCopies is off. At most 20 copies stay there: the oldest go, except the first of today.
-/// Gives the sentence to show when the copy could not be made, empty otherwise; never throws.
+/// since the last one, in this run or an earlier one, or Partage::AvecCopies is off. At most 20 copies stay there: the
+/// oldest go, except the first of today. Gives the sentence to show when the copy could not be made, empty otherwise;
+/// never throws.
 QString SauveBase(Partage &partage);

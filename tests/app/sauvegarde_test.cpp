@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -90,6 +91,32 @@ TEST_F(Sauvegardes, VingtRestentEtLaPremiereDuJour)
     ecrit(99);
     ASSERT_EQ(SauveBase(partage), QString());
     EXPECT_EQ(noms().filter(u"-20200101-"_qs).size(), 1);
+}
+
+/// Else a day of idle starts would push out the copies of the days before.
+TEST_F(Sauvegardes, UnDepartSansRienDeNouveauNEnFaitPas)
+{
+    const auto redemarre = [this](const std::function<void()> &action) {
+        partage.BaseDonnees.Close();
+        partage.BaseDonnees = base.ouvre();
+        action();
+        horloge.moment = horloge.moment.addSecs(1);
+        EXPECT_EQ(SauveBase(partage), QString());
+        return noms().size();
+    };
+    const auto rien = [] {};
+    EXPECT_EQ(redemarre(rien), 1); // the first of all
+    EXPECT_EQ(redemarre(rien), 1);
+    EXPECT_EQ(redemarre([this] { ecrit(1); }), 2);
+    ecrit(2);
+    QThread::msleep(20); // beyond the grain of file times
+    EXPECT_EQ(redemarre(rien), 3) << "written after the last copy of its run";
+    EXPECT_EQ(redemarre(rien), 3);
+    // A copy from the future: the clock has been put back, the dates of files tell nothing.
+    QFile derniere(copies().filePath(noms().back()));
+    ASSERT_TRUE(derniere.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(derniere.setFileTime(QDateTime::currentDateTime().addDays(1), QFileDevice::FileModificationTime));
+    EXPECT_EQ(redemarre(rien), 4);
 }
 
 TEST_F(Sauvegardes, UnEchecSeDitEtNEmpecheRien)
