@@ -186,6 +186,12 @@ void Torvik::LegendesTorvik()
     update();
 }
 
+/// No error may leave through the signal that brings this about.
+void Torvik::langueChangee()
+{
+    Execute(m_contexte.boites, [this] { LegendesTorvik(); });
+}
+
 void Torvik::f_accueil_Click()
 {
     ouvre(m_contexte.formulaires, familleAccueil);
@@ -222,7 +228,7 @@ void Torvik::traduction_Click()
 {
     const QString nom = u"langues"_qs;
     if (auto *choix = qobject_cast<langues *>(m_contexte.formulaires.Charge(nom)))
-        connect(choix, &langues::langueChargee, this, &Torvik::LegendesTorvik, Qt::UniqueConnection);
+        connect(choix, &langues::langueChargee, this, &Torvik::langueChangee, Qt::UniqueConnection);
     m_contexte.formulaires.Montre(nom);
 }
 

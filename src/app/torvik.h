@@ -24,6 +24,7 @@ public:
     void Form_Load();
     /// Puts the texts and the icon of the active language on the window.
     void LegendesTorvik();
+    void langueChangee();
 
     void f_accueil_Click();
     void f_concours_Click();

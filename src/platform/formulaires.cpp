@@ -36,7 +36,8 @@ Formulaires::~Formulaires()
     qApp->removeEventFilter(this);
     const auto restantes = m_chargees;
     m_chargees.clear();
-    qDeleteAll(restantes);
+    for (const QPointer<Formulaire> &restante : restantes)
+        delete restante.data();
 }
 
 void Formulaires::enregistre(const QString &nom, Fabrique fabrique)

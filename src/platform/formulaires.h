@@ -66,7 +66,7 @@ private:
     QPointer<QWidget> m_parent;
     Redimensionnement m_redimensionnement;
     QHash<QString, Fabrique> m_fabriques;
-    QHash<QString, Formulaire *> m_chargees;
+    QHash<QString, QPointer<Formulaire>> m_chargees;
     QPointer<Formulaire> m_active;
     QPointer<Formulaire> m_devant;
     QPointer<QWidget> m_controle;

@@ -68,16 +68,14 @@ void listeq::Form_Activate()
 {
     LegendesListeq();
     m_ui->imprimer_selection->setVisible(!pourLesResultats());
-    remplit(format(), [this] {
-        if (pourLesResultats()) {
-            ajouteEquipes(nullptr);
-            return;
-        }
-        FichierEquipes fichier;
-        ecritTitres(fichier);
-        ajouteEquipes(&fichier);
-        enregistre(fichier);
+    std::optional<FichierEquipes> fichier;
+    remplit(format(), [&] {
+        if (!pourLesResultats())
+            ecritTitres(fichier.emplace());
+        ajouteEquipes(fichier ? &*fichier : nullptr);
     });
+    if (fichier)
+        enregistre(*fichier);
 }
 
 /// Adds the members with their teams' numbers, and tells them to \p fichier; without a file, the first one of each team.

@@ -13,7 +13,7 @@ void BaseNative::prepareCopies(const QString &motDePasse)
 {
     if (m_copiste || m_ouvertureCopiste.valid())
         return;
-    m_ouvertureCopiste = std::async([fichier = m_fichier, motDePasse] {
+    m_ouvertureCopiste = std::async(std::launch::async, [fichier = m_fichier, motDePasse] {
         return std::make_unique<BaseNative>(fichier, motDePasse, Mode::DejaVerifiee);
     });
 }
