@@ -4,7 +4,9 @@
 # cpack makes the .deb of the first and the .tar.gz of the second.
 
 set(originaux_poses ${CMAKE_BINARY_DIR}/base/VarloBase.mdb ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/drelin.WAV)
-foreach(numero RANGE 1 6)
+file(GLOB drapeaux CONFIGURE_DEPENDS data/icones/*.svg)
+foreach(drapeau ${drapeaux})
+  cmake_path(GET drapeau STEM numero)
   list(APPEND originaux_poses ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${numero}.ico)
 endforeach()
 set(manuel ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/docs)

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-/// State that all screens share for one run. There is one object of it, made by the entry routine and passed on.
+/// State that all screens share for one run. There is one object of it, made by Programme and passed on.
 struct Partage
 {
     Partage(const QString &dossier, SourceAleatoire &source, const Horloge &horlogeDuJour)

@@ -10,7 +10,7 @@
 /// Address at the foot of every page.
 inline const QString adresseEditeur = u"www.varlotour.example"_qs;
 
-/// What all sheets share: the printer dialog, the page head, the footer and the page counter of one document. Positions
+/// What the sheets share: the printer dialog, the page head, the footer and the page counter of one document. Positions
 /// are in twips.
 class Cadre
 {
@@ -33,7 +33,7 @@ public:
     void commence() { m_entete(); }
     /// Ends the page and begins the next one when the last block has passed \p limite.
     void saute(int limite);
-    /// Draws the last footer and sends the document; the next sheet begins in portrait again.
+    /// Draws the last footer and sends the document.
     void termine();
 
     /// Prints the date, the place, and at \p colonne the team size and the category, with a blank line behind them.

@@ -109,7 +109,7 @@ void RemplitTour(Partage &partage, FlexGrid &grille, int tour, bool avecNoms)
         grille.setRows(ligne + 1);
         grille.setVisible(true);
     }
-    // A lone match under this name was the final.
+    // A lone match under this name, that of round 1, was the final of two teams.
     const int derniere = ligne - 1;
     if (grille.TextMatrix(derniere, 0) != partage.mes(64) || grille.TextMatrix(derniere, 2).isEmpty())
         return;
