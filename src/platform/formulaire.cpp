@@ -78,8 +78,17 @@ void SetFocus(QWidget *controle)
     controle->setFocus(Qt::OtherFocusReason);
 }
 
+namespace {
+
+/// A dialog, for the desktop: it keeps those before the window that they belong to, which else would cover all forms
+/// when it is clicked. With all buttons of a window.
+constexpr auto genreDeFenetre = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+    | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint;
+
+} // namespace
+
 Formulaire::Formulaire(const Contexte &contexte, QWidget *parent)
-    : QWidget(parent, Qt::Window)
+    : QWidget(parent, genreDeFenetre)
     , m_contexte(contexte)
 {
 }
