@@ -8,7 +8,7 @@ constexpr double plusLoin = 100.0 * 24 * 60; // minutes
 
 } // namespace
 
-bool Alarme::regle(const QString &minutes, const QDateTime &maintenant, QTime affichee)
+bool Alarme::regle(const QString &minutes, const QDateTime &maintenant)
 {
     bool nombre = false;
     const double valeur = QString(minutes).replace(u',', u'.').toDouble(&nombre);
@@ -16,7 +16,7 @@ bool Alarme::regle(const QString &minutes, const QDateTime &maintenant, QTime af
         return false;
     m_heure = maintenant.addSecs(std::llrint(valeur * 60));
     m_minutes = minutes;
-    m_miseA = affichee;
+    m_miseLe = maintenant.date();
     m_attendMinuit = m_heure.date() > maintenant.date();
     return true;
 }
@@ -27,12 +27,12 @@ void Alarme::efface()
     m_attendMinuit = false;
 }
 
-bool Alarme::sonne(QTime affichee)
+bool Alarme::sonne(const QDateTime &affichee)
 {
     if (!estMise() || !affichee.isValid())
         return false;
-    // A time of day earlier than the one at which the alarm was set: midnight has gone by.
-    if (m_attendMinuit && affichee < m_miseA)
+    // By the date: an earlier time of day can also be a clock that was put right.
+    if (m_attendMinuit && affichee.date() > m_miseLe)
         m_attendMinuit = false;
-    return !m_attendMinuit && affichee >= m_heure.time();
+    return !m_attendMinuit && affichee.time() >= m_heure.time();
 }

@@ -3,7 +3,7 @@
 #include <QDateTime>
 #include <QString>
 
-/// An alarm some minutes from now. It compares times of day: set across midnight, it waits for midnight first.
+/// An alarm some minutes from now. It compares times of day: set across midnight, it waits for the next day first.
 class Alarme
 {
 public:
@@ -16,16 +16,16 @@ public:
     /// Time of day of the alarm that is set.
     QTime heure() const { return m_heure.time(); }
 
-    /// Sets the alarm \p minutes (a number, with or without decimals) after \p maintenant. \p affichee is the time that
-    /// the clock shows. False when the text is no number, or too great a one: nothing is set then.
-    bool regle(const QString &minutes, const QDateTime &maintenant, QTime affichee);
+    /// Sets the alarm \p minutes (a number, with or without decimals) after \p maintenant. False when the text is no
+    /// number, or too great a one: nothing is set then.
+    bool regle(const QString &minutes, const QDateTime &maintenant);
     void efface();
     /// Whether the alarm is due, now that the clock shows \p affichee; asked once a second at least.
-    bool sonne(QTime affichee);
+    bool sonne(const QDateTime &affichee);
 
 private:
     QDateTime &m_heure;
     QString m_minutes;
-    QTime m_miseA;
+    QDate m_miseLe;
     bool m_attendMinuit = false;
 };

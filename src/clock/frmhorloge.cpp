@@ -104,7 +104,7 @@ void FrmHorloge::hideEvent(QHideEvent *evenement)
 /// The alarm goes by the time that stands there, before the next one takes its place.
 void FrmHorloge::Timer1_Timer()
 {
-    if (m_alarme.sonne(QTime::fromString(m_ui->Heure->text(), formatHeure)))
+    if (m_alarme.sonne(QDateTime(m_jourAffiche, QTime::fromString(m_ui->Heure->text(), formatHeure))))
         sonne();
     montreHeure();
     // Waiting for the next full second, and not for a second, keeps the display from skipping one.
@@ -113,6 +113,7 @@ void FrmHorloge::Timer1_Timer()
 
 void FrmHorloge::montreHeure()
 {
+    m_jourAffiche = partage().horloge.jour(); // before the time: between the two, midnight can go by
     const QTime heure = partage().horloge.heure();
     const QString texte = heure.toString(formatHeure);
     m_ui->Heure->setText(texte);
@@ -182,7 +183,7 @@ void FrmHorloge::Command1_Click()
     const QDateTime maintenant(horloge.jour(), QTime(heure.hour(), heure.minute(), heure.second()));
     if (minutes.isEmpty())
         montreAlarme({}, {}, {});
-    else if (m_alarme.regle(minutes, maintenant, QTime::fromString(m_ui->Heure->text(), formatHeure)))
+    else if (m_alarme.regle(minutes, maintenant))
         montreAlarme(m_alarme.heure().toString(u"HH"_qs), separateur + m_alarme.heure().toString(u"mm"_qs),
                      separateur + m_alarme.heure().toString(u"ss"_qs));
     else

@@ -88,6 +88,7 @@ private:
     Chronometre m_chronometre;
     Chronometre::Champs m_montre;
     int m_marche = 0;
+    QDate m_jourAffiche; ///< Day of the time that stands in `Heure`.
 
     Alarme m_alarme;
     bool m_inverse = false;

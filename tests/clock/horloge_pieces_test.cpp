@@ -88,11 +88,11 @@ int premiereSonnerie(const QString &minutes, QTime maintenant)
     QDateTime heure;
     Alarme alarme(heure);
     const QDateTime mise(QDate(2026, 7, 14), maintenant);
-    // The display can be a second behind the clock.
-    if (!alarme.regle(minutes, mise, maintenant.addSecs(-1)))
+    if (!alarme.regle(minutes, mise))
         return -1;
+    // The display can be a second behind the clock.
     for (int ecoulees = -1; ecoulees < 2 * 86400; ++ecoulees) {
-        if (alarme.sonne(maintenant.addSecs(ecoulees)))
+        if (alarme.sonne(mise.addSecs(ecoulees)))
             return ecoulees;
     }
     return -2;
@@ -112,6 +112,17 @@ TEST(Alarme, SonneALHeureDite)
     EXPECT_EQ(premiereSonnerie(u"1440"_qs, QTime(12, 0)), 1440 * 60);
     for (const QString &texte : {u"dix"_qs, u"5 min"_qs, u"nan"_qs, u"inf"_qs, u"1e9"_qs, u"٣"_qs, u" "_qs, u"--"_qs})
         EXPECT_EQ(premiereSonnerie(texte, QTime(9, 30)), -1) << texte.toStdString();
+}
+
+TEST(Alarme, UneHorlogeRemiseALHeureNEstPasMinuit)
+{
+    QDateTime heure;
+    Alarme alarme(heure);
+    const QDateTime mise(QDate(2026, 7, 14), QTime(23, 50));
+    ASSERT_TRUE(alarme.regle(u"20"_qs, mise));
+    EXPECT_FALSE(alarme.sonne(mise.addSecs(-60)));
+    EXPECT_FALSE(alarme.sonne(mise.addSecs(60)));
+    EXPECT_TRUE(alarme.sonne(mise.addSecs(20 * 60)));
 }
 
 /// Farthest point from the centre, along the ray \p minute of 60, at which the picture is not white; units of the
