@@ -16,6 +16,9 @@ const QString saut = u"\r\n"_qs;
 const QString question = u"Attention cette opération est irréversible"_qs + saut
     + u"Avez vous fait une sauvegarde?"_qs + saut + u"Vous allez supprimer des informations"_qs;
 const QString journal = u"-wal"_qs;
+const QStringList formesDeConcours{u"Econcours"_qs, u"Eequipes"_qs,  u"Listesoc"_qs, u"listeq"_qs,  u"Listco"_qs,
+                                   u"I_tirage"_qs,  u"EResultats"_qs, u"valresu"_qs,  u"manqres"_qs, u"Groupes"_qs,
+                                   u"palmares"_qs,  u"Resusoc"_qs,    u"Détail_résultats"_qs};
 
 QString chemin(const Partage &partage, const QString &fichier)
 {
@@ -139,6 +142,8 @@ void PurgeBase(const Contexte &contexte, const FichiersBase &fichiers)
         contexte.boites.MsgBox(u"Opération annulée"_qs);
         return;
     }
+    // What stands on them is about to go: they would store it in a competition that is no more.
+    contexte.formulaires.Decharge(formesDeConcours);
     GardeUneCopie(contexte);
     {
         const Patience alerte(contexte, u"  Opération en cours....Patientez"_qs);

@@ -250,8 +250,10 @@ TEST_F(Purge, SomebodyWhoStillReadsTheBaseKeepsItsJournal)
     exigeBaseVivante();
 }
 
-TEST_F(Purge, FormsThatStayOpenGoOnWithoutTheirCompetition)
+/// A form left open would store teams in a competition that is no more.
+TEST_F(Purge, TheFormsOfACompetitionGoWithIt)
 {
+    prog.ouvre(u"chrono"_qs);
     prog.ouvre(u"f_resultats"_qs);
     prog.clique(u"EResultats"_qs, u"manquants"_qs);
     prog.clique(u"EResultats"_qs, u"VALIDATION"_qs);
@@ -260,10 +262,9 @@ TEST_F(Purge, FormsThatStayOpenGoOnWithoutTheirCompetition)
     exigeBaseVivante();
     prog.boites.repondATout();
     EXPECT_EQ(prog.partage().ConcoursCourant, concours);
-    for (const QString &bouton : {u"manquants"_qs, u"VALIDATION"_qs, u"tirage_suivant"_qs}) {
-        if (prog.controle(u"EResultats"_qs, bouton)->isVisible())
-            prog.clique(u"EResultats"_qs, bouton);
-    }
+    for (const QString &forme : prog.formulaires().noms())
+        EXPECT_EQ(prog.formulaires().estChargee(forme), forme == u"FrmHorloge"_qs || forme == u"Accueil"_qs)
+            << forme.toStdString();
     for (const QString &famille : {u"f_resultats"_qs, u"f_equipes"_qs, u"f_concours"_qs, u"f_accueil"_qs})
         prog.ouvre(famille);
     exigeBaseVivante();
