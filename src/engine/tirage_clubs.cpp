@@ -1,7 +1,6 @@
 #include "engine/clubs.h"
 #include "engine/tirage_etat.h"
 
-#include <array>
 #include <utility>
 
 namespace moteur::tirage {

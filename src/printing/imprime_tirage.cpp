@@ -4,7 +4,6 @@
 #include "engine/clubs.h"
 #include "printing/cadre.h"
 
-#include <optional>
 
 using store::Recordset;
 
