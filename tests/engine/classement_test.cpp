@@ -68,4 +68,15 @@ TEST(Classement, LignesSuivantes)
     attend(lignes.at(4), 1, 0, 13, 7);
 }
 
+TEST(Classement, RepechageVientDeLaPremiereLigneEtDuPremierCote)
+{
+    const auto lignes = classe({{.tour = 1, .equipe1 = 1, .equipe2 = 2, .repechage = 1},
+                                {.tour = 1, .equipe1 = 3, .equipe2 = 4, .repechage = 2},
+                                {.tour = 1, .equipe1 = 5, .equipe2 = 6, .repechage = 0},
+                                {.tour = 2, .equipe1 = 3, .equipe2 = 5, .repechage = 1},
+                                {.tour = 2, .equipe1 = 7, .equipe2 = 0, .repechage = 1}});
+    for (const auto &[equipe, ligne] : lignes)
+        EXPECT_EQ(ligne.repechage, equipe == 1 || equipe == 7 ? std::optional(1) : std::nullopt) << equipe;
+}
+
 } // namespace
