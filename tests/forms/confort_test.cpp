@@ -64,7 +64,8 @@ void Confort::verifieCibles(const QWidget &forme, const QList<QWidget *> &comman
         SCOPED_TRACE(commande->objectName().toStdString());
         const bool serree = forme.objectName() == u"palmares"; // see LesChoixSerresDuPalmares
         EXPECT_TRUE(serree || commande->height() >= hauteurCible) << commande->height();
-        EXPECT_TRUE(commande->isHidden() || commande->parent() != &forme || forme.rect().contains(commande->geometry()));
+        const bool dedans = commande->parent() != &forme || forme.rect().contains(commande->geometry());
+        EXPECT_TRUE(commande->isHidden() || dedans);
         for (const QWidget *autre : commandes) {
             const bool ensemble = commande < autre && commande->isVisible() && autre->isVisible();
             EXPECT_FALSE(ensemble && commande->geometry().intersects(autre->geometry()))

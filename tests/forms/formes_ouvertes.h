@@ -47,7 +47,9 @@ protected:
         if (nom == u"Torvik")
             return prog.torvik();
         prog.formulaires().DechargeTout();
-        if (QStringList{u"manqres"_qs, u"valresu"_qs, u"Groupes"_qs, u"I_tirage"_qs, u"Détail_résultats"_qs}.contains(nom))
+        const QStringList surResultats{u"manqres"_qs, u"valresu"_qs, u"Groupes"_qs, u"I_tirage"_qs,
+                                           u"Détail_résultats"_qs};
+        if (surResultats.contains(nom))
             prog.formulaires().Montre(u"EResultats"_qs);
         prog.partage().AttendusAJour = false;
         if (nom == u"Groupes")
