@@ -15,7 +15,7 @@ bool Alarme::regle(const QString &minutes, const QDateTime &maintenant)
     if (!nombre || !(std::abs(valeur) <= plusLoin))
         return false;
     m_heure = maintenant.addSecs(std::llrint(valeur * 60));
-    m_minutes = minutes;
+    m_mise = true;
     m_miseLe = maintenant.date();
     m_attendMinuit = m_heure.date() > maintenant.date();
     return true;
@@ -23,7 +23,7 @@ bool Alarme::regle(const QString &minutes, const QDateTime &maintenant)
 
 void Alarme::efface()
 {
-    m_minutes.clear();
+    m_mise = false;
     m_attendMinuit = false;
 }
 

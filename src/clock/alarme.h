@@ -10,9 +10,7 @@ public:
     /// \p heure outlives the alarm and holds its date and time.
     explicit Alarme(QDateTime &heure) : m_heure(heure) {}
 
-    /// The minutes as they were typed; empty when no alarm is set.
-    const QString &MinutesAlarme() const { return m_minutes; }
-    bool estMise() const { return !m_minutes.isEmpty(); }
+    bool estMise() const { return m_mise; }
     /// Time of day of the alarm that is set.
     QTime heure() const { return m_heure.time(); }
 
@@ -25,7 +23,7 @@ public:
 
 private:
     QDateTime &m_heure;
-    QString m_minutes;
+    bool m_mise = false;
     QDate m_miseLe;
     bool m_attendMinuit = false;
 };

@@ -23,12 +23,8 @@ QMessageBox::Icon image(int drapeaux)
     switch (drapeaux & 0x70) {
     case vbCritical:
         return QMessageBox::Critical;
-    case vbQuestion:
-        return QMessageBox::Question;
     case vbExclamation:
         return QMessageBox::Warning;
-    case vbInformation:
-        return QMessageBox::Information;
     default:
         return QMessageBox::NoIcon;
     }

@@ -14,9 +14,7 @@ enum DrapeauBoite {
     vbYesNoCancel = 3,
     vbYesNo = 4,
     vbCritical = 16,
-    vbQuestion = 32,
     vbExclamation = 48,
-    vbInformation = 64,
     vbYesNoDevant = 524294, ///< Yes and No, in front of the windows of every program.
 };
 

@@ -1,7 +1,6 @@
 #include "platform/flexgrid.h"
 
 #include "platform/twips.h"
-#include "store/collation.h"
 
 #include <QHeaderView>
 #include <QPainter>
@@ -50,7 +49,6 @@ protected:
 FlexGrid::FlexGrid(QWidget *parent)
     : QTableView(parent)
     , m_modele(new FlexGridModele(this))
-    , m_compare(&store::CompareFrancais)
     , m_largeurs(1, LargeurInitiale)
 {
     setModel(m_modele);
@@ -161,25 +159,9 @@ void FlexGrid::setTextMatrix(int ligne, int colonne, const QString &texte)
         m_modele->fixeTexte(ligne, colonne, texte);
 }
 
-void FlexGrid::AddItem(const QString &texte, int ligne)
+void FlexGrid::AddItem(const QString &texte)
 {
-    const int position = ligne < 0 ? Rows() : ligne;
-    Q_ASSERT_X(position >= 1 && position <= Rows(), "FlexGrid", "no such place for a row");
-    m_modele->insere(std::clamp(position, 1, Rows()), texte.split(u'\t'));
-}
-
-void FlexGrid::RemoveItem(int ligne)
-{
-    Q_ASSERT_X(ligne != 0, "FlexGrid", "the header cannot be removed");
-    if (!existe(ligne, 0) || ligne == 0)
-        return;
-    m_modele->retire(ligne);
-    borneSelection();
-}
-
-void FlexGrid::Clear()
-{
-    m_modele->vide();
+    m_modele->ajoute(texte.split(u'\t'));
 }
 
 void FlexGrid::setFormatString(const QString &format)
@@ -221,16 +203,6 @@ void FlexGrid::setColWidth(int colonne, int twips)
         setColumnWidth(colonne, largeurVoulue(colonne));
 }
 
-int FlexGrid::RowHeight() const
-{
-    return enTwips(verticalHeader()->defaultSectionSize());
-}
-
-void FlexGrid::setRowHeight(int twips)
-{
-    verticalHeader()->setDefaultSectionSize(enPixels(twips));
-}
-
 quint32 FlexGrid::CellBackColor(int ligne, int colonne) const
 {
     return existe(ligne, colonne) ? m_modele->fond(ligne, colonne) : FondFenetre;
@@ -261,20 +233,15 @@ int FlexGrid::LargeurTexte(const QString &texte, bool gras) const
     return enTwips(QFontMetrics(police).horizontalAdvance(texte) + MargeTexte);
 }
 
-void FlexGrid::setSort(int ordre)
+void FlexGrid::setSort(Ordre ordre)
 {
-    if (ordre < GeneriqueCroissant || ordre > TexteDecroissant || Rows() < 3)
+    if (Rows() < 3)
         return;
     const auto [colDebut, colFin] = std::minmax(m_col, m_colSel);
     auto [debut, fin] = std::minmax(m_row, m_rowSel);
     const bool toutes = debut == fin;
-    using Nature = FlexGridModele::Nature;
-    const Nature nature = ordre <= GeneriqueDecroissant ? Nature::Generique
-                          : ordre <= NumeriqueDecroissant ? Nature::Numerique
-                                                          : Nature::Texte;
-    m_modele->trie({toutes ? 1 : std::max(debut, 1), toutes ? Rows() - 1 : fin, colDebut, colFin, nature,
-                    ordre % 2 == 0},
-                   m_compare);
+    m_modele->trie({toutes ? 1 : std::max(debut, 1), toutes ? Rows() - 1 : fin, colDebut, colFin,
+                    ordre == GeneriqueDecroissant});
 }
 
 int FlexGrid::TopRow() const

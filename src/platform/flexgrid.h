@@ -19,14 +19,7 @@ class FlexGrid : public QTableView
 
 public:
     /// What setSort() takes.
-    enum Ordre {
-        GeneriqueCroissant = 1,
-        GeneriqueDecroissant,
-        NumeriqueCroissant,
-        NumeriqueDecroissant,
-        TexteCroissant,
-        TexteDecroissant,
-    };
+    enum Ordre { GeneriqueCroissant = 1, GeneriqueDecroissant };
     /// Back colour of a cell that has none of its own; setting it takes a cell's colour away.
     static constexpr quint32 FondFenetre = FlexGridModele::FondParDefaut;
 
@@ -57,12 +50,8 @@ public:
     QString TextMatrix(int ligne, int colonne) const;
     void setTextMatrix(int ligne, int colonne, const QString &texte);
 
-    /// Adds a row whose cells stand in \p texte, separated by tabulators; before \p ligne, or last without it.
-    void AddItem(const QString &texte, int ligne = -1);
-    /// Takes a row out; the header stays.
-    void RemoveItem(int ligne);
-    /// Empties the texts and colours of all cells, the header's too; rows and columns stay.
-    void Clear();
+    /// Adds a last row whose cells stand in \p texte, separated by tabulators.
+    void AddItem(const QString &texte);
 
     /// Headings separated by |, each led by its column's alignment (<, ^ or >; without one, texts stand left and
     /// numbers right). A column becomes as wide as its heading, in which a blank counts as a digit's width. There are
@@ -76,9 +65,6 @@ public:
     void setTitresEntiers(bool entiers);
     /// Width in pixels that a column has on the screen, unless it is the last one and takes what is left.
     int LargeurAffichee(int colonne);
-    /// Height of a row; all rows below the header have the same.
-    int RowHeight() const;
-    void setRowHeight(int twips);
 
     /// Back colour of the current cell, FondFenetre when it has none of its own. The header shows none.
     quint32 CellBackColor() const { return m_modele->fond(m_row, m_col); }
@@ -103,27 +89,23 @@ public:
     int LargeurTexte(const QString &texte, bool gras = false) const;
 
     /// Sorts by the selected columns, from left to right, the selected rows, or all of them when only one is selected.
-    /// \p ordre is one of Ordre; any other value sorts nothing.
-    void setSort(int ordre);
-    /// Order of texts for setSort(): below 0, 0 or above 0. French, without regard to case, unless told otherwise.
-    void setComparaison(FlexGridModele::Comparaison compare) { m_compare = std::move(compare); }
+    /// Numbers come first, then texts in French order, without regard to case.
+    void setSort(Ordre ordre);
 
     /// First row below the header that is on screen.
     int TopRow() const;
     /// Scrolls so that \p ligne comes first, as far as the rows below it fill the grid.
     void setTopRow(int ligne);
 
-    /// Row and column under the pointer at its last move or click in the grid; 0 on the header, -1 outside all rows.
-    int MouseRow() const { return m_mouseRow; }
+    /// Column under the pointer at its last move or click in the grid, -1 outside all columns.
     int MouseCol() const { return m_mouseCol; }
 
     /// While false, the grid goes on showing what it showed.
-    bool Redraw() const { return m_redraw; }
     void setRedraw(bool montre);
 
 Q_SIGNALS:
-    /// A button has been pressed, and the selection has followed when it was the left one. Row and column as in
-    /// MouseRow() and MouseCol().
+    /// A button has been pressed, and the selection has followed when it was the left one. Row and column are those
+    /// under the pointer: row 0 on the header, -1 outside all rows or columns.
     void mousePresse(Qt::MouseButton bouton, Qt::KeyboardModifiers touches, int ligne, int colonne);
     void mouseRelache(Qt::MouseButton bouton, Qt::KeyboardModifiers touches, int ligne, int colonne);
     /// A key has been pressed; keys that move the selection have moved it.
@@ -154,10 +136,9 @@ private:
     void clicAuClavier(const QKeyEvent &evenement);
 
     FlexGridModele *m_modele;
-    FlexGridModele::Comparaison m_compare;
     QString m_format;
-    std::vector<int> m_largeurs;
-    bool m_titresEntiers = false; // twips
+    std::vector<int> m_largeurs; // twips
+    bool m_titresEntiers = false;
     int m_row = 0;
     int m_col = 0;
     int m_rowSel = 0;

@@ -1,5 +1,6 @@
 #include "platform/flexgridmodele.h"
 
+#include "store/collation.h"
 #include "store/valeur.h"
 
 #include <QBrush>
@@ -26,20 +27,19 @@ struct Cle
     QString texte;
 };
 
-Cle cleDe(const QString &texte, FlexGridModele::Nature nature)
+Cle cleDe(const QString &texte)
 {
-    using Nature = FlexGridModele::Nature;
-    const bool estNombre = nature == Nature::Numerique || (nature == Nature::Generique && store::EstNumerique(texte));
+    const bool estNombre = store::EstNumerique(texte);
     return {estNombre, estNombre ? store::Val(texte) : 0, texte};
 }
 
 // Numbers come before texts: comparing a number with a text as texts would make circles (20 < 100 < 1a < 20).
-int compareCles(const Cle &a, const Cle &b, const FlexGridModele::Comparaison &compare)
+int compareCles(const Cle &a, const Cle &b)
 {
     if (a.estNombre != b.estNombre)
         return a.estNombre ? -1 : 1;
     if (!a.estNombre)
-        return compare(a.texte, b.texte);
+        return store::CompareFrancais(a.texte, b.texte);
     return a.nombre < b.nombre ? -1 : a.nombre > b.nombre ? 1 : 0;
 }
 
@@ -148,30 +148,17 @@ void FlexGridModele::fixeAlignement(int colonne, char16_t signe)
     ouvre();
 }
 
-void FlexGridModele::insere(int position, const QStringList &textes)
+void FlexGridModele::ajoute(const QStringList &textes)
 {
     ouvre();
     Ligne ligne(static_cast<size_t>(m_colonnes));
     const auto remplies = std::min(textes.size(), qsizetype(m_colonnes));
     for (qsizetype c = 0; c < remplies; ++c)
         ligne[size_t(c)].texte = textes[c];
-    m_lignes.insert(m_lignes.begin() + position, std::move(ligne));
+    m_lignes.push_back(std::move(ligne));
 }
 
-void FlexGridModele::retire(int ligne)
-{
-    ouvre();
-    m_lignes.erase(m_lignes.begin() + ligne);
-}
-
-void FlexGridModele::vide()
-{
-    ouvre();
-    for (Ligne &ligne : m_lignes)
-        std::fill(ligne.begin(), ligne.end(), Cellule());
-}
-
-void FlexGridModele::trie(const Tri &tri, const Comparaison &compare)
+void FlexGridModele::trie(const Tri &tri)
 {
     struct Rangee
     {
@@ -186,12 +173,12 @@ void FlexGridModele::trie(const Tri &tri, const Comparaison &compare)
     for (auto ligne = debut; ligne != fin; ++ligne) {
         std::vector<Cle> cles;
         for (int c = tri.premiereColonne; c <= tri.derniereColonne; ++c)
-            cles.push_back(cleDe((*ligne)[size_t(c)].texte, tri.nature));
+            cles.push_back(cleDe((*ligne)[size_t(c)].texte));
         rangees.push_back({std::move(cles), std::move(*ligne)});
     }
     std::stable_sort(rangees.begin(), rangees.end(), [&](const Rangee &a, const Rangee &b) {
         for (size_t c = 0; c < a.cles.size(); ++c) {
-            const int ordre = compareCles(a.cles[c], b.cles[c], compare);
+            const int ordre = compareCles(a.cles[c], b.cles[c]);
             if (ordre != 0)
                 return tri.decroissant ? ordre > 0 : ordre < 0;
         }

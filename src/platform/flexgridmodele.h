@@ -3,7 +3,6 @@
 #include <QAbstractTableModel>
 #include <QColor>
 
-#include <functional>
 #include <map>
 #include <vector>
 
@@ -17,16 +16,12 @@ class FlexGridModele final : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    using Comparaison = std::function<int(QStringView, QStringView)>;
-    enum class Nature { Generique, Numerique, Texte };
-
     struct Tri
     {
         int premiereLigne;
         int derniereLigne;
         int premiereColonne;
         int derniereColonne;
-        Nature nature;
         bool decroissant;
     };
 
@@ -52,13 +47,10 @@ public:
     /// Alignment of a column: '<', '^', '>', or a blank for texts to the left and numbers to the right.
     void fixeAlignement(int colonne, char16_t signe);
 
-    /// Inserts a row before \p position, its cells taken from \p textes as far as there are columns.
-    void insere(int position, const QStringList &textes);
-    void retire(int ligne);
-    /// Empties all cells, the header's too; rows and columns stay.
-    void vide();
+    /// Adds a last row, its cells taken from \p textes as far as there are columns.
+    void ajoute(const QStringList &textes);
     /// Sorts rows by one column after the other; rows that compare equal keep their order.
-    void trie(const Tri &tri, const Comparaison &compare);
+    void trie(const Tri &tri);
 
     /// Whether the structure has changed since the view was last told.
     bool enAttente() const { return m_enAttente; }

@@ -40,7 +40,7 @@ private:
     struct Tri
     {
         int colonne;
-        int ordre;
+        FlexGrid::Ordre ordre;
     };
     void applique(const Tri &tri);
     void elargitNumeros();

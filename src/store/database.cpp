@@ -85,7 +85,7 @@ Recordset Database::OpenRecordset(QStringView source, int type)
 {
     const Schema &schema = moteur().schema;
     const Table *table = schema.table(source.trimmed());
-    if (table != nullptr && type != dbOpenSnapshot && type != dbOpenDynaset)
+    if (table != nullptr && type != dbOpenSnapshot)
         return Recordset(std::make_unique<RecordsetTable>(m_moteur, table));
     if (type == dbOpenTable)
         throw Erreur(Erreur::ObjetInconnu, u"La table %1 n'existe pas."_qs.arg(source));

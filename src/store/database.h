@@ -20,7 +20,7 @@ struct Moteur
 };
 
 /// Kinds of recordset that OpenRecordset gives.
-enum TypeRecordset { dbOpenTable = 1, dbOpenDynaset = 2, dbOpenSnapshot = 4 };
+enum TypeRecordset { dbOpenTable = 1, dbOpenSnapshot = 4 };
 
 /// The open database. Statements are in the program's dialect; every failure throws Erreur.
 class Database

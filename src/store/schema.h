@@ -54,7 +54,6 @@ struct Table
 class Schema
 {
 public:
-    Schema() = default;
     explicit Schema(BaseNative &base);
 
     /// Table of that name, null when there is none.

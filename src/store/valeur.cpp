@@ -72,13 +72,6 @@ qint64 Valeur::entier() const
     }
 }
 
-std::optional<int> Valeur::entierOptionnel() const
-{
-    if (estNull())
-        return std::nullopt;
-    return static_cast<int>(entier());
-}
-
 double Valeur::reel() const
 {
     if (estReel())

@@ -43,8 +43,6 @@ public:
     qint64 entier() const;
     /// Whole number, or \p defaut on Null.
     qint64 entierOu(qint64 defaut) const { return estNull() ? defaut : entier(); }
-    /// Whole number, or nothing on Null.
-    std::optional<int> entierOptionnel() const;
     /// Real number, converted like entier(). Throws on Null.
     double reel() const;
     /// Text as it is shown: numbers in decimal, dates as dd/MM/yyyy, yes/no as -1 or 0, Null as the empty text.

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <gtest/gtest.h>
+
 /// Pages of one printed document.
 using Pages = std::vector<PageDessinee>;
 
@@ -42,4 +44,20 @@ inline QString texteDe(const PageDessinee &page)
         textes += dessin.texte.trimmed();
     textes.removeAll(QString());
     return textes.join(u'|');
+}
+
+/// No text of a page runs into its neighbour in the line, over the edge \p droite or into the footer, the line that
+/// starts at \p pied; twips.
+inline void VerifiePlaces(const PageDessinee &page, int droite, int pied)
+{
+    const Dessin *precedent = nullptr;
+    for (const Dessin &dessin : page.dessins) {
+        if (dessin.genre != Dessin::Texte || dessin.texte.trimmed().isEmpty())
+            continue;
+        EXPECT_TRUE(dessin.x1 >= 0 && dessin.x2 <= droite) << dessin.texte.toStdString();
+        EXPECT_TRUE(dessin.y2 <= pied || dessin.y1 == pied) << dessin.texte.toStdString();
+        const bool memeLigne = precedent != nullptr && precedent->y1 == dessin.y1;
+        EXPECT_TRUE(!memeLigne || precedent->x2 <= dessin.x1) << dessin.texte.toStdString();
+        precedent = &dessin;
+    }
 }

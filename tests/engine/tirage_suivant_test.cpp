@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
+#include <string_view>
 
 using moteur::LigneClassement;
 using moteur::LigneTirage;
@@ -33,42 +35,72 @@ struct Champ
     }
 };
 
-using Paires = std::vector<std::pair<int, int>>;
-
-Paires paires(const moteur::TabTirage &table)
+std::string paires(const moteur::TabTirage &table)
 {
-    Paires resultat;
+    std::string resultat;
     for (const LigneTirage &ligne : table.lignes)
-        resultat.emplace_back(ligne.equipe1, ligne.equipe2);
+        resultat += (resultat.empty() ? "" : " ") + std::to_string(ligne.equipe1) + '-' + std::to_string(ligne.equipe2);
     return resultat;
 }
 
-/// \p nombre teams of one level that stand in the order of their numbers.
-Champ unNiveau(int nombre)
+/// Teams numbered in the order of draw, a digit for the level of each and a letter for its club; * is the mixed club as
+/// the program writes it, + the same in other letters.
+Champ champ(std::string_view niveaux, std::string_view clubs = {})
 {
     Champ champ;
-    for (int i = 1; i <= nombre; ++i)
-        champ.ajoute(1, 90000 - i);
+    for (std::size_t i = 0; i < niveaux.size(); ++i) {
+        const char lettre = clubs.empty() ? 'A' : clubs[i];
+        champ.ajoute(niveaux[i] - '0', 90000 - int(i),
+                     lettre == '*'       ? u"*Panachée"_qs
+                         : lettre == '+' ? u"*PANACHÉE"_qs
+                                         : QString(QLatin1Char(lettre)));
+    }
     return champ;
 }
 
-TEST(TirageSuivant, SansEquipe)
+TEST(TirageSuivant, ChampsEcritsALaMain)
 {
-    EXPECT_EQ(Champ{}.tire(), moteur::TabTirage{});
-    Champ premier;
-    premier.tourpri = 1;
-    EXPECT_EQ(premier.tire(), moteur::TabTirage{});
-}
-
-TEST(TirageSuivant, UnNiveauSuitLAlea)
-{
-    Champ champ = unNiveau(5);
-    champ.repeche = true;
-    const std::vector<LigneClassement> avant = champ.classement;
-    const moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 2}, {3, 4}, {5, 0}}));
-    EXPECT_EQ(table.lignes.back(), (LigneTirage{.pt1 = 1, .equipe1 = 5, .club1 = u"A"_qs}));
-    EXPECT_EQ(champ.classement, avant);
+    struct Cas
+    {
+        const char *quoi, *niveaux, *clubs;
+        int tourpri;
+        std::vector<PaireJouee> jouees;
+        const char *paires;
+        StatutTirage statut = StatutTirage::RienASignaler;
+    };
+    const Cas tous[] = {
+        {"nobody", "", "", 1, {}, ""},
+        {"one level, in the order of draw", "11111", "AAAAA", 2, {}, "1-2 3-4 5-0"},
+        {"clubs count before the second round, and the row behind an exchange is mended too", "111111", "AABBCD", 1, {},
+         "1-4 3-2 5-6"},
+        {"and not before the third", "111111", "AABBCD", 2, {}, "1-2 3-4 5-6"},
+        {"the row behind an exchange is passed over", "11111111", "DEAABBFG", 1, {}, "1-4 3-2 5-6 7-8"},
+        {"clubs of the lower level", "11000000", "ABAABBCD", 1, {}, "1-2 3-6 5-4 7-8"},
+        {"mixed teams may meet", "11", "**", 1, {}, "1-2"},
+        {"if they are written as the program does", "11", "++", 1, {}, "1-2", StatutTirage::MemeClub},
+        {"met: first exchange", "111111", "AAAAAA", 2, {{2, 1}}, "1-3 2-4 5-6"},
+        {"met: second exchange", "111111", "AAAAAA", 2, {{1, 2}, {3, 1}}, "1-4 2-3 5-6"},
+        {"the last row turns to the one before it", "111111", "AAAAAA", 2, {{5, 6}}, "1-2 6-4 5-3"},
+        {"past the end it goes on from row 1", "111111", "AAAAAA", 2, {{3, 4}, {3, 5}, {3, 6}}, "6-2 3-1 4-5"},
+        {"alone in its level, a repetition is not told", "2211", "AAAA", 2, {{1, 2}, {3, 4}}, "1-2 3-4"},
+        {"no second bye", "11111", "AAAAA", 2, {{5, 0}}, "1-2 4-0 5-3"},
+    };
+    for (const Cas &cas : tous) {
+        Champ essai = champ(cas.niveaux, cas.clubs);
+        essai.tourpri = cas.tourpri;
+        essai.jouees = cas.jouees;
+        const moteur::TabTirage table = essai.tire();
+        EXPECT_EQ(paires(table), cas.paires) << cas.quoi;
+        EXPECT_EQ(table.statut, cas.statut) << cas.quoi;
+    }
+    Champ sansIssue = champ("1111");
+    sansIssue.jouees = {{1, 2}, {1, 3}, {1, 4}};
+    EXPECT_EQ(sansIssue.tire().statut, StatutTirage::DejaRencontrees);
+    sansIssue = champ("11111111");
+    sansIssue.jouees = {{1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 6}, {1, 7}, {1, 8}};
+    EXPECT_EQ(sansIssue.tire().statut, StatutTirage::DejaRencontrees);
+    sansIssue.jouees.push_back({3, 4});
+    EXPECT_EQ(sansIssue.tire().statut, StatutTirage::RienASignaler) << "a later success has the last word";
 }
 
 TEST(TirageSuivant, RemonteLaMeilleureDuNiveauImpair)
@@ -82,7 +114,7 @@ TEST(TirageSuivant, RemonteLaMeilleureDuNiveauImpair)
         champ.ajoute(0, 60000, u"B"_qs, -2); // the best of its level
         champ.ajoute(0, 40000, u"A"_qs, std::nullopt);
         const moteur::TabTirage table = champ.tire();
-        EXPECT_EQ(paires(table), (Paires{{1, 4}, {3, 2}, {5, 0}}));
+        EXPECT_EQ(paires(table), "1-4 3-2 5-0");
         EXPECT_EQ(table.lignes[0].pt2, 1);
         EXPECT_EQ(table.lignes[0].club2, u"B"_qs);
         EXPECT_EQ(champ.classement[3].pt, 1);
@@ -99,68 +131,14 @@ TEST(TirageSuivant, RemonteDejaEnTeteEtAleasEgaux)
     champ.repeche = true;
     champ.ajoute(1, 50000);
     champ.ajoute(0, 60000, u"A"_qs, -1);
-    EXPECT_EQ(paires(champ.tire()), (Paires{{1, 2}}));
+    EXPECT_EQ(paires(champ.tire()), "1-2");
     EXPECT_EQ(champ.classement[1].repechage, 1); // it pulls itself up
 
     Champ egaux;
     egaux.ajoute(1, 50000);
     for (int i = 0; i < 6; ++i)
         egaux.ajoute(0, 60000, u"A"_qs, i == 4 ? 5 : -5);
-    EXPECT_EQ(paires(egaux.tire()), (Paires{{1, 6}, {2, 3}, {4, 5}, {7, 0}}));
-}
-
-TEST(TirageSuivant, ClubsSeparesAuDeuxiemeTourSeulement)
-{
-    Champ champ;
-    champ.tourpri = 1;
-    for (const char16_t *club : {u"A", u"A", u"B", u"B", u"C", u"D"})
-        champ.ajoute(1, 90000 - int(champ.clubs.size()), QString::fromUtf16(club));
-    moteur::TabTirage table = champ.tire();
-    // The exchange passes over the row after it, which it has mended too.
-    EXPECT_EQ(paires(table), (Paires{{1, 4}, {3, 2}, {5, 6}}));
-    EXPECT_EQ(table.statut, StatutTirage::RienASignaler);
-
-    champ.tourpri = 2;
-    table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 2}, {3, 4}, {5, 6}}));
-    EXPECT_EQ(table.statut, StatutTirage::RienASignaler);
-}
-
-TEST(TirageSuivant, RangeeApresUnEchangePasRegardee)
-{
-    Champ champ;
-    champ.tourpri = 1;
-    for (const char16_t *club : {u"D", u"E", u"A", u"A", u"B", u"B", u"F", u"G"})
-        champ.ajoute(1, 90000 - int(champ.clubs.size()), QString::fromUtf16(club));
-    const moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 4}, {3, 2}, {5, 6}, {7, 8}})); // 5 and 6 are both of club B
-    EXPECT_EQ(table.statut, StatutTirage::RienASignaler);
-}
-
-TEST(TirageSuivant, ClubsDuNiveauDuBas)
-{
-    Champ champ;
-    champ.tourpri = 1;
-    champ.ajoute(1, 90000, u"A"_qs);
-    champ.ajoute(1, 80000, u"B"_qs);
-    for (const char16_t *club : {u"A", u"A", u"B", u"B", u"C", u"D"})
-        champ.ajoute(0, 70000 - int(champ.clubs.size()), QString::fromUtf16(club));
-    EXPECT_EQ(paires(champ.tire()), (Paires{{1, 2}, {3, 6}, {5, 4}, {7, 8}}));
-
-    champ.clubs = {u"A"_qs, u"B"_qs, u"A"_qs, u"A"_qs, u"A"_qs, u"A"_qs, u"C"_qs, u"A"_qs};
-    EXPECT_EQ(champ.tire().statut, StatutTirage::MemeClub);
-}
-
-TEST(TirageSuivant, PanacheesSeCroisentSiElleSontBienEcrites)
-{
-    for (const QString &club : {u"*Panachée"_qs, u"*PANACHÉE"_qs}) {
-        Champ champ;
-        champ.tourpri = 1;
-        champ.ajoute(1, 90000, club);
-        champ.ajoute(1, 80000, club);
-        EXPECT_EQ(champ.tire().statut,
-                  club == u"*Panachée"_qs ? StatutTirage::RienASignaler : StatutTirage::MemeClub);
-    }
+    EXPECT_EQ(paires(egaux.tire()), "1-6 2-3 4-5 7-0");
 }
 
 /// The team pulled up meets its own club and nobody can change with it: the next of its new level takes its place.
@@ -175,78 +153,23 @@ TEST(TirageSuivant, RemonteRemplaceeParLaSuivanteDeSonNiveau)
     champ.ajoute(0, 60000, u"A"_qs, 2); // lost by no 13, and ahead of the winner 3
     champ.ajoute(0, 50000, u"C"_qs, -9);
     const moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 2}, {4, 3}, {5, 0}}));
+    EXPECT_EQ(paires(table), "1-2 4-3 5-0");
     EXPECT_EQ(table.statut, StatutTirage::MemeClub); // behind team 3 there is nobody left
     EXPECT_EQ(champ.classement[3].repechage, std::nullopt);
     EXPECT_EQ(champ.classement[2].repechage, 1);
 }
 
-TEST(TirageSuivant, RepetitionsEchangees)
-{
-    Champ champ = unNiveau(6);
-    champ.jouees = {{2, 1}};
-    moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 3}, {2, 4}, {5, 6}})); // first exchange
-    EXPECT_EQ(table.statut, StatutTirage::RienASignaler);
-
-    champ.jouees = {{1, 2}, {3, 1}};
-    EXPECT_EQ(paires(champ.tire()), (Paires{{1, 4}, {2, 3}, {5, 6}})); // second exchange
-
-    champ.jouees = {{5, 6}};
-    EXPECT_EQ(paires(champ.tire()), (Paires{{1, 2}, {6, 4}, {5, 3}})); // the last row turns to the one before it
-
-    champ.jouees = {{3, 4}, {3, 5}, {3, 6}};
-    EXPECT_EQ(paires(champ.tire()), (Paires{{6, 2}, {3, 1}, {4, 5}})); // past the end it goes on from row 1
-}
-
-TEST(TirageSuivant, RepetitionSansIssue)
-{
-    Champ champ = unNiveau(4);
-    champ.jouees = {{1, 2}, {1, 3}, {1, 4}};
-    EXPECT_EQ(champ.tire().statut, StatutTirage::DejaRencontrees);
-
-    // A later success has the last word, although team 1 still meets a team again.
-    champ = unNiveau(8);
-    champ.jouees = {{1, 2}, {1, 3}, {1, 4}, {1, 5}, {1, 6}, {1, 7}, {1, 8}};
-    EXPECT_EQ(champ.tire().statut, StatutTirage::DejaRencontrees);
-    champ.jouees.push_back({3, 4});
-    EXPECT_EQ(champ.tire().statut, StatutTirage::RienASignaler);
-}
-
-TEST(TirageSuivant, RepetitionSeuleDansSonNiveauResteMuette)
-{
-    Champ champ;
-    champ.ajoute(2, 90000);
-    champ.ajoute(2, 80000);
-    champ.ajoute(1, 70000);
-    champ.ajoute(1, 60000);
-    champ.jouees = {{1, 2}, {3, 4}};
-    const moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 2}, {3, 4}}));
-    EXPECT_EQ(table.statut, StatutTirage::RienASignaler);
-}
-
-TEST(TirageSuivant, SecondExemptEvite)
-{
-    Champ champ = unNiveau(5);
-    champ.jouees = {{5, 0}};
-    const moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), (Paires{{1, 2}, {4, 0}, {5, 3}}));
-    EXPECT_EQ(table.lignes[1], (LigneTirage{.pt1 = 1, .equipe1 = 4, .club1 = u"A"_qs}));
-}
-
 TEST(TirageSuivant, UnSigneParRencontreLue)
 {
-    Champ champ = unNiveau(4);
-    champ.jouees = {{1, 2}, {3, 4}, {77, 78}};
+    Champ quatre = champ("1111", "ABCD");
+    quatre.jouees = {{1, 2}, {3, 4}, {77, 78}};
     QString signes;
-    champ.tire([&](QStringView signe) { signes += signe; });
+    quatre.tire([&](QStringView signe) { signes += signe; });
     EXPECT_EQ(signes, u"..."_qs);
-    champ.tourpri = 1;
-    champ.jouees = {{77, 78}, {1, 77}};
-    champ.clubs = {u"A"_qs, u"B"_qs, u"C"_qs, u"D"_qs};
+    quatre.tourpri = 1;
+    quatre.jouees = {{77, 78}, {1, 77}};
     signes.clear();
-    champ.tire([&](QStringView signe) { signes += signe; });
+    quatre.tire([&](QStringView signe) { signes += signe; });
     EXPECT_TRUE(signes.startsWith(u" . ."_qs));
     EXPECT_TRUE(signes.endsWith(u".."_qs));
 }

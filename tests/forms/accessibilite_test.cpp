@@ -1,13 +1,6 @@
 // What a screen reader finds on each form: every control named, once, with its role and its state, in reading order.
-#include "app/langue.h"
-#include "commun/affiche.h"
-#include "commun/concours_en_base.h"
-#include "commun/programme_pilote.h"
+#include "formes_ouvertes.h"
 #include "platform/touches_alt.h"
-#include "printing/resusoc.h"
-#include "results/detail_resultats.h"
-
-#include <gtest/gtest.h>
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -73,53 +66,10 @@ std::vector<QAccessibleInterface *> controles(QWidget &fenetre)
     return trouves;
 }
 
-class Lecture : public testing::Test
+class Lecture : public FormesOuvertes
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(prog.demarre());
-        const qint32 concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs},
-                                                                       {4, u"D"_qs}}});
-        poseRencontres(prog.base(), concours,
-                       {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 7},
-                        {.tour = 1, .equipe1 = 3, .equipe2 = 4}});
-        prog.partage().ConcoursCourant = concours;
-    }
-
-    void langue(int numero)
-    {
-        prog.base().Execute(u"update traduc set actif = false");
-        prog.base().Execute(u"update traduc set actif = true where numero = %1"_qs.arg(numero));
-        ChargeLangue(prog.partage());
-    }
-
-    /// The form, open as its users open it.
-    QWidget *ouvre(const QString &nom)
-    {
-        if (nom == u"Torvik")
-            return prog.torvik();
-        prog.formulaires().DechargeTout();
-        if (QStringList{u"manqres"_qs, u"valresu"_qs, u"Groupes"_qs, u"I_tirage"_qs, u"Détail_résultats"_qs}.contains(nom))
-            prog.formulaires().Montre(u"EResultats"_qs);
-        prog.partage().AttendusAJour = false;
-        if (nom == u"Groupes")
-            prog.formulaires().Montre(u"manqres"_qs);
-        Formulaire *forme = prog.formulaires().Charge(nom);
-        if (auto *feuilles = qobject_cast<Resusoc *>(forme))
-            feuilles->propose(1, u"1 (Aix)"_qs, u"2 (Aix)"_qs);
-        if (auto *detail = qobject_cast<DetailResultats *>(forme))
-            detail->affiche(1);
-        prog.formulaires().Montre(nom);
-        QApplication::processEvents();
-        return prog.formulaires().forme(nom);
-    }
-
-    ProgrammePilote prog;
-    const QStringList formes{u"Torvik"_qs,     u"Accueil"_qs,  u"Alerte"_qs,   u"Econcours"_qs,  u"Eequipes"_qs,
-                             u"Ejoueurs"_qs,   u"Listesoc"_qs, u"listeq"_qs,   u"listjo"_qs,     u"Listco"_qs,
-                             u"EResultats"_qs, u"manqres"_qs,  u"valresu"_qs,  u"Groupes"_qs,    u"Détail_résultats"_qs,
-                             u"I_tirage"_qs,   u"palmares"_qs, u"Resusoc"_qs,  u"FrmHorloge"_qs, u"langues"_qs};
+    QStringList fenetres() { return noms() + QStringList{u"Torvik"_qs}; }
 };
 
 /// Place of a control on its window, for whoever reads it line by line: a control stands before another when it is
@@ -132,7 +82,7 @@ bool seLitAvant(const QRect &a, const QRect &b)
 
 TEST_F(Lecture, ChaqueControleAUnNomUnRoleEtUnEtat)
 {
-    for (const QString &nom : formes) {
+    for (const QString &nom : fenetres()) {
         QWidget *forme = ouvre(nom);
         ASSERT_NE(forme, nullptr) << nom.toStdString();
         QStringList noms;
@@ -167,7 +117,7 @@ TEST_F(Lecture, OrdreDeLectureEtDesTabulations)
         {u"Econcours"_qs, u"référence Text2 Text3 Text4 Combo1 ok Supprimer Command1 text1 Check1 Dupliquer Check4"_qs},
         {u"Eequipes"_qs, u"Société référence Equipe LicenceJ_0 NomJ_0 PrénomJ_0 LicenceJ_1 NomJ_1 PrénomJ_1 LicenceJ_2 "
                          "NomJ_2 PrénomJ_2 NomJ_3 PrénomJ_3 LicenceJ_3 Okc SupprimerC cImport Command1 Command2"_qs}};
-    for (const QString &nom : formes) {
+    for (const QString &nom : fenetres()) {
         QWidget *forme = ouvre(nom);
         const std::vector<QAccessibleInterface *> lus = controles(*forme);
         const std::vector<QWidget *> tabulations = OrdreDesTabulations(*forme);
@@ -218,7 +168,7 @@ TEST_F(Lecture, LesNomsEtLesTouchesSuiventLaLangue)
     const auto dit = [this](const QString &forme, const QString &nom) {
         return NomDuControle(*ouvre(forme)->findChild<QWidget *>(nom));
     };
-    for (int numero = 1; numero <= 6; ++numero) {
+    for (int numero = 1; numero <= langues; ++numero) {
         langue(numero);
         const auto mes = [this](int i) { return prog.partage().mes(i); };
         EXPECT_EQ(dit(u"Econcours"_qs, u"ok"_qs), mes(13));
@@ -227,7 +177,7 @@ TEST_F(Lecture, LesNomsEtLesTouchesSuiventLaLangue)
         EXPECT_EQ(dit(u"EResultats"_qs, u"Score2"_qs), mes(25) + u',' + mes(108));
         EXPECT_EQ(dit(u"EResultats"_qs, u"hit"_qs), mes(33));
         EXPECT_EQ(dit(u"Listesoc"_qs, u"Liste_soc"_qs), mes(31));
-        for (const QString &nom : formes) {
+        for (const QString &nom : fenetres()) {
             QString pris;
             for (const ToucheAlt &touche : TouchesAlt(*ouvre(nom))) {
                 EXPECT_FALSE(pris.contains(touche.signe)) << nom.toStdString() << ' ' << numero;

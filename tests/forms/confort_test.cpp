@@ -1,10 +1,4 @@
-#include "app/langue.h"
-#include "commun/affiche.h"
-#include "commun/concours_en_base.h"
-#include "commun/programme_pilote.h"
-#include "ui/apparence.h"
-
-#include <gtest/gtest.h>
+#include "formes_ouvertes.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -20,10 +14,6 @@
 
 namespace {
 
-const QString formes[] = {u"Accueil"_qs, u"Alerte"_qs,   u"Econcours"_qs,  u"Eequipes"_qs, u"Ejoueurs"_qs,
-                          u"EResultats"_qs, u"FrmHorloge"_qs, u"Groupes"_qs, u"I_tirage"_qs, u"Listco"_qs,
-                          u"Listesoc"_qs, u"Resusoc"_qs, u"langues"_qs,    u"listeq"_qs,   u"listjo"_qs,
-                          u"manqres"_qs, u"palmares"_qs, u"valresu"_qs,    u"Détail_résultats"_qs};
 constexpr int hauteurCible = 32; // pixels
 constexpr double policeMinimale = 11; // points
 
@@ -46,64 +36,98 @@ double taillePolice(const QWidget &widget)
     return police.pixelSize() > 0 ? police.pixelSize() * 0.75 : police.pointSizeF();
 }
 
-class Confort : public testing::Test
+/// What of \p controle would not be seen whole; empty when all is.
+QString coupe(const QWidget &controle)
+{
+    const auto *etiquette = qobject_cast<const QLabel *>(&controle);
+    const auto *bouton = qobject_cast<const QAbstractButton *>(&controle);
+    const QString texte = etiquette != nullptr ? etiquette->text() : bouton != nullptr ? bouton->text() : QString();
+    if (texte.trimmed().isEmpty() || (etiquette != nullptr && etiquette->wordWrap()))
+        return {};
+    // A button may do with less room around its text than it would like.
+    const int bords = bouton == nullptr || bouton->isCheckable() ? 0 : 16;
+    const int manque = controle.sizeHint().width() - bords - controle.width();
+    return manque <= 0 ? QString() : u"%1 « %2 » : %3 px"_qs.arg(controle.objectName(), texte).arg(manque);
+}
+
+class Confort : public FormesOuvertes
 {
 protected:
-    void SetUp() override
-    {
-        appliqueApparence(*qApp);
-        ASSERT_TRUE(prog.demarre());
-        poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
-    }
-
-    /// The form \p nom, freshly loaded and shown, and the commands in it.
-    QList<QWidget *> commandes(const QString &nom)
-    {
-        prog.formulaires().DechargeTout();
-        prog.formulaires().Montre(nom);
-        QCoreApplication::processEvents();
-        forme = prog.formulaires().forme(nom);
-        QList<QWidget *> trouvees;
-        if (forme == nullptr)
-            return trouvees;
-        for (QWidget *widget : forme->findChildren<QWidget *>()) {
-            if (estCommande(*widget))
-                trouvees += widget;
-        }
-        return trouvees;
-    }
-
-    ProgrammePilote prog;
-    Formulaire *forme = nullptr;
+    static void verifieCibles(const QWidget &forme, const QList<QWidget *> &commandes);
+    static void verifieTextes(const QWidget &forme);
 };
 
-TEST_F(Confort, ChaqueCommandeEstUneCibleAisee)
+/// Each command is large enough for a finger, inside the form, and off the others.
+void Confort::verifieCibles(const QWidget &forme, const QList<QWidget *> &commandes)
 {
-    for (const QString &nom : formes) {
-        const QList<QWidget *> toutes = commandes(nom);
-        ASSERT_NE(forme, nullptr) << nom.toStdString();
-        for (const QWidget *commande : toutes) {
-            const bool serree = nom == u"palmares" && commande->height() < hauteurCible; // see the next test
-            EXPECT_TRUE(serree || commande->height() >= hauteurCible)
-                << nom.toStdString() << '.' << commande->objectName().toStdString() << ' ' << commande->height();
-            const bool dedans = commande->parent() != forme || forme->rect().contains(commande->geometry());
-            EXPECT_TRUE(commande->isHidden() || dedans)
-                << nom.toStdString() << '.' << commande->objectName().toStdString();
-            for (const QWidget *autre : toutes) {
-                const bool ensemble = commande < autre && commande->isVisible() && autre->isVisible();
-                EXPECT_FALSE(ensemble && commande->geometry().intersects(autre->geometry()))
-                    << nom.toStdString() << '.' << commande->objectName().toStdString() << " and "
-                    << autre->objectName().toStdString();
+    for (const QWidget *commande : commandes) {
+        SCOPED_TRACE(commande->objectName().toStdString());
+        const bool serree = forme.objectName() == u"palmares"; // see LesChoixSerresDuPalmares
+        EXPECT_TRUE(serree || commande->height() >= hauteurCible) << commande->height();
+        const bool dedans = commande->parent() != &forme || forme.rect().contains(commande->geometry());
+        EXPECT_TRUE(commande->isHidden() || dedans);
+        for (const QWidget *autre : commandes) {
+            const bool ensemble = commande < autre && commande->isVisible() && autre->isVisible();
+            EXPECT_FALSE(ensemble && commande->geometry().intersects(autre->geometry()))
+                << "and " << autre->objectName().toStdString();
+        }
+    }
+    for (const QTableView *grille : forme.findChildren<QTableView *>())
+        EXPECT_GE(grille->verticalHeader()->defaultSectionSize(), hauteurCible);
+}
+
+/// No text is small, none is cut.
+void Confort::verifieTextes(const QWidget &forme)
+{
+    for (const QWidget *widget : forme.findChildren<QWidget *>()) {
+        EXPECT_GE(taillePolice(*widget), policeMinimale) << widget->objectName().toStdString();
+        EXPECT_FALSE(widget->styleSheet().contains(u"font-size"_qs)) << widget->objectName().toStdString();
+        if (widget->isVisible())
+            EXPECT_EQ(coupe(*widget), QString());
+    }
+}
+
+TEST_F(Confort, ChaqueFormeDansChaqueLangue)
+{
+    QStringList dits[langues + 1];
+    for (int numero = 1; numero <= langues; ++numero) {
+        langue(numero);
+        for (const QString &nom : noms()) {
+            SCOPED_TRACE(nom.toStdString() + " in language " + std::to_string(numero));
+            const QWidget *forme = ouvre(nom);
+            ASSERT_TRUE(forme != nullptr && forme->isVisible());
+            QList<QWidget *> commandes = forme->findChildren<QWidget *>();
+            commandes.removeIf([](const QWidget *widget) { return !estCommande(*widget); });
+            verifieCibles(*forme, commandes);
+            verifieTextes(*forme);
+            for (const QWidget *commande : commandes) {
+                const auto *bouton = qobject_cast<const QAbstractButton *>(commande);
+                const QString infobulle = commande->toolTip();
+                EXPECT_FALSE(bouton != nullptr && bouton->text().isEmpty() && !bouton->isCheckable()
+                             && infobulle.isEmpty())
+                    << commande->objectName().toStdString();
+                EXPECT_FALSE(infobulle.contains(u". "_qs)) << infobulle.toStdString();
+                dits[numero] += infobulle;
             }
         }
-        for (const QTableView *grille : forme->findChildren<QTableView *>())
-            EXPECT_GE(grille->verticalHeader()->defaultSectionSize(), hauteurCible) << nom.toStdString();
+    }
+    for (const char *classe : {"QMenu", "QMenuBar", "QTipLabel", "QMessageBox", "QHeaderView"})
+        EXPECT_GE(QApplication::font(classe).pointSizeF(), policeMinimale) << classe;
+    EXPECT_GT(dits[1].size() - dits[1].count(QString()), 45);
+    for (int numero = 2; numero <= langues; ++numero) {
+        ASSERT_EQ(dits[numero].size(), dits[1].size());
+        int memes = 0;
+        for (qsizetype i = 0; i < dits[1].size(); ++i) {
+            EXPECT_EQ(dits[numero][i].isEmpty(), dits[1][i].isEmpty()) << dits[1][i].toStdString();
+            memes += !dits[1][i].isEmpty() && dits[numero][i] == dits[1][i];
+        }
+        EXPECT_LE(memes, 4) << numero; // "Liste" is German too
     }
 }
 
 TEST_F(Confort, LesChoixSerresDuPalmaresSePrennentDeHaut)
 {
-    commandes(u"palmares"_qs);
+    QWidget *forme = ouvre(u"palmares"_qs);
     auto *haut = prog.controle<QAbstractButton>(u"palmares"_qs, u"Option1"_qs);
     auto *bas = prog.controle<QAbstractButton>(u"palmares"_qs, u"detail"_qs);
     auto *paysage = prog.controle<QAbstractButton>(u"palmares"_qs, u"typedit"_qs);
@@ -123,51 +147,6 @@ TEST_F(Confort, LesChoixSerresDuPalmaresSePrennentDeHaut)
     EXPECT_NE(paysage->isChecked(), avant);
     QTest::mouseClick(forme, Qt::LeftButton, {}, paysage->pos() - QPoint(-5, 9));
     EXPECT_NE(paysage->isChecked(), avant);
-}
-
-TEST_F(Confort, AucunTexteNEstPetit)
-{
-    for (const QString &nom : formes) {
-        commandes(nom);
-        for (const QWidget *widget : forme->findChildren<QWidget *>()) {
-            EXPECT_GE(taillePolice(*widget), policeMinimale)
-                << nom.toStdString() << '.' << widget->objectName().toStdString();
-            EXPECT_FALSE(widget->styleSheet().contains(u"font-size"_qs)) << widget->objectName().toStdString();
-        }
-    }
-    for (const char *classe : {"QMenu", "QMenuBar", "QTipLabel", "QMessageBox", "QHeaderView"})
-        EXPECT_GE(QApplication::font(classe).pointSizeF(), policeMinimale) << classe;
-}
-
-TEST_F(Confort, ChaqueImageDitCeQuElleFaitDansChaqueLangue)
-{
-    QStringList dits[7];
-    for (int langue = 1; langue <= 6; ++langue) {
-        prog.base().Execute(u"update traduc set actif = false"_qs);
-        prog.base().Execute(u"update traduc set actif = true where numero = %1"_qs.arg(langue));
-        ChargeLangue(prog.partage());
-        for (const QString &nom : formes) {
-            for (const QWidget *commande : commandes(nom)) {
-                const auto *bouton = qobject_cast<const QAbstractButton *>(commande);
-                const QString infobulle = commande->toolTip();
-                EXPECT_FALSE(bouton != nullptr && bouton->text().isEmpty() && !bouton->isCheckable()
-                             && infobulle.isEmpty())
-                    << nom.toStdString() << '.' << commande->objectName().toStdString();
-                EXPECT_FALSE(infobulle.contains(u". "_qs)) << infobulle.toStdString();
-                dits[langue] += infobulle;
-            }
-        }
-    }
-    EXPECT_GT(dits[1].size() - dits[1].count(QString()), 45);
-    for (int langue = 2; langue <= 6; ++langue) {
-        ASSERT_EQ(dits[langue].size(), dits[1].size());
-        int memes = 0;
-        for (qsizetype i = 0; i < dits[1].size(); ++i) {
-            EXPECT_EQ(dits[langue][i].isEmpty(), dits[1][i].isEmpty()) << dits[1][i].toStdString();
-            memes += !dits[1][i].isEmpty() && dits[langue][i] == dits[1][i];
-        }
-        EXPECT_LE(memes, 4) << langue; // "Liste" is German too
-    }
 }
 
 } // namespace

@@ -182,16 +182,4 @@ TEST_F(ChoixConcours, TheWindowsCloseWithoutTouchingTheClosedBase)
     EXPECT_EQ(boites.textes(), QStringList());
 }
 
-TEST_F(ChoixConcours, ButtonsOfFormsThatAreNotThereDoNothing)
-{
-    ouvre();
-    partage().ModeListeEquipes = 1;
-    partage().ClubFiltre = u"DUP"_qs;
-    clic(E, u"Command1"_qs);
-    clic(E, u"Command2"_qs);
-    EXPECT_EQ(partage().ModeListeEquipes, 0);
-    EXPECT_EQ(partage().ClubFiltre, QString());
-    EXPECT_EQ(partage().FormeAppelante, E);
-}
-
 } // namespace

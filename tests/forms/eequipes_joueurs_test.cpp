@@ -22,20 +22,13 @@ protected:
     }
 };
 
-TEST_F(Joueurs, TwoOfOneClubAreNoMixedTeamWhateverTheCase)
-{
-    ouvre();
-    licence(0, u"0831"_qs);
-    licence(1, u" 0832 "_qs);
-    EXPECT_EQ(texte(E, u"Société"_qs), u"DUP"_qs);
-    EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"ROUX"_qs);
-    EXPECT_EQ(boites.textes(), QStringList());
-}
-
 TEST_F(Joueurs, MixedTeamsAreAskedForOnceACompetition)
 {
     ouvre();
     licence(0, u"0831"_qs);
+    licence(1, u" 0832 "_qs); // of the same club, in other letters
+    EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"ROUX"_qs);
+    EXPECT_EQ(texte(E, u"Société"_qs), u"DUP"_qs);
     boites.attend(questionPanachees, ReponseBoite::Non);
     licence(1, u"0840"_qs);
     EXPECT_EQ(boites.titre(), u"Enregistrement des équipes"_qs);
@@ -57,17 +50,6 @@ TEST_F(Joueurs, MixedTeamsAreAskedForOnceACompetition)
     boites.attend(questionPanachees, ReponseBoite::Oui);
     licence(0, u"9999"_qs);
     EXPECT_TRUE(partage().PanacheeAutorisee);
-}
-
-TEST_F(Joueurs, APlayerPlaysOnceInATeam)
-{
-    ouvre();
-    licence(0, u"0831"_qs);
-    boites.attend(u"Un même joueur ne peut pas être\r\nengagé deux fois dans la même équipe"_qs);
-    licence(1, u"0831"_qs);
-    EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
-    EXPECT_EQ(focus(), u"LicenceJ_1"_qs);
-    EXPECT_EQ(texte(E, u"LicenceJ_0"_qs), u"0831"_qs);
 }
 
 TEST_F(Joueurs, ALicenceOfAnotherTeamIsShownAndCleared)
@@ -125,8 +107,9 @@ TEST_F(Joueurs, TheLookUpRunsOnAnyWayOutAndOnlyOnce)
     EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"ROUX"_qs);
 
     // Each box comes once, whether the key or the loss of the focus has begun the look-up.
-    boites.attend(u"Un même joueur"_qs);
+    boites.attend(u"Un même joueur ne peut pas être\r\nengagé deux fois dans la même équipe"_qs);
     licence(1, u"0831"_qs);
+    EXPECT_EQ(texte(E, u"LicenceJ_0"_qs) + texte(E, u"LicenceJ_1"_qs), u"0831"_qs);
     boites.attend(u"Un même joueur"_qs);
     remplit(E, u"LicenceJ_1"_qs, u"0831"_qs);
     clic(E, u"PrénomJ_0"_qs);

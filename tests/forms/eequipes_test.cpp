@@ -234,17 +234,4 @@ TEST_F(Enregistrement, AFailedCorrectionIsToldAndTheOtherWritesStay)
     EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"X"_qs);
 }
 
-TEST_F(Enregistrement, WithoutTheTableOfMatchesNothingIsStoredAndTheProgramGoesOn)
-{
-    club(u"DUP"_qs);
-    const qint32 concours = ouvre();
-    abime(u"alter table scores rename to perdue"_qs);
-    boites.attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
-    inscrit(u"A"_qs, u"DUP"_qs);
-    EXPECT_EQ(numeros(concours), QStringList());
-    abime(u"alter table perdue rename to scores"_qs);
-    clic(E, u"Okc"_qs);
-    EXPECT_EQ(numeros(concours), QStringList({u"1"_qs}));
-}
-
 } // namespace

@@ -144,20 +144,6 @@ TEST_F(SaisieResultats, DoubleClicGagneTreizeASept)
     attendEnregistre(2, 13, 5, true);
 }
 
-TEST_F(SaisieResultats, CorrectionDUnResultat)
-{
-    appelle(0);
-    prog.tape(u"7\n"_qs);
-    appelle(0);
-    EXPECT_EQ(champs(), u"%1 %2 7 13"_qs.arg(matchs()[0].equipe1).arg(matchs()[0].equipe2));
-    prog.tape(u"9\n"_qs); // typed over what is there
-    attendEnregistre(0, 9, 13);
-    appelle(0);
-    prog.tape(u"13\n11\n"_qs);
-    attendEnregistre(0, 13, 11);
-    EXPECT_EQ(texte(u"tour_P1"_qs), u" manque 3 Résultats "_qs);
-}
-
 TEST_F(SaisieResultats, UnTourPasseNeSEnregistrePlus)
 {
     joueEtTire();
@@ -247,18 +233,6 @@ TEST_F(SaisieResultats, EchecDeLaBaseDitUneFois)
     appelle(0);
     prog.tape(u"8\n"_qs);
     attendEnregistre(0, 8, 13);
-}
-
-TEST_F(SaisieResultats, CeQuiEstEnregistreEstDansLeFichier)
-{
-    joueTour();
-    const std::vector<MatchEssai> joues = matchs();
-    const qint32 concours = prog.partage().ConcoursCourant;
-    prog.partage().BaseDonnees.Close();
-    prog.partage().BaseDonnees =
-        store::DBEngine().Workspaces(0).OpenDatabase(prog.fichier(), false, false, u";PWD=qz7tkn42"_qs);
-    prog.partage().ConcoursCourant = concours;
-    EXPECT_EQ(matchs(), joues);
 }
 
 } // namespace

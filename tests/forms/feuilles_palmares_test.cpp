@@ -116,8 +116,7 @@ void FeuillesPalmares::verifie(const Mise &mise)
         ASSERT_NE(pied, nullptr);
         EXPECT_TRUE(pied->y1 == mise.hauteurUtile() - 1500 && pied->x1 == mise.largeur() - 480 - 2200);
         EXPECT_TRUE(pied->taille == 10 && !pied->gras);
-        for (const Dessin &dessin : pages[i].dessins)
-            EXPECT_LE(dessin.x2, mise.largeur() - 240) << dessin.texte.toStdString();
+        VerifiePlaces(pages[i], mise.largeur() - 240, mise.hauteurUtile() - 1500);
     }
     EXPECT_EQ(m_ligne, lignes);
 }

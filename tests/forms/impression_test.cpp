@@ -1,9 +1,6 @@
 #include "commun/papier_garde.h"
 #include "commun/programme_essai.h"
 
-#include "platform/destinations.h"
-
-#include <QFile>
 #include <QLineEdit>
 
 namespace {
@@ -95,12 +92,7 @@ TEST_F(Impression, ADrawSheetHoldsEveryMatchAboveItsFooter)
         const Dessin *pied = trouve(pages[page], u"Page %1"_qs.arg(page + 1));
         ASSERT_NE(pied, nullptr);
         EXPECT_EQ(pied->y1, 16838 - 480 - 800);
-        for (const Dessin &dessin : pages[page].dessins) {
-            if (dessin.genre != Dessin::Texte)
-                continue;
-            EXPECT_LE(dessin.y2, pied->y2) << dessin.texte.toStdString();
-            EXPECT_TRUE(dessin.x1 >= 0 && dessin.x2 <= 11906 - 240) << dessin.texte.toStdString();
-        }
+        VerifiePlaces(pages[page], 11906 - 240, pied->y1);
     }
     const Dessin *numero = trouve(pages[0], u"1"_qs);
     EXPECT_TRUE(numero->gras && numero->taille == 33 && numero->x1 == 100);
@@ -143,33 +135,6 @@ TEST_F(Impression, MembersLookTheSameBehindAPageBreak)
         }
     }
     EXPECT_EQ(membres, 240 - 24 + 40);
-}
-
-TEST_F(Impression, CancellingIsToldAndPrintsNothing)
-{
-    prepare(4, 2);
-    boites.imprimante = nullptr;
-    clic(D, u"Option1"_qs);
-    champ(D, u"Tour"_qs)->setText(u"*"_qs);
-    boites.attend(u"Impression annulée"_qs);
-    boites.attend(u"Impression annulée"_qs);
-    clic(D, u"Imprime"_qs);
-    EXPECT_TRUE(documents.empty());
-}
-
-TEST_F(Impression, APdfHoldsThePagesWithTheirFonts)
-{
-    prepare(37, 1);
-    const QString fichier = dossier() + u"/tirage.pdf"_qs;
-    boites.imprimante = [&] { return std::make_unique<DestinationPdf>(fichier); };
-    clic(D, u"Option1"_qs);
-    clic(D, u"Imprime"_qs);
-    QFile pdf(fichier);
-    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
-    const QByteArray octets = pdf.readAll();
-    EXPECT_TRUE(octets.startsWith("%PDF-"));
-    EXPECT_EQ(octets.count("/Type /Page\n"), 2);
-    EXPECT_TRUE(octets.contains("/FontFile2"));
 }
 
 } // namespace

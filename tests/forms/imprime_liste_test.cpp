@@ -22,23 +22,6 @@ protected:
         active(nom);
         return static_cast<FlexGrid *>(controle(nom, u"Les_équipes"_qs));
     }
-    /// No text runs into its neighbour, over the edge or into the footer.
-    static void verifiePlaces(const Pages &pages)
-    {
-        for (const PageDessinee &page : pages) {
-            const Dessin *precedent = nullptr;
-            for (const Dessin &dessin : page.dessins) {
-                if (dessin.genre != Dessin::Texte || dessin.texte.trimmed().isEmpty())
-                    continue;
-                EXPECT_LE(dessin.x2, 11906 - 480) << dessin.texte.toStdString();
-                EXPECT_TRUE(dessin.y2 <= pied || dessin.y1 == pied) << dessin.texte.toStdString();
-                const bool memeLigne = precedent != nullptr && precedent->y1 == dessin.y1;
-                EXPECT_TRUE(!memeLigne || precedent->x2 <= dessin.x1) << dessin.texte.toStdString();
-                precedent = &dessin;
-            }
-        }
-    }
-
     std::vector<Pages> documents;
 };
 
@@ -69,7 +52,8 @@ TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
         EXPECT_EQ(cellule->x1, places[colonne]);
         EXPECT_TRUE(cellule->taille == 10 && !cellule->gras);
     }
-    verifiePlaces(pages);
+    for (const PageDessinee &page : pages)
+        VerifiePlaces(page, 11906 - 480, pied);
 
     grille->setRow(4);
     grille->setRowSel(2);
@@ -103,7 +87,8 @@ TEST_F(FeuillesDeListe, TheRegistrationsUnderTheHeadOfTheirCompetition)
     EXPECT_EQ(trouve(pages[0], u"NOM1 P0"_qs)->x1, 1500);
     EXPECT_EQ(trouve(pages[0], u"L1-0"_qs)->x1, 4500);
     EXPECT_EQ(trouve(pages[0], u"DUP"_qs)->x1, 6000);
-    verifiePlaces(pages);
+    for (const PageDessinee &page : pages)
+        VerifiePlaces(page, 11906 - 480, pied);
 }
 
 } // namespace

@@ -1,8 +1,5 @@
-#include "app/langue.h"
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
-#include "ui/apparence.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +7,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QLabel>
 #include <QPushButton>
 
 namespace {
@@ -112,45 +108,6 @@ TEST_F(ChoixLangue, UneLangueRetireeEntreTempsNeChangeRien)
     EXPECT_EQ(actives(), u"1"_qs);
     EXPECT_EQ(prog.partage().LangueCourante, 1);
     EXPECT_EQ(menuResultats(), u"Résultats"_qs);
-}
-
-/// What of \p controle would not be seen whole; empty when all is.
-QString coupe(const QWidget &controle)
-{
-    const auto *etiquette = qobject_cast<const QLabel *>(&controle);
-    const auto *bouton = qobject_cast<const QAbstractButton *>(&controle);
-    const QString texte = etiquette != nullptr ? etiquette->text() : bouton != nullptr ? bouton->text() : QString();
-    if (texte.trimmed().isEmpty() || (etiquette != nullptr && etiquette->wordWrap()))
-        return {};
-    // A button may do with less room around its text than it would like.
-    const int bords = bouton == nullptr || bouton->isCheckable() ? 0 : 16;
-    const int manque = controle.sizeHint().width() - bords - controle.width();
-    return manque <= 0 ? QString() : u"%1 « %2 » : %3 px"_qs.arg(controle.objectName(), texte).arg(manque);
-}
-
-TEST_F(ChoixLangue, AucunTexteNEstCoupe)
-{
-    appliqueApparence(*qApp);
-    poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
-    const QString formes[] = {u"Econcours"_qs, u"Eequipes"_qs, u"Ejoueurs"_qs,   u"Listesoc"_qs,
-                              u"EResultats"_qs, u"manqres"_qs,  u"I_tirage"_qs,   u"palmares"_qs,
-                              u"Resusoc"_qs,    u"langues"_qs,  u"FrmHorloge"_qs, u"listeq"_qs};
-    for (int langue = 1; langue <= 6; ++langue) {
-        prog.base().Execute(u"update traduc set actif = false");
-        prog.base().Execute(u"update traduc set actif = true where numero = %1"_qs.arg(langue));
-        ChargeLangue(prog.partage());
-        for (const QString &forme : formes) {
-            prog.formulaires().DechargeTout();
-            prog.formulaires().Montre(forme);
-            QCoreApplication::processEvents();
-            ASSERT_TRUE(prog.formulaires().estVisible(forme)) << forme.toStdString();
-            for (const QWidget *controle : prog.formulaires().forme(forme)->findChildren<QWidget *>()) {
-                if (!controle->isVisible())
-                    continue;
-                EXPECT_EQ(coupe(*controle), QString()) << langue << ' ' << forme.toStdString();
-            }
-        }
-    }
 }
 
 } // namespace

@@ -233,34 +233,11 @@ protected:
     }
 };
 
-TEST_F(ChoixFeuille, TheCaptionsComeFromTheMessagesAndTheMatch)
+TEST_F(ChoixFeuille, EachOptionHasItsSheetAndAMixedClubHasNone)
 {
     EXPECT_EQ(forme(R)->windowTitle(), u"Imprimer Equipe/Club"_qs);
     EXPECT_EQ(texte(R, u"Label1"_qs) + u'|' + texte(R, u"Label2"_qs), u"Equipe|Société"_qs);
-    EXPECT_EQ(controle(R, u"imprimer"_qs)->toolTip(), u"Imprimer la feuille"_qs);
-    EXPECT_EQ(option(1).text() + u'|' + option(2).text() + u'|' + option(3).text() + u'|' + option(4).text(),
-              u"3 NOM P |4 AUTRE J |Aix|*Panachée"_qs);
-    EXPECT_TRUE(option(3).isEnabled() && !option(4).isEnabled());
-    propose(u"3 NOM P (*Panachée)"_qs, u"4 AUTRE J (Aix)"_qs);
-    EXPECT_TRUE(!option(3).isEnabled() && option(4).isEnabled());
-}
-
-TEST_F(ChoixFeuille, TheKeyboardChoosesAndPrints)
-{
     EXPECT_EQ(focus(), u"Option1"_qs);
-    touche(Qt::Key_Down);
-    EXPECT_TRUE(option(2).isChecked());
-    touche(Qt::Key_Down);
-    EXPECT_TRUE(option(3).isChecked());
-    touche(Qt::Key_Tab);
-    EXPECT_EQ(focus(), u"imprimer"_qs);
-    entre();
-    EXPECT_EQ(titres(), u"Equipes de Aix"_qs);
-    EXPECT_TRUE(visible(R, u"imprimer"_qs));
-}
-
-TEST_F(ChoixFeuille, EachOptionHasItsSheetAndAMixedClubHasNone)
-{
     const QString attendus[] = {u"Equipe 3"_qs, u"Equipe 4"_qs, u"Equipes de Aix"_qs};
     for (int numero = 1; numero <= 3; ++numero) {
         clic(R, option(numero).objectName());

@@ -1,6 +1,4 @@
 #include "commun/affiche.h"
-#include "commun/base_essai.h"
-#include "maintenance/import_table.h"
 #include "maintenance/lecteur_delimite.h"
 #include "maintenance/lecteur_lignes.h"
 
@@ -168,30 +166,4 @@ TEST(FichiersHostiles, AGigabyteWithoutEndIsLeftAtTheFirstBlocks)
     }
     for (const char *motif : {"x", ";", "\"", "\n\"\""})
         refuse("nom;prenom\n\"", motif, [](QIODevice &fichier) { LecteurDelimite(fichier).avance(); });
-}
-
-TEST(FichiersHostiles, AListThatBreaksOffAddsNothing)
-{
-    const BaseEssai essai;
-    store::Database base = essai.ouvre();
-    std::mt19937 hasard(11);
-    int refusees = 0;
-    for (int fois = 0; fois < 150; ++fois) {
-        QByteArray octets = "nom;licence;ne\nROUX;1;12/03/1965\n" + octetsHostiles(hasard, int(hasard() % 400));
-        if (hasard() % 2 == 0)
-            octets += '\0';
-        base.Execute(u"delete * from joueurs");
-        QBuffer source(&octets);
-        source.open(QIODevice::ReadOnly);
-        qint64 ajoutees = 0;
-        try {
-            ajoutees = ImporteTable(base, TableJoueurs(), source, [](qint64) {});
-            EXPECT_GE(ajoutees, 1);
-        } catch (const ErreurLecture &) {
-            ++refusees;
-        }
-        EXPECT_EQ(base.OpenRecordset(u"select count(*) from joueurs")[0].entier(), ajoutees);
-    }
-    EXPECT_GE(refusees, 50);
-    EXPECT_EQ(base.native().valeurUnique(u"pragma integrity_check"_qs).texte(), u"ok"_qs);
 }

@@ -42,19 +42,4 @@ TEST_F(Attente, LAvisNeVientQueSiLOperationDure)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(Attente, UneErreurRendLePointeurEtRetireLAvis)
-{
-    Execute(prog.boites, [this] {
-        prog.boites.attend(u"Erreur du programme : cassé"_qs);
-        PatienceTardive patience(contexte(), u"Lecture"_qs);
-        QTest::qSleep(1050);
-        patience.avance(1);
-        EXPECT_TRUE(prog.formulaires().estVisible(alerte));
-        throw std::runtime_error("cassé");
-    });
-    prog.boites.verifie();
-    EXPECT_FALSE(prog.formulaires().estChargee(alerte));
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
 } // namespace

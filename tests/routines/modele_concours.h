@@ -19,8 +19,6 @@ struct Concours
     {
         QString club;
         bool joue = true; ///< Takes part in the main bracket.
-
-        bool operator==(const Equipe &) const = default;
     };
 
     /// What the operator is told after a click on the draw button, and what the last attempt has left behind.
@@ -41,8 +39,6 @@ struct Concours
     std::map<int, Equipe> equipes;
     std::vector<moteur::Rencontre> rencontres; ///< In the order of writing.
 
-    /// The results screen is opened anew.
-    void ouvre() { tourCourant = tourpri; }
     Clic clique(SourceAleatoire &alea, bool reponse);
     /// In order of rank.
     std::vector<moteur::LigneClassement> classement(SourceAleatoire &alea) const;
@@ -55,7 +51,7 @@ struct Concours
     bool ferme() const;
     bool tour1Tire() const;
     moteur::Rencontre *exemption();
-    /// A new team; \p membres rows of players stand for it.
+    /// A new team.
     void ajoute(int equipe, const QString &club);
 
     int attendus() const;

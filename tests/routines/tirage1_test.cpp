@@ -144,23 +144,6 @@ protected:
     void repare() { salle.native().executeScript(u"drop trigger coupe"_qs); }
 };
 
-TEST_F(EcritureCoupee, AuTour1LeTirageSeReprend)
-{
-    coupe(1, 2, u"abort"_qs);
-    EXPECT_THROW(LanceTourSuivant(salle.partage, salle.operateur), store::Erreur);
-    EXPECT_EQ(salle.scores().size(), 2u);
-    EXPECT_EQ(salle.tourpri(), 0);
-    EXPECT_EQ(salle.partage.TourCourant, 0);
-    EXPECT_TRUE(salle.native().horsTransaction());
-
-    repare();
-    salle.operateur.reponse = true;
-    LanceTourSuivant(salle.partage, salle.operateur);
-    EXPECT_EQ(salle.operateur.dits, QStringList(question));
-    EXPECT_EQ(salle.scores().size(), 4u);
-    EXPECT_EQ(salle.tourpri(), 1);
-}
-
 TEST_F(EcritureCoupee, AuxToursSuivantsLeTourResteLAncien)
 {
     LanceTourSuivant(salle.partage, salle.operateur);

@@ -16,6 +16,10 @@ protected:
         base.Execute(u"insert into scores (concours, tableau, tour, Equipe_1, Equipe_2, score_1, score_2) "
                      u"values (1, 1, 1, 1, 0, 13, 7)");
         base.Execute(u"insert into equipes (concours, equipe, nom, prenom, licence) values (1, 1, 'Été ', ' Zoé', '7')");
+        base.Execute(u"insert into [catégories] (lang, libelle) values (1, 'Seniors')");
+        base.Execute(u"insert into evolution (concours, equipe, principal) values (1, 1, 1)");
+        base.Execute(u"insert into traduc (numero, actif) values (1, false)");
+        base.Execute(u"insert into traduc (numero, actif) values (2, true)");
     }
 
     Valeur seul(QStringView sql) { return base.OpenRecordset(sql, dbOpenSnapshot)[0].valeur(); }
@@ -40,9 +44,9 @@ TEST_F(Dialecte, UnderstandsTheStatementsOfTheProgram)
     EXPECT_EQ(seul(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like 'étéz'").entier(), 1);
     EXPECT_EQ(seul(u"select equipe + 1 from [Equipes] where [concours] = 1").entier(), 2);
     EXPECT_EQ(seul(u"select lieu from concours where lieu = 'l''étoile; D''AŸ'").texte(), u"L'Étoile; d'Aÿ");
-    EXPECT_TRUE(base.OpenRecordset(u"select * from [CATÉGORIES] where lang = 1 order by libelle").Eof());
-    EXPECT_TRUE(base.OpenRecordset(u"select * from evolution where (principal >= 1 and concours = 1);").Eof());
-    EXPECT_TRUE(base.OpenRecordset(u"select * from [traduc] where actif=true").Eof());
+    EXPECT_EQ(seul(u"select * from [CATÉGORIES] where lang = 1 order by libelle").entier(), 1);
+    EXPECT_EQ(seul(u"select * from evolution where (principal >= 1 and concours = 1);").entier(), 1);
+    EXPECT_EQ(seul(u"select * from [traduc] where actif=true").entier(), 2);
 }
 
 TEST_F(Dialecte, TogglesYesNoFields)
