@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Below 0, 0 or above 0, as the sort of the grid sees two cells.
+/// Below 0, 0 or above 0: as numbers when both are, else as texts.
 double compare(const QString &a, const QString &b)
 {
     if (store::EstNumerique(a) && store::EstNumerique(b))
