@@ -16,14 +16,14 @@ void ecritJoueurs(const QString &fichier, qint64 nombre)
     liste.open(QIODevice::WriteOnly);
     liste.write("N° licence;Nom;Prénom;Sexe;Date de naissance;Code club;Nom du club\r\n");
     for (qint64 i = 1; i <= nombre; ++i)
-        liste.write(u"%1;NÉGREL-%2;Marie-Joëlle;%3;%4/07/19%5;083%6;\"La Boule ; Ferrée %6\"\r\n"_qs
-                        .arg(i, 8, 10, QChar(u'0'))
-                        .arg(i)
-                        .arg(i % 3 == 0 ? u'F' : u'M')
-                        .arg(1 + i % 28, 2, 10, QChar(u'0'))
-                        .arg(40 + i % 60)
-                        .arg(i % 4000)
-                        .toUtf8());
+        liste.write(
+            u"%1;NÉGREL-%2;Marie-Joëlle;%3;%4/07/19%5;083%6;\"La Boule ; Ferrée %6\"\r\n"_qs.arg(i, 8, 10, QChar(u'0'))
+                .arg(i)
+                .arg(i % 3 == 0 ? u'F' : u'M')
+                .arg(1 + i % 28, 2, 10, QChar(u'0'))
+                .arg(40 + i % 60)
+                .arg(i % 4000)
+                .toUtf8());
 }
 
 void ImportJoueurs(benchmark::State &etat)

@@ -1,8 +1,8 @@
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 #include "concours_bench.h"
+#include "grille/flexgrid.h"
 #include "mesure.h"
-#include "platform/flexgrid.h"
 
 #include <QAction>
 #include <QScrollBar>
@@ -17,9 +17,10 @@ constexpr int clubs = 300;
 void poseJoueurs(store::Database &base)
 {
     base.EcritEnGroupe([&] {
-        store::Instruction joueur(base.native(), u"insert into equipes (concours, equipe, doublon, nom, prenom, "
-                                                 u"licence, societe, ne, sexe) values (0, ?, 0, ?, ?, ?, ?, "
-                                                 u"'1961-07-14', 'F')"_qs);
+        store::Instruction joueur(base.native(),
+                                  u"insert into equipes (concours, equipe, doublon, nom, prenom, "
+                                  u"licence, societe, ne, sexe) values (0, ?, 0, ?, ?, ?, ?, "
+                                  u"'1961-07-14', 'F')"_qs);
         for (int numero = 1; numero <= joueurs; ++numero) {
             // Neither names nor licences come in their order, and one name in four bears an accent.
             const int melange = numero * 7919 % joueurs;
@@ -53,10 +54,7 @@ public:
         prog.clique(u"Eequipes"_qs, bouton);
         QApplication::processEvents();
     }
-    FlexGrid &grille(const QString &liste)
-    {
-        return *static_cast<FlexGrid *>(prog.controle(liste, u"Les_équipes"_qs));
-    }
+    FlexGrid &grille(const QString &liste) { return *static_cast<FlexGrid *>(prog.controle(liste, u"Les_équipes"_qs)); }
 
     ProgrammePilote prog;
 };
@@ -70,7 +68,7 @@ void OuvreListeJoueurs(benchmark::State &etat)
         etat.PauseTiming();
         if (table.grille(u"listjo"_qs).Rows() != joueurs + 1)
             etat.SkipWithError("the list is not whole");
-        table.prog.formulaires().Decharge(u"listjo"_qs);
+        table.prog.formulaires().Decharge(NomForme(u"listjo"));
         etat.ResumeTiming();
     }
 }
@@ -86,7 +84,7 @@ void OuvreListeEquipes(benchmark::State &etat)
         etat.PauseTiming();
         if (table.grille(u"listeq"_qs).Rows() != 3 * etat.range(0) + 1)
             etat.SkipWithError("the list is not whole");
-        table.prog.formulaires().Decharge(u"listeq"_qs);
+        table.prog.formulaires().Decharge(NomForme(u"listeq"));
         etat.ResumeTiming();
     }
 }
@@ -113,13 +111,7 @@ void TrieListeJoueurs(benchmark::State &etat)
         QApplication::processEvents();
     }
 }
-BENCHMARK(TrieListeJoueurs)
-    ->ArgName("colonne")
-    ->Arg(0)
-    ->Arg(1)
-    ->Arg(2)
-    ->Unit(benchmark::kMillisecond)
-    ->UseRealTime();
+BENCHMARK(TrieListeJoueurs)->ArgName("colonne")->Arg(0)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 /// One page further down, painted.
 void DefileListeJoueurs(benchmark::State &etat)

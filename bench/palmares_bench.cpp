@@ -1,9 +1,9 @@
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 #include "concours_bench.h"
+#include "fenetres/formulaires.h"
 #include "mesure.h"
-#include "platform/destinations.h"
-#include "platform/formulaires.h"
+#include "papier/destinations.h"
 #include "printing/imprime_tirage.h"
 
 #include <QFileInfo>
@@ -40,15 +40,16 @@ void Palmares(benchmark::State &etat)
     ProgrammePilote prog;
     prepare(prog, int(etat.range(0)), int(etat.range(1)));
     for ([[maybe_unused]] auto _ : etat) {
-        prog.formulaires().Montre(u"palmares"_qs);
+        prog.formulaires().Montre(NomForme(u"palmares"));
         QApplication::processEvents();
         etat.PauseTiming();
-        prog.formulaires().Decharge(u"palmares"_qs);
+        prog.formulaires().Decharge(NomForme(u"palmares"));
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         etat.ResumeTiming();
     }
 }
-BENCHMARK(Palmares)->ArgNames({"equipes", "tours", ""})
+BENCHMARK(Palmares)
+    ->ArgNames({"equipes", "tours", ""})
     ->Args({128, 14, 0})
     ->Args({512, 14, 300})
     ->Args({1000, 14, 0})
@@ -67,6 +68,11 @@ void FeuilleTirage(benchmark::State &etat)
     if (QFileInfo(fichier).size() == 0)
         etat.SkipWithError("nothing was printed");
 }
-BENCHMARK(FeuilleTirage)->ArgNames({"equipes", ""})->Args({256, 0})->Args({1024, 2000})->Args({4000, 0})->Unit(benchmark::kMillisecond);
+BENCHMARK(FeuilleTirage)
+    ->ArgNames({"equipes", ""})
+    ->Args({256, 0})
+    ->Args({1024, 2000})
+    ->Args({4000, 0})
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -38,7 +38,7 @@ install(FILES ${bureau}/fr.varlotour.VarloTour.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT systeme)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/fr.varlotour.VarloTour.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT systeme)
-install(FILES src/ui/images/varlotour.svg
+install(FILES src/platform/aspect/images/varlotour.svg
   DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT systeme)
 
 install(TARGETS VarloTour RUNTIME DESTINATION . COMPONENT portable EXCLUDE_FROM_ALL)

@@ -5,7 +5,7 @@
 --     a collation that the store registers;
 --   * index names are unique in a whole SQLite file, so index X of table T is named "T.X".
 
-pragma application_id = 1448374133;  -- "VTou"
+pragma application_id = 1448374133;  -- "VTou"; a base that is written into counts its journals on from here
 pragma user_version = 1;
 
 -- autoincrement: the number of a deleted competition never comes back.

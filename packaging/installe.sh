@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
-# Installs the packages of paquets-debian.txt that are missing. Quick, quiet and offline when none is.
+# Installs the packages of paquets-debian.txt that are missing, with --controle those of paquets-controle.txt too.
+# Quick, quiet and offline when none is.
 set -euo pipefail
 
-liste="$(dirname "${BASH_SOURCE[0]}")/paquets-debian.txt"
-mapfile -t voulus < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "$liste")
+ici="$(dirname "${BASH_SOURCE[0]}")"
+listes=("$ici/paquets-debian.txt")
+[[ "${1:-}" == --controle ]] && listes+=("$ici/paquets-controle.txt")
+mapfile -t voulus < <(sed -e 's/#.*//' -e 's/[[:space:]]//g' -e '/^$/d' "${listes[@]}")
 
 if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
     {

@@ -1,8 +1,10 @@
-#include "app/dossier_travail.h"
 #include "app/manuel.h"
 #include "app/programme.h"
-#include "ui/apparence.h"
-#include "ui/echelle.h"
+#include "app/torvik.h"
+#include "aspect/apparence.h"
+#include "aspect/echelle.h"
+#include "fenetres/fin_demandee.h"
+#include "garde/dossier_travail.h"
 
 #include <QApplication>
 #include <QDir>
@@ -28,6 +30,9 @@ int main(int argc, char *argv[])
     const std::unique_ptr<QApplication> application = ouvreApplication(argc, argv);
     appliqueApparence(*application);
     BoitesQt boites;
+    FinDemandee fin;
+    // Every loop ends, those of boxes too, so that no handler is left in its middle; the base is closed behind them.
+    QObject::connect(&fin, &FinDemandee::demandee, [] { QApplication::exit(); });
 
     const DossierTravail dossier = dossierTravail();
     const InstanceUnique instance(dossier.chemin());
@@ -44,5 +49,8 @@ int main(int argc, char *argv[])
     programme.donneManuel(FichierManuel(QApplication::applicationDirPath(), QStringLiteral(VARLOTOUR_PAPIERS)));
     if (!programme.demarre())
         return 1;
-    return QApplication::exec();
+    QObject::connect(&fin, &FinDemandee::seanceFinit, programme.torvik(), &Torvik::seanceFinit);
+    const int code = fin.estDemandee() ? 0 : QApplication::exec();
+    programme.termine();
+    return code;
 }

@@ -89,8 +89,8 @@ bool ecrit(const QString &nom, const std::vector<qint16> &pcm)
     flux.writeRawData("RIFF", 4);
     flux << quint32(4 + 8 + tailleFormat + 8 + tailleSon);
     flux.writeRawData("WAVEfmt ", 8);
-    flux << tailleFormat << quint16(1) << quint16(1) << quint32(cadence) << quint32(cadence * octets)
-         << quint16(octets) << quint16(8 * octets);
+    flux << tailleFormat << quint16(1) << quint16(1) << quint32(cadence) << quint32(cadence * octets) << quint16(octets)
+         << quint16(8 * octets);
     flux.writeRawData("data", 4);
     flux << tailleSon;
     for (const qint16 echantillon : pcm)

@@ -27,10 +27,10 @@ feuille() { # name in the manual, sheet of the day: its first page
 }
 
 forme journee bureau-resultats
-forme accueil accueil 1362x260+0+0
+forme accueil accueil 1362x290+0+0
 forme concours concours-rempli
 forme liste-concours liste-concours 1200x130+0+0
-forme equipes bureau-equipes 1068x560+0+120
+forme equipes bureau-equipes 1068x560+0+162
 forme equipes-correction equipes-correction
 forme clubs clubs
 forme liste-equipes liste-equipes
@@ -40,9 +40,9 @@ forme resultats-depart resultats-avant-depart
 forme resultats resultats-rencontre-appelee
 forme resultats-complet resultats-tour-complet
 forme lettres resultats-lettres
-forme attendus vue-attendus-lancee 298x420+0+0
-forme classement vue-classement 298x420+0+0
-forme groupes vue-groupes 330x420+0+0
+forme attendus vue-attendus-lancee 284x420+0+0
+forme classement vue-classement 284x420+0+0
+forme groupes vue-groupes 280x420+0+0
 forme enregistres vue-joues 262x420+0+0
 forme detail detail-equipe 330x520+0+0
 forme impression impression-tirage

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/boites.h"
-#include "platform/imprimante.h"
+#include "fenetres/boites.h"
+#include "papier/imprimante.h"
 
 #include <QStringList>
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/imprimante.h"
+#include "papier/imprimante.h"
 
+#include <QRect>
 #include <QStringList>
 
 #include <gtest/gtest.h>
@@ -13,7 +14,10 @@ using Pages = std::vector<PageDessinee>;
 class DestinationGardee final : public Destination
 {
 public:
-    explicit DestinationGardee(std::vector<Pages> &documents) : m_documents(documents) {}
+    explicit DestinationGardee(std::vector<Pages> &documents)
+        : m_documents(documents)
+    {
+    }
     QSize papier() const override { return papierA4; }
     QMargins marges() const override { return margesHabituelles; }
     bool recoit(const Pages &pages, int) override
@@ -46,18 +50,23 @@ inline QString texteDe(const PageDessinee &page)
     return textes.join(u'|');
 }
 
-/// No text of a page runs into its neighbour in the line, over the edge \p droite or into the footer, the line that
+/// No two texts of a page lie over each other, and none goes over the edge \p droite or into the footer, the line that
 /// starts at \p pied; twips.
 inline void VerifiePlaces(const PageDessinee &page, int droite, int pied)
 {
-    const Dessin *precedent = nullptr;
+    std::vector<std::pair<QRect, QString>> places;
     for (const Dessin &dessin : page.dessins) {
         if (dessin.genre != Dessin::Texte || dessin.texte.trimmed().isEmpty())
             continue;
         EXPECT_TRUE(dessin.x1 >= 0 && dessin.x2 <= droite) << dessin.texte.toStdString();
         EXPECT_TRUE(dessin.y2 <= pied || dessin.y1 == pied) << dessin.texte.toStdString();
-        const bool memeLigne = precedent != nullptr && precedent->y1 == dessin.y1;
-        EXPECT_TRUE(!memeLigne || precedent->x2 <= dessin.x1) << dessin.texte.toStdString();
-        precedent = &dessin;
+        const QRect place(dessin.x1, dessin.y1, dessin.x2 - dessin.x1, dessin.y2 - dessin.y1);
+        for (const auto &[autre, texte] : places)
+            EXPECT_FALSE(place.intersects(autre)) << dessin.texte.toStdString() << " over " << texte.toStdString();
+        places.emplace_back(place, dessin.texte);
     }
 }
+
+/// The longest texts that the head of a sheet has to bear.
+inline const QString lieuLong = u"BOULODROME JEAN MOULIN ET ROBERT, SAINT-RAPHAËL 83"_qs;
+inline const QString categorieLongue = u"Grand Prix de la Ville"_qs;

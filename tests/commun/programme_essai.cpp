@@ -1,7 +1,7 @@
 #include "commun/programme_essai.h"
 
-#include "app/routines.h"
-#include "platform/formulaires.h"
+#include "fenetres/formulaires.h"
+#include "partage/routines.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,15 +1,13 @@
 #include "commun/programme_pilote.h"
 
 #include "app/torvik.h"
-#include "ui/apparence.h"
+#include "aspect/apparence.h"
+#include "commun/contenu.h"
+#include "garde/sauvegarde.h"
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QFile>
-#include <QLabel>
-#include <QLineEdit>
 #include <QWindow>
 
 namespace {
@@ -55,66 +53,12 @@ QWidget *ProgrammePilote::torvik() const
     return m_programme->torvik();
 }
 
-QWidget *ProgrammePilote::cherche(const QString &forme, const QString &nom)
-{
-    QWidget *parent = forme.isEmpty() ? torvik() : static_cast<QWidget *>(formulaires().forme(forme));
-    auto *trouve = parent == nullptr ? nullptr : parent->findChild<QWidget *>(nom);
-    if (trouve == nullptr)
-        throw std::runtime_error((u"no control "_qs + forme + u'.' + nom).toStdString());
-    return trouve;
-}
-
-QString ProgrammePilote::texte(const QString &forme, const QString &nom)
-{
-    const QWidget *trouve = cherche(forme, nom);
-    if (const auto *champ = qobject_cast<const QLineEdit *>(trouve))
-        return champ->text();
-    if (const auto *liste = qobject_cast<const QComboBox *>(trouve))
-        return liste->currentText();
-    if (const auto *bouton = qobject_cast<const QAbstractButton *>(trouve))
-        return bouton->text();
-    return qobject_cast<const QLabel *>(trouve)->text();
-}
-
-QString ProgrammePilote::focus() const
-{
-    QApplication::processEvents(); // a box that has just been answered gives the focus back by an event
-    const QWidget *widget = QApplication::focusWidget();
-    if (widget == nullptr)
-        return {};
-    const QWidget *parent = widget->parentWidget();
-    return qobject_cast<const QComboBox *>(parent) != nullptr ? parent->objectName() : widget->objectName();
-}
-
-void ProgrammePilote::tape(const QString &texte)
-{
-    QApplication::processEvents();
-    for (const QChar lettre : texte) {
-        QWidget *widget = QApplication::focusWidget();
-        ASSERT_NE(widget, nullptr) << "Nothing has the focus";
-        if (lettre == u'\n')
-            QTest::keyClick(widget, Qt::Key_Return);
-        else if (lettre.unicode() < 128)
-            QTest::keyClick(widget, lettre.toLatin1());
-        else
-            QTest::sendKeyEvent(QTest::Click, widget, Qt::Key(lettre.toUpper().unicode()), QString(lettre),
-                                Qt::NoModifier);
-    }
-}
-
-void ProgrammePilote::touche(Qt::Key touche, Qt::KeyboardModifiers avec)
-{
-    QApplication::processEvents();
-    ASSERT_NE(QApplication::focusWidget(), nullptr) << "Nothing has the focus";
-    QTest::keyClick(QApplication::focusWidget(), touche, avec);
-}
-
 /// The mouse goes through the window, as from the desktop: it meets whatever stands at that place by then. The program
 /// is at rest first, whatever the speed of the machine: clicks made during a long operation are dropped.
 void ProgrammePilote::clique(const QString &forme, const QString &nom)
 {
     QApplication::processEvents();
-    const QWidget *widget = cherche(forme, nom);
+    const QWidget *widget = controle(forme, nom);
     QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
     QApplication::processEvents();
 }
@@ -122,7 +66,28 @@ void ProgrammePilote::clique(const QString &forme, const QString &nom)
 void ProgrammePilote::doubleClique(const QString &forme, const QString &nom)
 {
     QApplication::processEvents();
-    const QWidget *widget = cherche(forme, nom);
+    const QWidget *widget = controle(forme, nom);
     QTest::mouseDClick(widget->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, milieu(*widget));
     QApplication::processEvents();
+}
+
+void ProgrammePilote::verifieSansCopie(const std::function<void()> &acte, const QString &question)
+{
+    QFile obstacle(dossier() + u'/' + dossierSauvegardes);
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    partage().AvecCopies = true;
+    const QStringList avant = Contenu(base().native());
+    for (const ReponseBoite reponse : {ReponseBoite::Non, ReponseBoite::Oui}) {
+        if (!question.isEmpty())
+            boites.attend(question, ReponseBoite::Oui);
+        boites.attend(u"La copie n'a pas pu être faite : le dossier sauvegardes ne peut pas être créé.\r\n"
+                      u"Continuer sans elle ?"_qs,
+                      reponse);
+        acte();
+        boites.verifie();
+        EXPECT_EQ(boites.drapeaux(), vbYesNo | vbExclamation | vbDefaultButton2);
+        EXPECT_EQ(Contenu(base().native()) == avant, reponse == ReponseBoite::Non);
+    }
+    partage().AvecCopies = false;
+    EXPECT_TRUE(obstacle.remove());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/programme.h"
 #include "commun/boites_script.h"
+#include "pilote/gestes.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -21,12 +21,12 @@ public:
 };
 
 /// The whole program on a fresh base of its own, driven by keys and clicks as an operator drives it.
-class ProgrammePilote
+class ProgrammePilote : public pilote::Gestes
 {
 public:
     /// \p graine fixes the draws. The program is not started yet.
     explicit ProgrammePilote(quint32 graine = 1);
-    ~ProgrammePilote();
+    ~ProgrammePilote() override;
 
     /// Safety copies are made from the next start on; without them a test is quicker.
     void avecCopies() { m_copies = true; }
@@ -44,23 +44,12 @@ public:
     /// First column of the first row of a statement.
     store::Valeur valeur(const QString &sql) { return base().native().valeurUnique(sql); }
 
-    /// The control \p nom of the loaded form \p forme, of the main window without one; a missing one throws.
-    template<typename Widget = QWidget>
-    Widget *controle(const QString &forme, const QString &nom)
-    {
-        return qobject_cast<Widget *>(cherche(forme, nom));
-    }
-    /// Text of a field, a list, a label or a button.
-    QString texte(const QString &forme, const QString &nom);
-    /// Name of the control that has the focus, a combo for its editor.
-    QString focus() const;
-
-    /// Types keys into the control with the focus; a line end is Enter.
-    void tape(const QString &texte);
-    void touche(Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier);
     void clique(const QString &forme, const QString &nom);
     /// Press, release, second press and release, as they come from a mouse.
     void doubleClique(const QString &forme, const QString &nom);
+    /// Where no copy can be made, \p acte, behind its own \p question if it has one, asks whether to go on: No leaves
+    /// the file as it was, Yes changes it.
+    void verifieSansCopie(const std::function<void()> &acte, const QString &question = {});
     /// Opens a family of forms from the main window, by its button.
     void ouvre(const QString &bouton) { clique({}, bouton); }
 
@@ -69,7 +58,7 @@ public:
     HorlogeArretee horloge;
 
 private:
-    QWidget *cherche(const QString &forme, const QString &nom);
+    Programme &programmeTenu() const override { return *m_programme; }
 
     QTemporaryDir m_dossier;
     bool m_copies = false;

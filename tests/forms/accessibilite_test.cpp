@@ -1,6 +1,6 @@
 // What a screen reader finds on each form: every control named, once, with its role and its state, in reading order.
+#include "fenetres/touches_alt.h"
 #include "formes_ouvertes.h"
-#include "platform/touches_alt.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -37,7 +37,7 @@ QAccessible::Role roleVoulu(const QWidget &controle)
         {"QComboBox", QAccessible::ComboBox},     {"QLineEdit", QAccessible::EditableText},
         {"QTableView", QAccessible::Table},       {"QListWidget", QAccessible::List},
         {"QTabBar", QAccessible::PageTabList},    {"QPlainTextEdit", QAccessible::EditableText},
-        {"Cadran", QAccessible::Graphic},          {"Rouleau", QAccessible::Graphic},
+        {"Cadran", QAccessible::Graphic},         {"Rouleau", QAccessible::Graphic},
     };
     for (const auto &[classe, role] : roles) {
         if (controle.inherits(classe))
@@ -103,20 +103,20 @@ TEST_F(Lecture, ChaqueControleAUnNomUnRoleEtUnEtat)
             const auto *texte = qobject_cast<const QPlainTextEdit *>(&controle);
             EXPECT_EQ(bool(lu->state().readOnly), texte != nullptr && texte->isReadOnly());
             const auto *combo = qobject_cast<const QComboBox *>(&controle);
-            EXPECT_TRUE(combo == nullptr || !combo->isEditable()
-                        || combo->lineEdit()->accessibleName() == nomLu(*lu));
+            EXPECT_TRUE(combo == nullptr || !combo->isEditable() || combo->lineEdit()->accessibleName() == nomLu(*lu));
         }
     }
 }
 
-/// Tab follows the told order on the two forms that have one, and comes to the club of a player first; elsewhere, as the
-/// screen reader does, it goes from left to right and down, section by section.
+/// Tab follows the told order on the two forms that have one, and comes to the club of a player first; elsewhere, as
+/// the screen reader does, it goes from left to right and down, section by section.
 TEST_F(Lecture, OrdreDeLectureEtDesTabulations)
 {
     const QHash<QString, QString> ordres{
         {u"Econcours"_qs, u"référence Text2 Text3 Text4 Combo1 ok Supprimer Command1 text1 Check1 Dupliquer Check4"_qs},
-        {u"Eequipes"_qs, u"Société référence Equipe LicenceJ_0 NomJ_0 PrénomJ_0 LicenceJ_1 NomJ_1 PrénomJ_1 LicenceJ_2 "
-                         "NomJ_2 PrénomJ_2 NomJ_3 PrénomJ_3 LicenceJ_3 Okc SupprimerC cImport Command1 Command2"_qs}};
+        {u"Eequipes"_qs,
+         u"Société référence Equipe LicenceJ_0 NomJ_0 PrénomJ_0 LicenceJ_1 NomJ_1 PrénomJ_1 LicenceJ_2 "
+         "NomJ_2 PrénomJ_2 NomJ_3 PrénomJ_3 LicenceJ_3 Okc SupprimerC cImport Command1 Command2"_qs}};
     for (const QString &nom : fenetres()) {
         QWidget *forme = ouvre(nom);
         const std::vector<QAccessibleInterface *> lus = controles(*forme);
@@ -147,7 +147,8 @@ TEST_F(Lecture, OrdreDeLectureEtDesTabulations)
 TEST_F(Lecture, LesGrillesDisentCeQuElesMontrent)
 {
     const auto grille = [](QWidget *forme) {
-        return QAccessible::queryAccessibleInterface(forme->findChild<QTableView *>(u"les_resultats"_qs))->tableInterface();
+        return QAccessible::queryAccessibleInterface(forme->findChild<QTableView *>(u"les_resultats"_qs))
+            ->tableInterface();
     };
     QAccessibleTableInterface *joues = grille(ouvre(u"valresu"_qs));
     ASSERT_EQ(joues->rowCount(), 1);

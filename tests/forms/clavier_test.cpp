@@ -1,11 +1,11 @@
 // A whole day without a mouse, and the keys that make it possible.
-#include "app/langue.h"
 #include "app/manuel.h"
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
-#include "platform/flexgrid.h"
-#include "platform/touches_alt.h"
+#include "fenetres/touches_alt.h"
+#include "grille/flexgrid.h"
+#include "partage/langue.h"
 
 #include <gtest/gtest.h>
 
@@ -74,7 +74,8 @@ void Clavier::creeConcours()
     ASSERT_EQ(fenetre(), u"Econcours"_qs);
     prog.tape(u"14/07/2026\nMarseille\nBoule d'or\n"_qs);
     ASSERT_EQ(prog.focus(), u"Combo1"_qs);
-    touches({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab});
+    touches(
+        {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab});
     ASSERT_EQ(prog.focus(), u"ok"_qs);
     prog.boites.attend(prog.partage().mes(95));
     touche(Qt::Key_Space);
@@ -103,8 +104,7 @@ void Clavier::inscrit(int equipes)
 
 void Clavier::joueTour(int tour)
 {
-    store::Instruction lecture(prog.base().native(),
-                               u"select equipe_1 from scores where tour = ? and equipe_2 > 0"_qs);
+    store::Instruction lecture(prog.base().native(), u"select equipe_1 from scores where tour = ? and equipe_2 > 0"_qs);
     lecture.lie(1, tour);
     std::vector<qint64> equipes;
     while (lecture.avance())
@@ -193,7 +193,9 @@ TEST_F(Clavier, LesLettresSeMontrentTantQueAltEstTenue)
 {
     touches({Qt::Key_F10, Qt::Key_Return});
     QWidget *forme = QApplication::activeWindow();
-    const auto etiquettes = [forme] { return forme->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).size(); };
+    const auto etiquettes = [forme] {
+        return forme->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).size();
+    };
     const qsizetype sans = etiquettes();
     QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return etiquettes() == sans + 1; }));

@@ -1,6 +1,7 @@
 #include "salle_resultats.h"
 
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
+#include "results/etat_resultats.h"
 
 #include <QPlainTextEdit>
 
@@ -75,10 +76,10 @@ TEST_F(DetailEquipe, SeulLeClicGaucheSurUneEquipeLOuvre)
     presse(0);
     presse(3);
     presse(1, Qt::RightButton);
-    prog.partage().ClicGrille = false;
+    prog.formulaires().etat<EtatResultats>().ClicGrille = false;
     presse(1);
     EXPECT_FALSE(prog.formulaires().estChargee(u"Détail_résultats"_qs));
-    prog.partage().ClicGrille = true;
+    prog.formulaires().etat<EtatResultats>().ClicGrille = true;
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+#include "commun/contenu.h"
+#include "commun/panne_ecriture.h"
 #include "commun/programme_essai.h"
 
 #include <QComboBox>
@@ -17,7 +19,9 @@ protected:
         for (int equipe = 1; equipe <= 3; ++equipe) {
             for (int doublon = 0; doublon < 3; ++doublon)
                 execute(u"insert into equipes (concours, equipe, doublon, nom, engage) values "
-                        "(1, %1, %2, 'O''Brien %2', %3)"_qs.arg(equipe).arg(doublon).arg(equipe - 1));
+                        "(1, %1, %2, 'O''Brien %2', %3)"_qs.arg(equipe)
+                            .arg(doublon)
+                            .arg(equipe - 1));
             execute(u"insert into evolution (concours, equipe, principal) values (1, %1, 4)"_qs.arg(equipe));
         }
         for (const int concours : {1, 2})
@@ -61,8 +65,15 @@ TEST_F(Copie, RemovalTakesEverythingOfOneCompetitionOnConsent)
     boites.attend(partage().mes(96), ReponseBoite::Non);
     clic(C, u"Supprimer"_qs);
     EXPECT_EQ(nombre(u"select count(*) from equipes where concours = 1"_qs), 9);
-    boites.attend(partage().mes(96), ReponseBoite::Oui);
-    clic(C, u"Supprimer"_qs);
+    const QStringList avant = Contenu(base().native());
+    for (int apres = 0; apres < 9 + 3 + 1 + 1; ++apres) {
+        const PanneEcriture panne(base().native(), apres);
+        boites.attend(partage().mes(96), ReponseBoite::Oui);
+        boites.attend(u"Erreur"_qs);
+        clic(C, u"Supprimer"_qs);
+        ASSERT_EQ(Contenu(base().native()), avant) << "row " << apres;
+    }
+    verifieSansCopie([this] { clic(C, u"Supprimer"_qs); }, partage().mes(96));
     for (const QString &table : {u"concours"_qs, u"equipes"_qs, u"evolution"_qs, u"scores"_qs}) {
         EXPECT_EQ(nombre(u"select count(*) from %1 where concours = 1"_qs.arg(table)), 0) << table.toStdString();
     }

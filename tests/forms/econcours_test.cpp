@@ -206,6 +206,68 @@ TEST_F(EditeurConcours, TypeFigeDesLaPremiereEquipe)
     EXPECT_EQ(prog.valeur(u"select type from concours"_qs).texte(), u"2 - Triplettes"_qs);
 }
 
+TEST_F(EditeurConcours, EchapSortDeLaDisciplineFigee)
+{
+    const qint32 numero = concours(u"2 - Triplettes"_qs, 1);
+    ouvre();
+    appelle(QString::number(numero));
+    for (int fois = 0; fois < 2; ++fois) {
+        controle<QComboBox>(u"Combo1"_qs)->setFocus();
+        prog.touche(Qt::Key_Escape);
+        EXPECT_EQ(prog.focus(), u"Text2"_qs);
+    }
+    controle(u"Text2"_qs)->setText(u"20/07/2026"_qs);
+    prog.boites.attend(u"Choix inconnu"_qs);
+    ok();
+    prog.boites.verifie();
+    prog.touche(Qt::Key_Escape);
+    EXPECT_EQ(prog.focus(), u"Text2"_qs);
+    EXPECT_EQ(prog.valeur(u"select type || lieu from concours"_qs).texte(), u"2 - TriplettesSète"_qs);
+}
+
+TEST_F(EditeurConcours, UnNumeroQuiNEstPasReluNEstRemplaceQuApresUneQuestion)
+{
+    concours();
+    ouvre();
+    saisit(u"15/07/2026"_qs, u"1 - Doublettes"_qs);
+    ok();
+    appelle(u"1"_qs);
+    ok(); // read, so it is changed without a word
+    EXPECT_EQ(combo(u"référence"_qs), u"000002"_qs);
+    const QString question = u"Le concours 000002 existe déjà"_qs;
+    const auto deux = [&] { return prog.valeur(u"select date || lieu from concours where concours = 2"_qs).texte(); };
+    const QString avant = deux();
+    saisit(u"16/07/2026"_qs, u"2 - Triplettes"_qs);
+    prog.boites.attend(question, ReponseBoite::Non);
+    ok();
+    prog.boites.verifie();
+    EXPECT_EQ(prog.boites.drapeaux() & vbDefaultButton2, vbDefaultButton2);
+    EXPECT_EQ(deux(), avant);
+    EXPECT_EQ(lignes(), 2);
+    EXPECT_EQ(texte(u"Text2"_qs), u"16/07/2026"_qs);
+    // What was typed stays, and coming back from the list proposes a number for it.
+    prog.clique(u"Econcours"_qs, u"Command1"_qs);
+    QApplication::processEvents();
+    prog.formulaires().Montre(NomForme(u"Econcours"));
+    QApplication::processEvents();
+    EXPECT_EQ(combo(u"référence"_qs), u"000003"_qs);
+    ok();
+    EXPECT_EQ(deux(), avant);
+    EXPECT_EQ(prog.valeur(u"select date || lieu || type from concours where concours = 3"_qs).texte(),
+              u"2026-07-16L'Isle2 - Triplettes"_qs);
+
+    // Escape empties what was read.
+    appelle(u"2"_qs);
+    controle<QComboBox>(u"Combo1"_qs)->setFocus();
+    prog.touche(Qt::Key_Escape);
+    saisit(u"17/07/2026"_qs, u"2 - Triplettes"_qs);
+    prog.boites.attend(question, ReponseBoite::Oui);
+    ok();
+    prog.boites.verifie();
+    EXPECT_EQ(deux(), u"2026-07-17L'Isle"_qs);
+    EXPECT_EQ(lignes(), 3);
+}
+
 TEST_F(EditeurConcours, EchecDeLaBaseDitUneFois)
 {
     ouvre();

@@ -1,5 +1,7 @@
 #include "inscription_essai.h"
 
+#include "noms/passation.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
@@ -68,7 +70,7 @@ TEST_F(ChoixConcours, AnotherNumberTakesTheFormOver)
     equipesStockees(1, 1);
     ouvre();
     remplit(E, u"NomJ_0"_qs, u"A"_qs);
-    partage().PanacheeAutorisee = true;
+    formulaires().etat<Passation>().PanacheeAutorisee = true;
 
     change(u"1"_qs);
     EXPECT_EQ(focus(), u"LicenceJ_0"_qs);
@@ -84,7 +86,7 @@ TEST_F(ChoixConcours, AnotherNumberTakesTheFormOver)
     EXPECT_EQ(partage().TourCourant, 2);
     EXPECT_EQ(partage().LieuConcours + partage().CategorieConcours, u"AupsDames"_qs);
     EXPECT_TRUE(partage().AvecRepechage);
-    EXPECT_FALSE(partage().PanacheeAutorisee);
+    EXPECT_FALSE(formulaires().etat<Passation>().PanacheeAutorisee);
 
     change(u"2"_qs, Qt::Key_Tab);
     EXPECT_EQ(focus(), u"LicenceJ_0"_qs);
@@ -114,8 +116,8 @@ TEST_F(ChoixConcours, ThePickFromTheListCountsWheelAndArrowsDoNot)
     creeConcours({.type = u"2 - Triplettes"_qs});
     ouvre();
     QComboBox *combo = liste(E, u"référence"_qs);
-    QWheelEvent roue(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent roue(QPointF(5, 5), combo->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
     QApplication::sendEvent(combo, &roue);
     EXPECT_EQ(texte(E, u"référence"_qs), u"000002"_qs);
     EXPECT_TRUE(visible(E, u"Okc"_qs));
@@ -161,7 +163,7 @@ TEST_F(ChoixConcours, TheClubsStandBesideTheFormAndNeverTakeTheFocus)
     aCote(4000);
     EXPECT_LE(forme(L)->Left() + forme(L)->Width(), 1366 * 15);
 
-    formulaires().Decharge(L);
+    formulaires().Decharge(NomForme(L));
     clic(E, u"Label1"_qs);
     EXPECT_TRUE(formulaires().estVisible(L));
     aCote(4500);
@@ -173,7 +175,7 @@ TEST_F(ChoixConcours, TheClubsStandBesideTheFormAndNeverTakeTheFocus)
 TEST_F(ChoixConcours, TheWindowsCloseWithoutTouchingTheClosedBase)
 {
     ouvre();
-    formulaires().Decharge(E);
+    formulaires().Decharge(NomForme(E));
     EXPECT_FALSE(formulaires().estChargee(L));
     ouvreFamille(u"f_equipes"_qs, E);
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"00001"_qs);

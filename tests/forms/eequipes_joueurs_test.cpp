@@ -1,5 +1,7 @@
 #include "inscription_essai.h"
 
+#include "noms/passation.h"
+
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -8,7 +10,7 @@ namespace {
 const QString panachee = u"*Panachée"_qs;
 const QString questionPanachees = u"Les équipes panachées sont-elles autorisées"_qs;
 
-class Joueurs : public Inscription
+class JoueursDEquipe : public Inscription
 {
 protected:
     void SetUp() override
@@ -22,7 +24,35 @@ protected:
     }
 };
 
-TEST_F(Joueurs, MixedTeamsAreAskedForOnceACompetition)
+TEST_F(JoueursDEquipe, BlanksLeaveALicenceAndAClubWithTheFocus)
+{
+    const qint32 concours = ouvre();
+    remplit(E, u"LicenceJ_0"_qs, u" 0831 "_qs);
+    clic(E, u"PrénomJ_0"_qs);
+    EXPECT_EQ(texte(E, u"LicenceJ_0"_qs), u"0831"_qs);
+    remplit(E, u"LicenceJ_1"_qs, u"  "_qs);
+    remplit(E, u"Société"_qs, u" dup "_qs);
+    clic(E, u"Okc"_qs);
+    EXPECT_EQ(equipe(concours, 1), QStringList({u"0|FABRE|Rémi|0831|dup|A|1"_qs, u"1||||dup|A|1"_qs}));
+    boites.attend(partage().mes(103), ReponseBoite::Oui);
+    licence(0, u"0831 "_qs);
+    EXPECT_EQ(texte(E, u"LicenceJ_0"_qs), QString());
+}
+
+TEST_F(JoueursDEquipe, TheCardOfAPlayerGoesBeforeHisOldTeams)
+{
+    joueur(u"0899"_qs, u"ANCIEN"_qs, u"Nom"_qs, u"PARTI"_qs, 90, 1);
+    ouvre();
+    execute(u"delete * from equipes where licence = '0840'"_qs);
+    joueur(u"0840"_qs, u"ANCIEN"_qs, u"Nom"_qs, u"PARTI"_qs, 90, 2);
+    joueur(u"0840"_qs, u"BLANC"_qs, u"Léo"_qs, u"MAR"_qs);
+    licence(0, u"0840"_qs);
+    EXPECT_EQ(texte(E, u"NomJ_0"_qs) + texte(E, u"PrénomJ_0"_qs) + texte(E, u"Société"_qs), u"BLANCLéoMAR"_qs);
+    licence(0, u"0899"_qs); // without a card
+    EXPECT_EQ(texte(E, u"NomJ_0"_qs) + texte(E, u"Société"_qs), u"ANCIENPARTI"_qs);
+}
+
+TEST_F(JoueursDEquipe, MixedTeamsAreAskedForOnceACompetition)
 {
     ouvre();
     licence(0, u"0831"_qs);
@@ -49,10 +79,10 @@ TEST_F(Joueurs, MixedTeamsAreAskedForOnceACompetition)
     entre();
     boites.attend(questionPanachees, ReponseBoite::Oui);
     licence(0, u"9999"_qs);
-    EXPECT_TRUE(partage().PanacheeAutorisee);
+    EXPECT_TRUE(formulaires().etat<Passation>().PanacheeAutorisee);
 }
 
-TEST_F(Joueurs, ALicenceOfAnotherTeamIsShownAndCleared)
+TEST_F(JoueursDEquipe, ALicenceOfAnotherTeamIsShownAndCleared)
 {
     const qint32 concours = ouvre();
     joueur(u"0850"_qs, u"NOIR"_qs, u"Ève"_qs, u"MAR"_qs, concours, 7, 1);
@@ -76,7 +106,7 @@ TEST_F(Joueurs, ALicenceOfAnotherTeamIsShownAndCleared)
     EXPECT_EQ(focus(), u"NomJ_0"_qs);
 }
 
-TEST_F(Joueurs, ATeamReadBackKeepsItsOwnLicences)
+TEST_F(JoueursDEquipe, ATeamReadBackKeepsItsOwnLicences)
 {
     equipesStockees(1, 2);
     ouvre();
@@ -90,7 +120,7 @@ TEST_F(Joueurs, ATeamReadBackKeepsItsOwnLicences)
     EXPECT_EQ(texte(E, u"LicenceJ_1"_qs), QString());
 }
 
-TEST_F(Joueurs, TheLookUpRunsOnAnyWayOutAndOnlyOnce)
+TEST_F(JoueursDEquipe, TheLookUpRunsOnAnyWayOutAndOnlyOnce)
 {
     ouvre();
     entre();
@@ -116,7 +146,7 @@ TEST_F(Joueurs, TheLookUpRunsOnAnyWayOutAndOnlyOnce)
     EXPECT_EQ(focus(), u"LicenceJ_1"_qs);
 }
 
-TEST_F(Joueurs, TheWalkEndsAtTheFirstEmptyLicence)
+TEST_F(JoueursDEquipe, TheWalkEndsAtTheFirstEmptyLicence)
 {
     ouvre(u"2 - Triplettes"_qs);
     remplit(E, u"Société"_qs, u"MAR"_qs);
@@ -129,7 +159,7 @@ TEST_F(Joueurs, TheWalkEndsAtTheFirstEmptyLicence)
     EXPECT_EQ(focus(), u"Société"_qs);
 }
 
-TEST_F(Joueurs, ANewClubIsCreatedOnConsent)
+TEST_F(JoueursDEquipe, ANewClubIsCreatedOnConsent)
 {
     ouvre();
     remplit(E, u"NomJ_0"_qs, u"A"_qs);
@@ -158,7 +188,7 @@ TEST_F(Joueurs, ANewClubIsCreatedOnConsent)
     EXPECT_EQ(nombre(u"select count(*) from societes"_qs), 4);
 }
 
-TEST_F(Joueurs, TheFirstClubOfAllHasNoCode)
+TEST_F(JoueursDEquipe, TheFirstClubOfAllHasNoCode)
 {
     ouvre();
     execute(u"delete * from societes"_qs);

@@ -1,3 +1,4 @@
+#include "commun/panne_ecriture.h"
 #include "inscription_essai.h"
 
 #include <QComboBox>
@@ -44,8 +45,8 @@ TEST_F(Enregistrement, ATeamGoesInByKeyboardAloneAndSurvivesARestart)
         EXPECT_EQ(texte(E, vide), QString());
 
     redemarre();
-    EXPECT_EQ(equipe(concours, 1), QStringList({u"0|FABRE|Rémi|0831|Boule d'Ampus|A|1"_qs,
-                                                u"1|N'GUYEN|Zoé|0832|Boule d'Ampus|A|1"_qs}));
+    EXPECT_EQ(equipe(concours, 1),
+              QStringList({u"0|FABRE|Rémi|0831|Boule d'Ampus|A|1"_qs, u"1|N'GUYEN|Zoé|0832|Boule d'Ampus|A|1"_qs}));
     EXPECT_EQ(lignes(u"select concours, equipe, principal, complement from evolution"_qs),
               QStringList({u"%1|1|1|0"_qs.arg(concours)}));
 }
@@ -115,7 +116,16 @@ TEST_F(Enregistrement, GapsStayAndOnlyTheHighestNumberComesBack)
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"0002"_qs);
     EXPECT_EQ(texte(E, u"Label8"_qs), partage().mes(88));
     appelle(u"1"_qs);
-    clic(E, u"SupprimerC"_qs);
+    {
+        const PanneEcriture panne(base().native(), 2); // the row of evolution
+        boites.attend(u"Erreur"_qs);
+        clic(E, u"SupprimerC"_qs);
+    }
+    EXPECT_EQ(numeros(concours), QStringList({u"1"_qs}));
+    verifieSansCopie([this] {
+        EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"A"_qs);
+        clic(E, u"SupprimerC"_qs);
+    });
     EXPECT_EQ(texte(E, u"Equipe"_qs), u"0001"_qs);
     EXPECT_EQ(numeros(concours), QStringList());
 }
@@ -165,8 +175,8 @@ TEST_F(Enregistrement, CorrectionCutsTheTextsAndSetsTheCountersBack)
     const QStringList avant = lignes(u"select * from scores"_qs);
     appelle(u"1"_qs);
     clic(E, u"Okc"_qs);
-    EXPECT_EQ(equipe(concours, 1), QStringList({u"0|%1|%1||%2|A|1"_qs.arg(long25.left(20), club30),
-                                                u"1||||%1|A|1"_qs.arg(club30)}));
+    EXPECT_EQ(equipe(concours, 1),
+              QStringList({u"0|%1|%1||%2|A|1"_qs.arg(long25.left(20), club30), u"1||||%1|A|1"_qs.arg(club30)}));
     EXPECT_EQ(lignes(u"select principal, complement from evolution"_qs), QStringList({u"1|0"_qs}));
     EXPECT_EQ(lignes(u"select * from scores"_qs), avant);
 }
@@ -228,8 +238,7 @@ TEST_F(Enregistrement, AFailedCorrectionIsToldAndTheOtherWritesStay)
     remplit(E, u"NomJ_1"_qs, u"Y"_qs);
     boites.attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
     clic(E, u"Okc"_qs);
-    EXPECT_EQ(equipe(concours, 1),
-              QStringList({u"0|NOM1|P0|L1-0|DUP|Null|0"_qs, u"1|Y|P1|L1-1|DUP|A|1"_qs}));
+    EXPECT_EQ(equipe(concours, 1), QStringList({u"0|NOM1|P0|L1-0|DUP|Null|0"_qs, u"1|Y|P1|L1-1|DUP|A|1"_qs}));
     EXPECT_EQ(nombre(u"select principal from evolution"_qs), 1);
     EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"X"_qs);
 }

@@ -63,6 +63,7 @@ TEST_F(Joueurs, ANewOneIsTypedFromKeyToKeyAndCutToWhatTheFileHolds)
 
     tape(u"L'Étoile d'Aÿ"_qs);
     remplit(J, u"ne"_qs, u"jamais"_qs);
+    boites.attend(u"« jamais » n'est pas une date : la date de naissance reste vide."_qs);
     clic(J, u"Okc"_qs);
     EXPECT_EQ(fichier().last(), u"2|0||||L'Étoile d'Aÿ|Null|M"_qs) << "what is no date is none";
     boites.attend(u"Le nom du club est obligatoire"_qs);
@@ -101,13 +102,38 @@ TEST_F(Joueurs, ACorrectionStoresTheTextsAsTypedAndProposesTheNumberOfTheTeams)
     entre();
     EXPECT_EQ(numero(), u"0003"_qs);
 
+    appelleJoueur(u"2"_qs);
+    EXPECT_TRUE(coche(u"Feminin"_qs));
+    appelleJoueur(u"4"_qs);
+    EXPECT_TRUE(coche(u"Masculin"_qs)) << "a new number";
     appelleJoueur(u"3"_qs);
-    clic(J, u"SupprimerC"_qs);
+    verifieSansCopie([this] { clic(J, u"SupprimerC"_qs); });
     EXPECT_EQ(fichier().size(), 2);
     EXPECT_EQ(nombre(u"select count(*) from equipes where concours = %1"_qs.arg(concours)), 14);
     EXPECT_EQ(numero(), u"0003"_qs);
     EXPECT_EQ(liste(J, u"Equipe"_qs)->count(), 2);
     EXPECT_EQ(texte(J, u"NomJ_0"_qs) + texte(J, u"Société"_qs), QString());
+}
+
+TEST_F(Joueurs, TabWalksTheWholeEntryBeforeTheNumber)
+{
+    club(u"DUP"_qs);
+    ouvreJoueurs();
+    const std::pair<QString, QString> suite[] = {{u" dup "_qs, u"LicenceJ_0"_qs}, {u" 831 "_qs, u"NomJ_0"_qs},
+                                                 {u"FABRE"_qs, u"PrénomJ_0"_qs},  {u"Rémi"_qs, u"ne"_qs},
+                                                 {u"5/3/48"_qs, u"Masculin"_qs},  {{}, u"Okc"_qs}};
+    for (const auto &[saisie, suivant] : suite) {
+        tape(saisie);
+        touche(Qt::Key_Tab);
+        EXPECT_EQ(focus(), suivant);
+    }
+    entre();
+    EXPECT_EQ(fichier(), QStringList{u"1|0|FABRE|Rémi|831|dup|1948-03-05|M"_qs});
+    for (const QString &suivant : {u"LicenceJ_0"_qs, u"NomJ_0"_qs, u"PrénomJ_0"_qs, u"ne"_qs, u"Masculin"_qs, u"Okc"_qs,
+                                   u"Command1"_qs, u"Equipe"_qs, u"Société"_qs}) {
+        touche(Qt::Key_Tab);
+        EXPECT_EQ(focus(), suivant);
+    }
 }
 
 TEST_F(Joueurs, ALicenceIsBorneOnce)

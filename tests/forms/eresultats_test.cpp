@@ -87,6 +87,19 @@ TEST_F(SaisieResultats, TreizePartoutNEnregistreJamais)
     EXPECT_FALSE(matchs()[0].score1.has_value());
 }
 
+TEST_F(SaisieResultats, CeQuiEstCompareEstCeQuiEstEcrit)
+{
+    appelle(0);
+    prog.tape(u"12.9\n"_qs);
+    EXPECT_EQ(prog.focus(), u"Score2"_qs) << "stored, it would be 13";
+    prog.tape(u"12.4\n"_qs);
+    attendEnregistre(0, 13, 12);
+    appelle(1);
+    prog.tape(u"13\n12.6\n"_qs);
+    EXPECT_EQ(prog.focus(), u"Score1"_qs);
+    EXPECT_FALSE(matchs()[1].score1.has_value());
+}
+
 TEST_F(SaisieResultats, MotsEtPartiesPerdues)
 {
     appelle(0);
@@ -154,9 +167,9 @@ TEST_F(SaisieResultats, UnTourPasseNeSEnregistrePlus)
     joueEtTire();
     const std::vector<MatchEssai> tour1 = matchs(1);
     const MatchEssai &ancien = tour1[0];
-    execute(u"delete from scores where tour = 2 and (equipe_1 in (%1, %2) or equipe_2 in (%1, %2))"_qs
-                .arg(ancien.equipe1)
-                .arg(ancien.equipe2));
+    execute(
+        u"delete from scores where tour = 2 and (equipe_1 in (%1, %2) or equipe_2 in (%1, %2))"_qs.arg(ancien.equipe1)
+            .arg(ancien.equipe2));
     prog.tape(u"%1\n"_qs.arg(ancien.equipe1));
     EXPECT_EQ(champs(), u"%1 %2 13 6"_qs.arg(ancien.equipe1).arg(ancien.equipe2));
     prog.tape(u"4\n"_qs);

@@ -1,10 +1,13 @@
 #include "palmares_essai.h"
 
-#include "platform/destinations.h"
+#include "papier/destinations.h"
 #include "printing/imprime_detail.h"
 
+#include <QFile>
+#include <QPageSize>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QtPrintSupport/QPrinter>
 
 namespace {
 
@@ -146,6 +149,26 @@ TEST_F(FeuillesPalmares, ASelectionPrintsItsRowsWhicheverWayItWasMade)
     }
 }
 
+TEST_F(FeuillesPalmares, LongTextsOfTheHeadAndTheListStayApart)
+{
+    ouvre(5, tours(5, 1));
+    partage().LieuConcours = lieuLong;
+    partage().CategorieConcours = categorieLongue;
+    abime(u"update equipes set equipe = equipe + 9000, nom = nom || nom || nom || nom || nom || nom, "
+          "societe = 'Les Amis réunis du Cochonnet et de la Boule ferrée de Saint-Raphaël' || societe"_qs);
+    ASSERT_TRUE(ImprimeDetail({partage(), formulaires(), boites}));
+    std::vector<Pages> feuilles = std::exchange(documents, {});
+    for (const bool detail : {false, true}) {
+        choisit(1, 3);
+        feuilles.push_back(imprime(detail, false));
+    }
+    for (const Pages &pages : feuilles) {
+        ASSERT_EQ(pages.size(), 1u);
+        VerifiePlaces(pages[0], 11906 - 480, 16838 - 480 - 1500);
+        EXPECT_TRUE(texteDe(pages[0]).contains(lieuLong + u"|Doublettes|"_qs + categorieLongue));
+    }
+}
+
 TEST_F(FeuillesPalmares, ALongSentenceGetsSmallerLettersBeforeItRunsIntoTheScore)
 {
     ouvre(4, {{1, 1, 2, 13, -3}, {1, 3, 4, 13, 5}});
@@ -186,10 +209,9 @@ TEST_F(FeuillesPalmares, TheListOfTeamsTakesAsManyPlayersAsATeamHas)
         y = dessin.y1;
     }
     const QStringList attendues = {
-        u"1|- NOM1 Paul|L10|Club connu"_qs,     u"- NOM1 Paul|L11|."_qs,
-        u"2|- NOM2 Paul|L20|Club 2"_qs,         u"-  Paul|L30|Club 3"_qs, // borrowed from the team behind
-        u"3|-  Paul|L31|Club 3"_qs,             u"- NOM4 Paul|L40|Club 4"_qs,
-        u"4|- NOM4 Paul|L41|Club 4"_qs,
+        u"1|- NOM1 Paul|L10|Club connu"_qs, u"- NOM1 Paul|L11|."_qs,      u"2|- NOM2 Paul|L20|Club 2"_qs,
+        u"-  Paul|L30|Club 3"_qs, // borrowed from the team behind
+        u"3|-  Paul|L31|Club 3"_qs,         u"- NOM4 Paul|L40|Club 4"_qs, u"4|- NOM4 Paul|L41|Club 4"_qs,
     };
     EXPECT_EQ(lignes, attendues) << lignes.join(u'\n').toStdString();
 }
@@ -200,6 +222,34 @@ QString sortie(const QString &programme, const QStringList &arguments)
     lecteur.start(programme, arguments);
     EXPECT_TRUE(lecteur.waitForFinished()) << programme.toStdString() << " cannot be run";
     return QString::fromUtf8(lecteur.readAllStandardOutput());
+}
+
+TEST_F(FeuillesPalmares, OnlyThePagesAskedForAreSent)
+{
+    ouvre(37, tours(37, 5));
+    const QString fichier = dossier() + u"/pages.pdf"_qs;
+    for (const auto &[premiere, derniere, attendues] :
+         {std::tuple(2, 3, u"Page 2|Page 3"_qs), std::tuple(3, 99, u"Page 3"_qs), std::tuple(50, 60, QString())}) {
+        QFile::remove(fichier);
+        boites.imprimante = [&, premiere, derniere] {
+            auto imprimante = std::make_unique<QPrinter>();
+            imprimante->setOutputFormat(QPrinter::PdfFormat);
+            imprimante->setOutputFileName(fichier);
+            imprimante->setPageSize(QPageSize(QPageSize::A4));
+            imprimante->setPrintRange(QPrinter::PageRange);
+            imprimante->setFromTo(premiere, derniere);
+            return std::make_unique<DestinationImprimante>(std::move(imprimante));
+        };
+        choisit(1, grille().Rows() - 1);
+        imprime(false, false);
+        QStringList pages;
+        static const QRegularExpression numero(u"Page \\d+"_qs);
+        const QString texte =
+            QFile::exists(fichier) ? sortie(u"pdftotext"_qs, {u"-layout"_qs, fichier, u"-"_qs}) : QString();
+        for (auto trouve = numero.globalMatch(texte); trouve.hasNext();)
+            pages += trouve.next().captured();
+        EXPECT_EQ(pages.join(u'|'), attendues);
+    }
 }
 
 TEST_F(FeuillesPalmares, AnotherReaderFindsTheTextsOfThePdf)

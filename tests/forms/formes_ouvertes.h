@@ -1,11 +1,12 @@
 #pragma once
 
-#include "app/langue.h"
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
+#include "partage/langue.h"
 #include "printing/resusoc.h"
 #include "results/detail_resultats.h"
+#include "results/etat_resultats.h"
 
 #include <gtest/gtest.h>
 
@@ -18,8 +19,8 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(prog.demarre());
-        const qint32 concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs},
-                                                                       {4, u"D"_qs}}});
+        const qint32 concours =
+            poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs}, {4, u"D"_qs}}});
         poseRencontres(prog.base(), concours,
                        {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 7},
                         {.tour = 1, .equipe1 = 3, .equipe2 = 4}});
@@ -48,18 +49,18 @@ protected:
             return prog.torvik();
         prog.formulaires().DechargeTout();
         const QStringList surResultats{u"manqres"_qs, u"valresu"_qs, u"Groupes"_qs, u"I_tirage"_qs,
-                                           u"Détail_résultats"_qs};
+                                       u"Détail_résultats"_qs};
         if (surResultats.contains(nom))
-            prog.formulaires().Montre(u"EResultats"_qs);
-        prog.partage().AttendusAJour = false;
+            prog.formulaires().Montre(NomForme(u"EResultats"));
+        prog.formulaires().etat<EtatResultats>().AttendusAJour = false;
         if (nom == u"Groupes")
-            prog.formulaires().Montre(u"manqres"_qs);
-        Formulaire *forme = prog.formulaires().Charge(nom);
+            prog.formulaires().Montre(NomForme(u"manqres"));
+        Formulaire *forme = prog.formulaires().Charge(NomForme(nom));
         if (auto *feuilles = qobject_cast<Resusoc *>(forme))
             feuilles->propose(1, u"1 (Aix)"_qs, u"2 (Aix)"_qs);
         if (auto *detail = qobject_cast<DetailResultats *>(forme))
             detail->affiche(1);
-        prog.formulaires().Montre(nom);
+        prog.formulaires().Montre(NomForme(nom));
         QApplication::processEvents();
         return prog.formulaires().forme(nom);
     }

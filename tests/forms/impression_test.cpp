@@ -17,19 +17,34 @@ protected:
         for (int equipe = 1; equipe <= equipes; ++equipe) {
             for (int doublon = 0; doublon < 2; ++doublon)
                 execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) values "
-                        "(1, %1, %2, 'NOM%1', 'P%2', 'L%1%2', 'Club %1')"_qs.arg(equipe).arg(doublon));
+                        "(1, %1, %2, 'NOM%1', 'P%2', 'L%1%2', 'Club %1')"_qs.arg(equipe)
+                            .arg(doublon));
         }
         for (int tour = 1; tour <= tours; ++tour) {
             for (int equipe = 1; equipe <= equipes; equipe += 2) {
                 const bool exempt = equipe == equipes;
                 execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) values "
-                        "(1, 1, %1, %2, %3, 13, %4)"_qs.arg(tour).arg(equipe).arg(exempt ? 0 : equipe + 1).arg(equipe % 13));
+                        "(1, 1, %1, %2, %3, 13, %4)"_qs.arg(tour)
+                            .arg(equipe)
+                            .arg(exempt ? 0 : equipe + 1)
+                            .arg(equipe % 13));
             }
         }
         execute(u"update concours set tourpri = %1"_qs.arg(tours));
         boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
         ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);
         clic(u"EResultats"_qs, u"imprimer"_qs);
+    }
+
+    /// The draw of the current round, or the ranking.
+    Pages imprime(bool classement, bool detail = false)
+    {
+        clic(D, classement ? u"Option3"_qs : u"Option1"_qs);
+        if (detail)
+            clic(D, u"Label2"_qs);
+        documents.clear();
+        clic(D, u"Imprime"_qs);
+        return documents.size() == 1 ? documents.front() : Pages();
     }
 
     std::vector<Pages> documents;
@@ -56,9 +71,9 @@ TEST_F(Impression, EachRoundAskedForIsADocumentOfItsOwn)
     prepare(5, 3);
     clic(D, u"Option1"_qs);
     const std::pair<QString, QString> cas[] = {
-        {u"2"_qs, u"2"_qs},       {u"1-2"_qs, u"1 2"_qs}, {u"*"_qs, u"1 2 3"_qs}, {u"2-*"_qs, u"2 3"_qs},
-        {u"2-9"_qs, u"2 3"_qs},   {u"9"_qs, u""_qs},      {u"0"_qs, u""_qs},      {u"abc"_qs, u""_qs},
-        {u"3-1"_qs, u""_qs},      {u"1x-2y"_qs, u"1 2"_qs},
+        {u"2"_qs, u"2"_qs},     {u"1-2"_qs, u"1 2"_qs},   {u"*"_qs, u"1 2 3"_qs}, {u"2-*"_qs, u"2 3"_qs},
+        {u"2-9"_qs, u"2 3"_qs}, {u"9"_qs, u""_qs},        {u"0"_qs, u""_qs},      {u"abc"_qs, u""_qs},
+        {u"3-1"_qs, u""_qs},    {u"1x-2y"_qs, u"1 2"_qs},
     };
     for (const auto &[saisie, attendus] : cas) {
         documents.clear();
@@ -76,13 +91,27 @@ TEST_F(Impression, EachRoundAskedForIsADocumentOfItsOwn)
     }
 }
 
+TEST_F(Impression, EnterPrintsTheRoundsAndEscapeCloses)
+{
+    prepare(4, 2);
+    clic(D, u"Option1"_qs);
+    remplit(D, u"Tour"_qs, u"1"_qs);
+    entre();
+    ASSERT_EQ(documents.size(), 1u);
+    EXPECT_NE(trouve(documents[0].front(), u"Tour N° 1"_qs), nullptr);
+    for (const QString &controle : {u"Tour"_qs, u"D_tail"_qs}) {
+        clic(u"EResultats"_qs, u"imprimer"_qs);
+        clic(D, u"Option1"_qs);
+        this->controle(D, controle)->setFocus();
+        touche(Qt::Key_Escape);
+        EXPECT_EQ(forme(D), nullptr) << controle.toStdString();
+    }
+}
+
 TEST_F(Impression, ADrawSheetHoldsEveryMatchAboveItsFooter)
 {
     prepare(37, 1);
-    clic(D, u"Option1"_qs);
-    clic(D, u"Imprime"_qs);
-    ASSERT_EQ(documents.size(), 1u);
-    const Pages &pages = documents.front();
+    const Pages pages = imprime(false);
     ASSERT_EQ(pages.size(), 2u);
     EXPECT_TRUE(texteDe(pages[0]).startsWith(
         u"03/05/2026|Draguignan|Doublettes|Seniors|Tour N° 1|Terrain|38 Equipes|1|(Club 1)|2|(Club 2)|3|"_qs))
@@ -103,30 +132,92 @@ TEST_F(Impression, TheRankingLeavesThePlaceOfATieEmpty)
 {
     prepare(4, 1);
     execute(u"update scores set score_2 = 3"_qs);
-    clic(D, u"Option3"_qs);
-    clic(D, u"Label2"_qs);
-    clic(D, u"Imprime"_qs);
-    ASSERT_EQ(documents.size(), 1u);
-    const QString texte = texteDe(documents.front().front());
-    EXPECT_TRUE(texte.contains(u"Clt|Equipe|J|G|P|Pp|Pc|Ga|1|-|1|(Club 1)|1|1|0|13|3|10|NOM1 P0 (L10)|NOM1 P1 (L11)|-|3|"
-                               "(Club 3)|1|1|0|13|3|10|"_qs))
+    const Pages pages = imprime(true, true);
+    ASSERT_FALSE(pages.empty());
+    const QString texte = texteDe(pages.front());
+    EXPECT_TRUE(
+        texte.contains(u"Clt|Equipe|J|G|P|Pp|Pc|Ga|1|-|1|(Club 1)|1|1|0|13|3|10|NOM1 P0 (L10)|NOM1 P1 (L11)|-|3|"
+                       "(Club 3)|1|1|0|13|3|10|"_qs))
         << texte.toStdString();
     EXPECT_TRUE(texte.contains(u"|3|-|2|(Club 2)|1|0|1|3|13|-10|"_qs)) << texte.toStdString();
+}
+
+TEST_F(Impression, LongTextsGetSmallerBeforeTheyMeetOthers)
+{
+    prepare(120, 1);
+    // Teams of one, three and four digits, ties among them.
+    abime(u"update equipes set societe = 'AMICALE BOULISTE DRAGUIGNAN', equipe = equipe + 9000 * (equipe > 60)"_qs);
+    abime(u"update scores set score_2 = 3 where equipe_1 > 9"_qs);
+    abime(u"update scores set equipe_1 = equipe_1 + 9000, equipe_2 = equipe_2 + 9000 where equipe_1 > 60"_qs);
+    abime(u"update equipes set societe = 'Les Amis réunis du Cochonnet et de la Boule de Saint-Raphaël' "
+          "where equipe = 9120"_qs);
+    partage().CategorieConcours = categorieLongue;
+    for (const QString &lieu : {u"Boulodrome Jean Moulin, Saint-Raphaël"_qs, lieuLong}) {
+        partage().LieuConcours = lieu;
+        for (const PageDessinee &page : imprime(false)) {
+            VerifiePlaces(page, 11906 - 480, 16838 - 480 - 800);
+            const Dessin *terrain = trouve(page, u"Terrain"_qs);
+            ASSERT_NE(terrain, nullptr);
+            EXPECT_EQ(terrain->x1, 11906 - 1800);
+            for (const Dessin &dessin : page.dessins)
+                EXPECT_TRUE(dessin.genre == Dessin::Trait || dessin.y1 <= terrain->y1 || dessin.x2 < terrain->x1)
+                    << dessin.texte.toStdString();
+            ASSERT_NE(trouve(page, lieu), nullptr);
+            EXPECT_LT(trouve(page, lieu)->taille, 18);
+        }
+        int tirets = 0;
+        for (const PageDessinee &page : imprime(true)) {
+            VerifiePlaces(page, 11906 - 480, 16838 - 480 - 800);
+            for (std::size_t i = 0; i + 1 < page.dessins.size(); ++i) {
+                if (page.dessins[i].texte.trimmed() != u"-")
+                    continue;
+                ++tirets;
+                EXPECT_EQ(page.dessins[i].x1, trouve(page, u"-"_qs)->x1) << "the dashes stand in line";
+                EXPECT_EQ(page.dessins[i + 1].x1, 900);
+                EXPECT_GE(page.dessins[i + 1].x1, page.dessins[i].x2 + 20);
+            }
+        }
+        EXPECT_EQ(tirets, 120);
+    }
+}
+
+TEST_F(Impression, PlayersStandUnderTheirOwnTeam)
+{
+    prepare(30, 1);
+    int equipes = 0;
+    for (const PageDessinee &page : imprime(true, true)) {
+        VerifiePlaces(page, 11906 - 480, 16838 - 480 - 800);
+        const Dessin *rang = nullptr; // last stroke of a team's row
+        const Dessin *membre = nullptr;
+        for (const Dessin &dessin : page.dessins) {
+            if (dessin.texte.trimmed() == u"-") {
+                ++equipes;
+                EXPECT_TRUE(membre == nullptr || dessin.y1 == membre->y2 + 350);
+                membre = nullptr;
+            } else if (dessin.texte.startsWith(u"NOM")) {
+                ASSERT_NE(rang, nullptr) << "the page starts with players whose team stands on the one before";
+                EXPECT_EQ(dessin.y1, membre == nullptr ? rang->y2 + 350 : membre->y2);
+                membre = &dessin;
+            } else if (dessin.x1 == 9500 && dessin.taille == 14 && dessin.texte.trimmed() != u"Ga") {
+                rang = &dessin;
+            }
+        }
+    }
+    EXPECT_EQ(equipes, 30);
 }
 
 TEST_F(Impression, MembersLookTheSameBehindAPageBreak)
 {
     prepare(120, 1);
-    // Teams of one, two and three: some page ends between two members.
+    // Teams of one, two and three, and one that fills more than a page.
     abime(u"delete from equipes where equipe % 5 = 0 and doublon = 1"_qs);
     abime(u"insert into equipes (concours, equipe, doublon, nom) select 1, equipe, 2, 'NOM' from equipes where "
-            "equipe % 3 = 1 and doublon = 0"_qs);
-    clic(D, u"Option3"_qs);
-    clic(D, u"Label2"_qs);
-    clic(D, u"Imprime"_qs);
-    ASSERT_EQ(documents.size(), 1u);
+          "equipe % 3 = 1 and doublon = 0"_qs);
+    abime(
+        u"insert into equipes (concours, equipe, doublon, nom) select 1, 8, rowid + 10, 'NOM' from equipes limit 60"_qs);
     int membres = 0;
-    for (const PageDessinee &page : documents.front()) {
+    for (const PageDessinee &page : imprime(true, true)) {
+        EXPECT_TRUE(texteDe(page).contains(u"|NOM")) << "a page without a player";
         for (const Dessin &dessin : page.dessins) {
             if (!dessin.texte.startsWith(u"NOM"))
                 continue;
@@ -134,7 +225,7 @@ TEST_F(Impression, MembersLookTheSameBehindAPageBreak)
             EXPECT_TRUE(dessin.taille == 12 && !dessin.gras && dessin.x1 == 1450) << dessin.texte.toStdString();
         }
     }
-    EXPECT_EQ(membres, 240 - 24 + 40);
+    EXPECT_EQ(membres, 240 - 24 + 40 + 60);
 }
 
 } // namespace

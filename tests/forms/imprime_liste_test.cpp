@@ -1,6 +1,6 @@
 #include "commun/papier_garde.h"
+#include "grille/flexgrid.h"
 #include "inscription_essai.h"
-#include "platform/flexgrid.h"
 
 #include <QTest>
 
@@ -59,8 +59,9 @@ TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
     grille->setRowSel(2);
     clic(u"listjo"_qs, u"imprimer"_qs);
     ASSERT_EQ(documents.size(), 2u);
-    EXPECT_TRUE(texteDe(documents[1].front()).contains(u"|Sexe|2|P01 X|L1|DUP|31/01/1960|F|3|P02 X|L2|DUP|31/01/1960|F|"
-                                                      "4|P03 X|L3|DUP|31/01/1960|F|www."_qs))
+    EXPECT_TRUE(texteDe(documents[1].front())
+                    .contains(u"|Sexe|2|P01 X|L1|DUP|31/01/1960|F|3|P02 X|L2|DUP|31/01/1960|F|"
+                              "4|P03 X|L3|DUP|31/01/1960|F|www."_qs))
         << texteDe(documents[1].front()).toStdString();
     boites.imprimante = nullptr;
     boites.attend(u"Impression annulée"_qs);
@@ -79,8 +80,9 @@ TEST_F(FeuillesDeListe, TheRegistrationsUnderTheHeadOfTheirCompetition)
     ASSERT_EQ(documents.size(), 1u);
     const Pages &pages = documents.front();
     ASSERT_EQ(pages.size(), 2u);
-    const QString tete = u"03/05/2026|L'Étoile d'Aÿ|Triplettes|Seniors|Liste des inscriptions|Equipe|Nom-Prénom|Licence|"
-                         "Société|"_qs;
+    const QString tete =
+        u"03/05/2026|L'Étoile d'Aÿ|Triplettes|Seniors|Liste des inscriptions|Equipe|Nom-Prénom|Licence|"
+        "Société|"_qs;
     EXPECT_TRUE(texteDe(pages[0]).startsWith(tete + u"1|NOM1 P0|L1-0|DUP|NOM1 P1|L1-1|DUP|2|"_qs))
         << texteDe(pages[0]).toStdString();
     EXPECT_TRUE(texteDe(pages[1]).startsWith(tete)) << texteDe(pages[1]).toStdString();
@@ -89,6 +91,13 @@ TEST_F(FeuillesDeListe, TheRegistrationsUnderTheHeadOfTheirCompetition)
     EXPECT_EQ(trouve(pages[0], u"DUP"_qs)->x1, 6000);
     for (const PageDessinee &page : pages)
         VerifiePlaces(page, 11906 - 480, pied);
+
+    partage().LieuConcours = lieuLong;
+    partage().CategorieConcours = categorieLongue;
+    clic(u"listeq"_qs, u"imprimer_selection"_qs);
+    ASSERT_EQ(documents.size(), 2u);
+    VerifiePlaces(documents[1].front(), 11906 - 480, pied);
+    EXPECT_TRUE(texteDe(documents[1].front()).contains(lieuLong + u"|Triplettes|"_qs + categorieLongue));
 }
 
 } // namespace

@@ -51,14 +51,19 @@ protected:
                 joueur(QStringLiteral("L%1-%2").arg(equipe).arg(place), QStringLiteral("NOM%1").arg(equipe),
                        QStringLiteral("P%1").arg(place), QStringLiteral("DUP"), concours, equipe, place);
             execute(QStringLiteral("insert into evolution (concours, equipe, principal) values (%1, %2, 1)")
-                        .arg(concours).arg(equipe));
+                        .arg(concours)
+                        .arg(equipe));
         }
     }
 
     void rencontre(qint32 concours, int numero, int equipe1, int equipe2)
     {
         execute(QStringLiteral("insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2) "
-                               "values (%1, 1, 1, %2, %3, %4)").arg(concours).arg(numero).arg(equipe1).arg(equipe2));
+                               "values (%1, 1, 1, %2, %3, %4)")
+                    .arg(concours)
+                    .arg(numero)
+                    .arg(equipe1)
+                    .arg(equipe2));
     }
 
     static QString membre(const char16_t *nom, int place)
@@ -91,7 +96,9 @@ protected:
     QStringList equipe(qint32 concours, int numero)
     {
         return lignes(QStringLiteral("select doublon, nom, prenom, licence, societe, tableau, engage from equipes "
-                                     "where concours = %1 and equipe = %2 order by doublon").arg(concours).arg(numero));
+                                     "where concours = %1 and equipe = %2 order by doublon")
+                          .arg(concours)
+                          .arg(numero));
     }
     QStringList numeros(qint32 concours)
     {

@@ -38,10 +38,7 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    QString actives()
-    {
-        return prog.valeur(u"select group_concat(numero) from traduc where actif"_qs).texte();
-    }
+    QString actives() { return prog.valeur(u"select group_concat(numero) from traduc where actif"_qs).texte(); }
 
     QString menuResultats() { return prog.torvik()->findChild<QAction *>(u"Mnu_resultats"_qs)->text(); }
 
@@ -97,6 +94,12 @@ TEST_F(ChoixLangue, LaLangueActivePerdSaMarque)
     EXPECT_EQ(prog.partage().LangueCourante, 1);
     EXPECT_EQ(prog.partage().Traducteur, u""_qs);
     EXPECT_EQ(menuResultats(), u"Résultats"_qs);
+    prog.formulaires().Decharge(NomForme(u"langues"));
+    ouvre();
+    EXPECT_EQ(combo->currentText(), QString()) << "without an active language the field is empty";
+    EXPECT_EQ(combo->count(), 6);
+    choisit(u"Deu"_qs);
+    EXPECT_EQ(actives(), u"5"_qs);
 }
 
 TEST_F(ChoixLangue, UneLangueRetireeEntreTempsNeChangeRien)

@@ -1,5 +1,6 @@
+#include "grille/flexgrid.h"
 #include "inscription_essai.h"
-#include "platform/flexgrid.h"
+#include "noms/passation.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -90,14 +91,16 @@ TEST_F(Listes, TheTeamsAreShownAndWrittenToTheirFile)
     joueur(u"U1"_qs, u"SEUL"_qs, u"Max"_qs, u"DUP"_qs, concours, 10, 0);
     active(E);
     active(Q);
-    EXPECT_EQ(rangees(Q), QStringList({u"2|O'Brien Éric|A1|L'Étoile d'Aÿ"_qs, u"|%1 Zoé|X'9|."_qs.arg(nom60),
-                                       u"10|SEUL Max|U1|DUP"_qs}));
+    EXPECT_EQ(rangees(Q),
+              QStringList(
+                  {u"2|O'Brien Éric|A1|L'Étoile d'Aÿ"_qs, u"|%1 Zoé|X'9|."_qs.arg(nom60), u"10|SEUL Max|U1|DUP"_qs}));
     const auto membre = [](const QString &joueur, const QString &licence, const QString &equipe, const QString &club) {
         return QByteArray(50, ' ') + colonnes(joueur, 40) + colonnes(licence, 15) + "\r\n" + colonnes(equipe, 20)
             + colonnes(club, 30) + "\r\n";
     };
-    EXPECT_EQ(csv(), entete + membre(u"O'Brien-Éric"_qs, u"A1"_qs, u"2"_qs, u"L'Étoile d'Aÿ"_qs)
-                         + membre(nom60, u"X'9"_qs, u"2"_qs, {}) + membre(u"SEUL-Max"_qs, u"U1"_qs, u"10"_qs, {}));
+    EXPECT_EQ(csv(),
+              entete + membre(u"O'Brien-Éric"_qs, u"A1"_qs, u"2"_qs, u"L'Étoile d'Aÿ"_qs)
+                  + membre(nom60, u"X'9"_qs, u"2"_qs, {}) + membre(u"SEUL-Max"_qs, u"U1"_qs, u"10"_qs, {}));
 
     // The file cannot be written: told, and the list stands all the same.
     QFile::remove(QDir(dossier()).filePath(u"listEquipes.csv"_qs));
@@ -159,8 +162,9 @@ TEST_F(Listes, APickedPlayerIsTypedIntoTheTeam)
     ouvre();
     ouvreListe(u"Command2"_qs, P);
     EXPECT_EQ(forme(P)->windowTitle(), u"Liste des joueurs Pré-enregistrés"_qs);
-    EXPECT_EQ(rangees(P), QStringList({u"1|MEYNIER Loïc|831|DUP||"_qs, u"2|O'Brien Éric|832|L'Étoile d'Aÿ||"_qs,
-                                       u"3|ZED Al|833|DUP||"_qs}));
+    EXPECT_EQ(rangees(P),
+              QStringList({u"1|MEYNIER Loïc|831|DUP||"_qs, u"2|O'Brien Éric|832|L'Étoile d'Aÿ||"_qs,
+                           u"3|ZED Al|833|DUP||"_qs}));
     clicLigne(P, 2, 1);
     EXPECT_TRUE(focusVient(u"NomJ_0"_qs));
     EXPECT_EQ(texte(E, u"LicenceJ_0"_qs) + texte(E, u"NomJ_0"_qs), u"832O'Brien"_qs);
@@ -207,7 +211,7 @@ TEST_F(Listes, AClubNarrowsThePlayersAndItsApostropheHarmsNothing)
     active(P);
     EXPECT_EQ(grille(P)->Rows(), 3) << "the button shows all of them again";
     clic(P, u"Rafraichir"_qs);
-    EXPECT_TRUE(partage().SelectionEnCours);
+    EXPECT_TRUE(formulaires().etat<Passation>().SelectionEnCours);
 }
 
 TEST_F(Listes, APickedPlayerIsReadIntoTheFileOfPlayers)
@@ -221,8 +225,8 @@ TEST_F(Listes, APickedPlayerIsReadIntoTheFileOfPlayers)
     active(u"Ejoueurs"_qs);
     clic(u"Ejoueurs"_qs, u"Command1"_qs);
     active(P);
-    EXPECT_EQ(rangees(P), QStringList({u"12345|NOM12345 P|L12345|DUP|31/01/1960|F"_qs,
-                                       u"7|NOM7 P|L7|DUP|31/01/1960|F"_qs}));
+    EXPECT_EQ(rangees(P),
+              QStringList({u"12345|NOM12345 P|L12345|DUP|31/01/1960|F"_qs, u"7|NOM7 P|L7|DUP|31/01/1960|F"_qs}));
     clicLigne(P, 2);
     EXPECT_TRUE(focusVient(u"LicenceJ_0"_qs)) << focus().toStdString();
     EXPECT_EQ(texte(u"Ejoueurs"_qs, u"Equipe"_qs) + texte(u"Ejoueurs"_qs, u"NomJ_0"_qs), u"0007NOM7"_qs);
@@ -237,8 +241,8 @@ TEST_F(Listes, APickedPlayerIsReadIntoTheFileOfPlayers)
 
 TEST_F(Listes, ARightClickSortsTheOtherWayEachTime)
 {
-    for (const auto &[licence, nom] : {std::pair(u"9"_qs, u"émile"_qs), std::pair(u"100"_qs, u"Fabre"_qs),
-                                       std::pair(u"20"_qs, u"DUMAS"_qs)})
+    for (const auto &[licence, nom] :
+         {std::pair(u"9"_qs, u"émile"_qs), std::pair(u"100"_qs, u"Fabre"_qs), std::pair(u"20"_qs, u"DUMAS"_qs)})
         joueur(licence, nom, u"P"_qs, u"DUP"_qs);
     ouvre();
     ouvreListe(u"Command2"_qs, P);
@@ -250,7 +254,7 @@ TEST_F(Listes, ARightClickSortsTheOtherWayEachTime)
     EXPECT_EQ(colonne(P, 1), parNom);
     clicLigne(P, 1, 2, Qt::RightButton); // 20, 9, 100: from the first to the last it goes up
     EXPECT_EQ(colonne(P, 2), QStringList({u"100"_qs, u"20"_qs, u"9"_qs}));
-    EXPECT_FALSE(partage().SelectionEnCours);
+    EXPECT_FALSE(formulaires().etat<Passation>().SelectionEnCours);
     active(E);
     active(P);
     EXPECT_EQ(colonne(P, 2), QStringList({u"100"_qs, u"20"_qs, u"9"_qs})) << "filled anew as the operator left it";
@@ -258,6 +262,28 @@ TEST_F(Listes, ARightClickSortsTheOtherWayEachTime)
     EXPECT_EQ(colonne(P, 1), parNom);
     for (int i = 1; i <= 3; ++i)
         EXPECT_EQ(texte(E, membre(u"LicenceJ", i)), QString()) << "a right click picks nobody";
+}
+
+TEST_F(Listes, AColumnWithBlanksTurnsRoundToo)
+{
+    equipesStockees(ouvre(), 12);
+    ouvreListe(u"Command1"_qs, Q);
+    const auto sansBlancs = [&] {
+        QStringList numeros = colonne(Q, 0);
+        const qsizetype blancs = numeros.removeAll(QString());
+        EXPECT_EQ(blancs, 12);
+        return numeros.join(u' ');
+    };
+    const QString croissants = u"1 2 3 4 5 6 7 8 9 10 11 12"_qs;
+    const QString decroissants = u"12 11 10 9 8 7 6 5 4 3 2 1"_qs;
+    clicLigne(Q, 1, 0, Qt::RightButton); // from 1 to a blank it goes down
+    EXPECT_EQ(sansBlancs(), croissants);
+    EXPECT_EQ(colonne(Q, 0).first(), QString()) << "a blank stands below all";
+    clicLigne(Q, 1, 0, Qt::RightButton);
+    EXPECT_EQ(sansBlancs(), decroissants);
+    EXPECT_EQ(colonne(Q, 0).first(), u"12"_qs);
+    clicLigne(Q, 1, 0, Qt::RightButton);
+    EXPECT_EQ(sansBlancs(), croissants);
 }
 
 TEST_F(Listes, AllCompetitionsStandInTheirList)

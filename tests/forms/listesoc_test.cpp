@@ -1,5 +1,6 @@
+#include "grille/flexgrid.h"
 #include "inscription_essai.h"
-#include "platform/flexgrid.h"
+#include "noms/passation.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -48,8 +49,8 @@ protected:
 TEST_F(Clubs, StandInOrderUnderTheirHeading)
 {
     avec({u"ETOILE"_qs, u"Écrin"_qs, u"DURAND"_qs, u"dumas"_qs, u"L'Oustau"_qs});
-    EXPECT_EQ(listes(), QStringList({u"*Panachée"_qs, u"dumas"_qs, u"DURAND"_qs, u"Écrin"_qs, u"ETOILE"_qs,
-                                     u"L'Oustau"_qs}));
+    EXPECT_EQ(listes(),
+              QStringList({u"*Panachée"_qs, u"dumas"_qs, u"DURAND"_qs, u"Écrin"_qs, u"ETOILE"_qs, u"L'Oustau"_qs}));
     EXPECT_EQ(grille()->TextMatrix(0, 0), partage().mes(31));
     EXPECT_EQ(forme(L)->windowTitle(), partage().mes(31));
 }
@@ -74,7 +75,7 @@ TEST_F(Clubs, AreFoundByTheirFirstLettersOrTheNextOneInOrder)
     EXPECT_EQ(choix(), u"|"_qs);
 }
 
-TEST_F(Clubs, AClubFoundFarDownComesToTheTop)
+TEST_F(Clubs, AClubFoundFarDownOrFarUpComesToTheTop)
 {
     QStringList noms;
     for (int i = 0; i < 300; ++i)
@@ -86,6 +87,7 @@ TEST_F(Clubs, AClubFoundFarDownComesToTheTop)
     cherche(u"club010"_qs);
     QTest::qWait(1);
     EXPECT_EQ(choix(), u"CLUB010|CLUB010"_qs);
+    EXPECT_EQ(grille()->TextMatrix(grille()->TopRow(), 0), u"CLUB010"_qs);
 }
 
 TEST_F(Clubs, KeysInTheGridGoOnWithTheSearch)
@@ -108,19 +110,19 @@ TEST_F(Clubs, AClickFillsTheFormThatAsked)
     avec({u"DUMAS"_qs, u"L'Oustau"_qs});
     clicClub(3);
     EXPECT_EQ(texte(E, u"Société"_qs), u"L'Oustau"_qs);
-    EXPECT_EQ(partage().ClubFiltre, u"L'Oustau"_qs);
+    EXPECT_EQ(formulaires().etat<Passation>().ClubFiltre, u"L'Oustau"_qs);
     EXPECT_EQ(choix(), u"L'Oustau|L'Oustau"_qs);
 
     clicClub(2, Qt::LeftButton, Qt::ControlModifier);
     EXPECT_EQ(texte(E, u"Société"_qs), u"L'Oustau"_qs);
-    EXPECT_EQ(partage().ClubFiltre, u"DUMAS"_qs);
+    EXPECT_EQ(formulaires().etat<Passation>().ClubFiltre, u"DUMAS"_qs);
     clicClub(1, Qt::RightButton);
-    EXPECT_EQ(partage().ClubFiltre, u"DUMAS"_qs);
+    EXPECT_EQ(formulaires().etat<Passation>().ClubFiltre, u"DUMAS"_qs);
     EXPECT_EQ(choix(), u"DUMAS|DUMAS"_qs);
     QTest::mouseClick(grille()->horizontalHeader()->viewport(), Qt::LeftButton);
     EXPECT_EQ(texte(E, u"Société"_qs), u"L'Oustau"_qs);
 
-    partage().FormeAppelante = u"Ejoueurs"_qs; // not open
+    formulaires().etat<Passation>().FormeAppelante = u"Ejoueurs"_qs; // not open
     clicClub(2);
     EXPECT_EQ(texte(E, u"Société"_qs), u"L'Oustau"_qs);
 }

@@ -3,8 +3,8 @@
 #include "commun/papier_garde.h"
 #include "commun/programme_essai.h"
 
-#include "platform/flexgrid.h"
-#include "platform/formulaires.h"
+#include "fenetres/formulaires.h"
+#include "grille/flexgrid.h"
 
 #include <QAbstractButton>
 #include <QTest>
@@ -40,12 +40,17 @@ protected:
         for (int equipe = 1; equipe <= equipes; ++equipe) {
             for (int doublon = 0; doublon < 2; ++doublon)
                 execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) values "
-                        "(1, %1, %2, '%3', 'Paul', 'L%1%2', 'Club %1')"_qs.arg(equipe).arg(doublon).arg(nomDe(equipe)));
+                        "(1, %1, %2, '%3', 'Paul', 'L%1%2', 'Club %1')"_qs.arg(equipe)
+                            .arg(doublon)
+                            .arg(nomDe(equipe)));
         }
         const auto sql = [](std::optional<int> score) { return score ? QString::number(*score) : u"Null"_qs; };
         for (const Match &m : matchs)
             execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) values "
-                    "(1, %1, %2, %3, %4, %5, %6)"_qs.arg(m.tableau).arg(m.tour).arg(m.equipe1).arg(m.equipe2)
+                    "(1, %1, %2, %3, %4, %5, %6)"_qs.arg(m.tableau)
+                        .arg(m.tour)
+                        .arg(m.equipe1)
+                        .arg(m.equipe2)
                         .arg(sql(m.score1), sql(m.score2)));
         boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
         ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);

@@ -73,10 +73,17 @@ protected:
 TEST_F(Palmares, EveryMatchIsASentenceWithItsWinnerFirst)
 {
     std::vector<Match> matchs = {
-        {1, 9, 0, 13, 7},   {1, 1, 2, 13, 4},  {1, 3, 4, 6, 13}, {1, 5, 6, -1, 13},
-        {1, 7, 8, 13, -2},  {2, 8, 0, 13, 7},  {2, 1, 3, 7, 7}, // a tie repeats the sentence before it
-        {2, 2, 4, 13, 12},  {2, 5, 7},
-        {3, 6, 1, 10, 10}, // a tie in the first row of a round has nothing to repeat
+        {1, 9, 0, 13, 7},
+        {1, 1, 2, 13, 4},
+        {1, 3, 4, 6, 13},
+        {1, 5, 6, -1, 13},
+        {1, 7, 8, 13, -2},
+        {2, 8, 0, 13, 7},
+        {2, 1, 3, 7, 7}, // a tie repeats the sentence before it
+        {2, 2, 4, 13, 12},
+        {2, 5, 7},
+        {3, 6, 1, 10, 10}, // a tie in the first row of a round has nothing to
+                           // repeat
         {3, 7, 3, 13, 0, 2}, // another bracket stands in the same list
     };
     for (int tour = 4; tour <= 15; ++tour)
@@ -103,7 +110,7 @@ TEST_F(Palmares, EveryMatchIsASentenceWithItsWinnerFirst)
     clicCellule(1, 1, Qt::RightButton);
     attendLignes(lignesPour(matchs, false));
     clicCellule(1, 1, Qt::RightButton, Qt::ShiftModifier);
-    formulaires().Decharge(P);
+    formulaires().Decharge(NomForme(P));
     clic(u"EResultats"_qs, u"hit"_qs);
     quatorze.back().score2 = matchs[matchs.size() - 2].score2;
     attendLignes(lignesPour(quatorze, false));
@@ -158,10 +165,51 @@ TEST_F(Palmares, ACompetitionWithoutAMatchSaysSoInsteadOfAGrid)
 TEST_F(Palmares, AMatchOfAMissingTeamLeavesAFormThatCanBeRead)
 {
     boites.attend(u"Erreur"_qs);
-    ouvre(3, {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 5}, {.tour = 1, .equipe1 = 3, .equipe2 = 9}});
+    ouvre(3,
+          {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 5},
+           {.tour = 1, .equipe1 = 3, .equipe2 = 9}});
     EXPECT_GT(forme(P)->width(), grille().width());
     EXPECT_TRUE(visible(P, u"Thonneur_1"_qs));
     EXPECT_GT(grille().Rows(), 2);
+}
+
+TEST_F(Palmares, TheListIsThatOfTheCompetitionAsItStands)
+{
+    ouvre(4, {{1, 1, 2, 13, 4}, {1, 3, 4}});
+    clicCellule(1, 1, Qt::RightButton);
+    clicCellule(1, 1, Qt::LeftButton, Qt::ControlModifier);
+    ASSERT_TRUE(formulaires().estVisible(R));
+    execute(u"update scores set score_1 = 5, score_2 = 13 where equipe_1 = 3"_qs);
+    const QPoint place(40, 60);
+    forme(P)->move(place);
+    clic(u"EResultats"_qs, u"hit"_qs);
+    EXPECT_FALSE(formulaires().estChargee(R)) << "the sheets of the old list are offered no more";
+    EXPECT_TRUE(formulaires().estVisible(P));
+    EXPECT_EQ(forme(P)->pos(), place);
+    attendLignes(lignesPour({{1, 1, 2, 13, 4}, {1, 3, 4, 5, 13}}, false));
+
+    // Another competition, without a match: its list has no row to print.
+    const qint32 autre = creeConcours({.lieu = u"Aix"_qs});
+    clicCellule(1, 1, Qt::LeftButton, Qt::ControlModifier);
+    ASSERT_TRUE(formulaires().estVisible(R));
+    auto *numero = champ(u"EResultats"_qs, u"listconcours"_qs);
+    const auto choisitConcours = [&](qint32 concours) {
+        active(u"EResultats"_qs);
+        numero->setFocus();
+        numero->setText(QString::number(concours));
+        touche(Qt::Key_Return);
+    };
+    choisitConcours(autre);
+    ASSERT_EQ(partage().ConcoursCourant, autre);
+    EXPECT_FALSE(formulaires().estChargee(R));
+    EXPECT_FALSE(visible(P, u"Thonneur_1"_qs));
+    EXPECT_TRUE(visible(P, u"aucune"_qs));
+    EXPECT_EQ(grille().Rows(), 1);
+    EXPECT_EQ(focus(), u"listconcours"_qs) << "the keyboard stays with the results";
+    choisitConcours(1);
+    ASSERT_EQ(partage().ConcoursCourant, 1);
+    EXPECT_FALSE(visible(P, u"aucune"_qs));
+    attendLignes(lignesPour({{1, 1, 2, 13, 4}, {1, 3, 4, 5, 13}}, false));
 }
 
 TEST_F(Palmares, NothingIsPrintedWithoutASelectionNorAPrinter)

@@ -1,14 +1,16 @@
 #include "commun/papier_garde.h"
 #include "commun/programme_essai.h"
 
-#include "app/concours_courant.h"
-#include "platform/flexgrid.h"
-#include "platform/formulaires.h"
+#include "fenetres/formulaires.h"
+#include "grille/flexgrid.h"
+#include "partage/concours_courant.h"
 #include "printing/imprime_equipe.h"
 #include "printing/resusoc.h"
 
 #include <QRadioButton>
 #include <QTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -34,7 +36,8 @@ protected:
     void membre(int equipe, int doublon, QString nom, const QString &prenom, QString club)
     {
         execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) "
-                "values (1, %1, %2, '%3', '%4', 'L%1%2', '%5')"_qs.arg(equipe).arg(doublon)
+                "values (1, %1, %2, '%3', '%4', 'L%1%2', '%5')"_qs.arg(equipe)
+                    .arg(doublon)
                     .arg(nom.replace(u'\'', u"''"_qs), prenom, club.replace(u'\'', u"''"_qs)));
     }
 
@@ -43,10 +46,10 @@ protected:
         grille.AddItem(tour + u'\t' + phrase + u'\t' + score);
     }
 
-    Pages imprime(const QString &texte, GenreFeuille genre)
+    Pages imprime(const QString &texte, GenreFeuille genre, bool avecNoms = true)
     {
         documents.clear();
-        ImprimeEquipe({partage(), formulaires(), boites}, grille, texte, genre);
+        ImprimeEquipe({partage(), formulaires(), boites}, grille, avecNoms, texte, genre);
         EXPECT_EQ(documents.size(), 1u);
         return documents.size() == 1 ? documents.front() : Pages(1);
     }
@@ -78,10 +81,17 @@ TEST_F(FeuilleEquipe, AClubHasItsTeamsAndTheMatchesOfEveryClubThatHoldsItsName)
     rangee(u"Tour 3"_qs, u" 12 (Aix)  Exempt"_qs, {});
     const Pages pages = imprime(u"Aix"_qs, GenreFeuille::Club);
     ASSERT_EQ(pages.size(), 1u);
-    const QStringList droits = {u"03/05/2026 Draguignan"_qs, u"Equipes de Aix"_qs,
-                                u"Tour 1"_qs, u" 12 (Aix)  bat   3 (Aix) "_qs, u"13:4"_qs,
-                                u"  9 (Var)  bat   4 (Aix-Nord) "_qs, u"13:6"_qs, u"Tour 2"_qs,
-                                u"Tour 3"_qs, u" 12 (Aix)  Exempt"_qs, adresse};
+    const QStringList droits = {u"03/05/2026 Draguignan"_qs,
+                                u"Equipes de Aix"_qs,
+                                u"Tour 1"_qs,
+                                u" 12 (Aix)  bat   3 (Aix) "_qs,
+                                u"13:4"_qs,
+                                u"  9 (Var)  bat   4 (Aix-Nord) "_qs,
+                                u"13:6"_qs,
+                                u"Tour 2"_qs,
+                                u"Tour 3"_qs,
+                                u" 12 (Aix)  Exempt"_qs,
+                                adresse};
     EXPECT_EQ(textes(pages[0], false), droits) << textes(pages[0], false).join(u'|').toStdString();
     const QStringList penches = {u"Club : Aix"_qs, u"3 -      CLÉMENT Éric L30"_qs, u"12 -      ARNAUD Luc L120"_qs,
                                  u"BLANC Zoé L121"_qs};
@@ -109,7 +119,7 @@ TEST_F(FeuilleEquipe, EveryStrokeStandsInItsPlace)
     EXPECT_TRUE(d[4].x1 == 300 && d[4].y1 == d[3].y1 + 130 && d[4].gras && d[4].taille == 14);
     EXPECT_TRUE(d[5].x1 == 350 && d[5].y1 == d[4].y2 && !d[5].gras && !d[5].italique);
     EXPECT_TRUE(d[6].x1 == largeurPapier - 2000 && d[6].y1 == d[5].y1 && d[6].texte == u"13:7"_qs);
-    EXPECT_TRUE(d[7].x1 == 350 && d[7].y1 == d[6].y2 + 60) << "a row that is passed over still takes its step";
+    EXPECT_TRUE(d[7].x1 == 350 && d[7].y1 == d[6].y2 + 30) << "a row that is passed over takes no step";
     EXPECT_TRUE(d[9].x1 == 200 && d[9].y1 == hauteurPapier - 1000 && d[9].taille == 10 && d[9].texte == adresse);
 }
 
@@ -122,9 +132,12 @@ TEST_F(FeuilleEquipe, ATeamIsFoundByItsNameNotItsNumber)
     membre(6, 0, u"SANS"_qs, {}, u"Aix"_qs);
     rangee(u"Tour 1"_qs, u"  3 DE LA TOUR A (L'Étoile d'Aÿ)  bat   4 O'BRIEN P (L'Étoile d'Aÿ) "_qs);
     const QStringList deux = {u"- DE LA TOUR Anne L30 L'Étoile d'Aÿ"_qs, u"- PETIT Léa L31 Aix"_qs};
-    const std::pair<QString, QStringList> cas[] = {
-        {u"3 DE LA TOUR A "_qs, deux}, {u"99 DE LA TOUR A "_qs, deux}, {u"6 SANS  "_qs, {u"- SANS  L60 Aix"_qs}},
-        {u"5 "_qs, {}},                {u"3 "_qs, {}},                 {u"4 O'BRIEN P "_qs, {}}};
+    const std::pair<QString, QStringList> cas[] = {{u"3 DE LA TOUR A "_qs, deux},
+                                                   {u"99 DE LA TOUR A "_qs, deux},
+                                                   {u"6 SANS  "_qs, {u"- SANS  L60 Aix"_qs}},
+                                                   {u"5 "_qs, {}},
+                                                   {u"3 "_qs, {}},
+                                                   {u"4 O'BRIEN P "_qs, {}}};
     for (const auto &[texte, membres] : cas) {
         const Pages pages = imprime(texte, GenreFeuille::Equipe);
         EXPECT_EQ(textes(pages[0], true), membres) << texte.toStdString();
@@ -135,6 +148,26 @@ TEST_F(FeuilleEquipe, ATeamIsFoundByItsNameNotItsNumber)
     EXPECT_EQ(textes(pages[0], true), QStringList(u"Club : L'Étoile d'Aÿ"_qs));
     EXPECT_NE(trouve(pages[0], u"Equipes de L'Étoile d'Aÿ"_qs), nullptr);
     EXPECT_NE(trouve(pages[0], u"13:7"_qs), nullptr);
+}
+
+/// A team and the ones whose numbers hold its own, in a list without names.
+TEST_F(FeuilleEquipe, WithoutNamesTheWholeNumberTellsTheTeam)
+{
+    membre(3, 0, u"NOM"_qs, u"Paul"_qs, u"Aix"_qs);
+    membre(3, 1, {}, {}, u"Aix"_qs);
+    membre(13, 0, u"AUTRE"_qs, u"Jean"_qs, u"Var"_qs);
+    const QString siennes[] = {u"  3 (Aix)  bat  13 (Var) "_qs, u" 13 (Var)  vs   3 (Aix) "_qs, u"  3 (Aix)  Exempt"_qs,
+                               u"  3 (Aix) "_qs};
+    for (const QString &phrase : siennes)
+        rangee(u"Tour"_qs, phrase);
+    rangee({}, u" 13 (Var)  bat  30 (Aix) "_qs);
+    rangee({}, u" 23 (Boule 3 )  bat 103 (Aix) "_qs);
+    const Pages pages = imprime(u"3 "_qs, GenreFeuille::Equipe, false);
+    QStringList phrases;
+    for (const Dessin &dessin : pages[0].dessins)
+        phrases += dessin.x1 == 350 ? QStringList{dessin.texte} : QStringList();
+    EXPECT_EQ(phrases, QStringList(std::begin(siennes), std::end(siennes))) << phrases.join(u'|').toStdString();
+    EXPECT_EQ(textes(pages[0], true), (QStringList{u"- NOM Paul L30 Aix"_qs, u"-   L31 Aix"_qs}));
 }
 
 TEST_F(FeuilleEquipe, ALongSheetGoesOnWithoutAHead)
@@ -173,27 +206,33 @@ TEST_F(FeuilleEquipe, LongNamesAreNeitherCutNorPrintedOver)
     rangee(u"Tour 1"_qs, u"  3 (%1)  bat   4 (Aix) "_qs.arg(soixante));
     rangee({}, u"  3 %1 P (%1)  bat   4 %1 P (%1) "_qs.arg(soixante));
     rangee({}, u"  3 %1 P (%1)  bat   4 (Aix) "_qs.arg(soixante));
+    partage().LieuConcours = soixante + soixante;
     for (const auto &[texte, genre, scores] : {std::tuple(soixante, GenreFeuille::Club, 3),
                                                std::tuple(u"3 %1 P "_qs.arg(soixante), GenreFeuille::Equipe, 2)}) {
-        int trouves = 0;
-        double plusPetite = 14;
-        const Dessin *phrase = nullptr;
-        for (const Pages pages = imprime(texte, genre); const Dessin &dessin : pages[0].dessins) {
-            if (dessin.genre == Dessin::Trait)
-                continue;
-            EXPECT_LE(dessin.x2, largeurPapier - 480) << dessin.texte.toStdString();
-            if (dessin.x1 == 350)
-                phrase = &dessin;
-            if (dessin.texte == u"13:7") {
-                ++trouves;
-                EXPECT_TRUE(phrase->x2 < dessin.x1 && phrase->y1 == dessin.y1 && dessin.taille == 14);
-            }
-            if (dessin.texte != adresse)
-                plusPetite = std::min(plusPetite, dessin.taille);
-        }
+        const Pages pages = imprime(texte, genre);
+        VerifiePlaces(pages[0], largeurPapier - 480, hauteurPapier - 1000);
+        const auto trouves = std::ranges::count(pages[0].dessins, u"13:7"_qs, &Dessin::texte);
         EXPECT_EQ(trouves, scores);
-        EXPECT_GE(plusPetite, 5);
     }
+}
+
+TEST_F(FeuilleEquipe, TheLongestLineGivesItsLettersToTheSheet)
+{
+    membre(3, 0, u"NOM"_qs, u"Paul"_qs, u"Aix"_qs);
+    rangee(u"Tour 1"_qs, u"  3 NOM P (Aix)  bat   4 (Aix) "_qs);
+    const QString longue = u"  3 NOM P (Aix)  bat   4 (%1) "_qs.arg(soixante);
+    rangee(u"Tour 2"_qs, longue, u"13:12"_qs);
+    const Pages pages = imprime(u"3 NOM P "_qs, GenreFeuille::Equipe);
+    const Dessin *phrase = trouve(pages[0], longue.trimmed());
+    ASSERT_NE(phrase, nullptr);
+    const int place = largeurPapier - 2000 - 350;
+    const double largeur = phrase->x2 - phrase->x1;
+    EXPECT_TRUE(largeur <= place && largeur * (phrase->taille + 1) / phrase->taille > place);
+    EXPECT_LT(phrase->taille, 14);
+    for (const Dessin &dessin : pages[0].dessins)
+        EXPECT_TRUE(dessin.genre == Dessin::Trait || dessin.taille == phrase->taille || dessin.taille >= 18
+                    || dessin.texte == adresse)
+            << dessin.texte.toStdString();
 }
 
 /// The form over a real honours list.
@@ -207,21 +246,18 @@ protected:
         membre(4, 0, u"AUTRE"_qs, u"Jean"_qs, u"*Panachée"_qs);
         execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) "
                 "values (1, 1, 1, 3, 4, 13, 7)"_qs);
-        ASSERT_NE(formulaires().Charge(u"palmares"_qs), nullptr);
+        ASSERT_NE(formulaires().Charge(NomForme(u"palmares")), nullptr);
         propose(u"3 NOM P (Aix)"_qs, u"4 AUTRE J (*Panachée)"_qs);
     }
 
     void propose(const QString &equipe1, const QString &equipe2)
     {
-        qobject_cast<Resusoc *>(formulaires().Charge(R))->propose(1, equipe1, equipe2);
-        formulaires().Montre(R);
+        qobject_cast<Resusoc *>(formulaires().Charge(NomForme(R)))->propose(1, equipe1, equipe2);
+        formulaires().Montre(NomForme(R));
         active(R);
     }
 
-    QRadioButton &option(int numero)
-    {
-        return *qobject_cast<QRadioButton *>(controle(R, u"Option%1"_qs.arg(numero)));
-    }
+    QRadioButton &option(int numero) { return *qobject_cast<QRadioButton *>(controle(R, u"Option%1"_qs.arg(numero))); }
 
     /// Titles of the sheets that have come out since the last time.
     QString titres()

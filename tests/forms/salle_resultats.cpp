@@ -40,8 +40,9 @@ QString SalleResultats::champs()
 std::vector<MatchEssai> SalleResultats::matchs(int tour)
 {
     std::vector<MatchEssai> lus;
-    Instruction lecture(prog.base().native(), u"select equipe_1, equipe_2, score_1, score_2, score_reel from scores "
-                                              u"where concours = ? and tour = ? and equipe_2 > 0 order by rowid"_qs);
+    Instruction lecture(prog.base().native(),
+                        u"select equipe_1, equipe_2, score_1, score_2, score_reel from scores "
+                        u"where concours = ? and tour = ? and equipe_2 > 0 order by rowid"_qs);
     lecture.lie(1, prog.partage().ConcoursCourant);
     lecture.lie(2, tour);
     const auto score = [&](int colonne) {

@@ -1,16 +1,22 @@
-#include "app/base.h"
+#include "app/formes.h"
 #include "app/torvik.h"
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
+#include "garde/sauvegarde.h"
+#include "partage/base.h"
 #include "store/base_native.h"
+#include "store/preuve.h"
 
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDir>
 #include <QFile>
 #include <QMenu>
 #include <QPlainTextEdit>
+
+#include <map>
 
 namespace {
 
@@ -32,6 +38,14 @@ bool visible(ProgrammePilote &prog, const QString &forme)
     return prog.formulaires().estVisible(forme);
 }
 
+QString nomsDecharges(Entree entree)
+{
+    QStringList noms;
+    for (const NomForme nom : FormesDechargees(entree))
+        noms += nom;
+    return noms.join(u' ');
+}
+
 TEST(FenetrePrincipale, DemarreSurLAccueil)
 {
     ProgrammePilote prog;
@@ -43,6 +57,60 @@ TEST(FenetrePrincipale, DemarreSurLAccueil)
     EXPECT_EQ(prog.torvik()->findChild<QAction *>(u"Mnu_resultats"_qs)->text(), prog.partage().mes(4));
     EXPECT_EQ(prog.torvik()->findChild<QMenu *>(u"Mnu_accueil"_qs)->title(), u"     ?"_qs);
     EXPECT_EQ(prog.partage().ConcoursCourant, 0);
+}
+
+// What goes, and in which order: a form that is unloaded writes, asks and takes others with it.
+TEST(TableDesFormes, EachEntryUnloadsItsFormsInItsOrder)
+{
+    const std::pair<Entree, QString> attendus[] = {
+        {Entree::Accueil, u"Econcours Eequipes EResultats Listesoc manqres palmares valresu Ejoueurs listeq Listco"_qs},
+        {Entree::Concours, u"Eequipes EResultats Listesoc manqres palmares valresu Ejoueurs listeq"_qs},
+        {Entree::Equipes, u"Econcours EResultats manqres palmares valresu Resusoc Ejoueurs listeq Listco"_qs},
+        {Entree::Joueurs, u"Econcours EResultats Eequipes Listesoc manqres palmares valresu Resusoc listeq Listco"_qs},
+        {Entree::Resultats, u"Econcours Eequipes Listesoc manqres palmares valresu Resusoc Ejoueurs listeq Listco"_qs},
+        {Entree::Purge,
+         u"Econcours Eequipes Listesoc listeq Listco I_tirage EResultats valresu manqres Groupes palmares "
+         u"Resusoc Détail_résultats"_qs},
+        {Entree::Fin, u"Econcours Eequipes EResultats Listesoc manqres palmares valresu Accueil Resusoc"_qs},
+    };
+    for (const auto &[entree, noms] : attendus)
+        EXPECT_EQ(nomsDecharges(entree), noms);
+}
+
+TEST(TableDesFormes, EachFormBearsItsNameAndEachFamilyShowsOne)
+{
+    ProgrammePilote prog;
+    ASSERT_TRUE(prog.demarre());
+    QStringList noms;
+    std::map<Entree, int> montrees;
+    std::array<std::vector<int>, nombreEntrees> rangs;
+    for (const LigneForme &ligne : TableFormes()) {
+        noms += ligne.nom;
+        const std::unique_ptr<Formulaire> forme(
+            ligne.fabrique({prog.partage(), prog.formulaires(), prog.boites}, prog.torvik()));
+        EXPECT_EQ(forme->Name(), ligne.nom.texte());
+        for (const Infobulle &infobulle : forme->infobulles())
+            EXPECT_TRUE(forme->isAncestorOf(infobulle.controle) && !infobulle.texte.isEmpty())
+                << infobulle.texte.toStdString();
+        EXPECT_TRUE(ligne.famille || ligne.ouverture == Ouverture::Rien) << ligne.nom.texte().toStdString();
+        if (ligne.ouverture == Ouverture::Montre)
+            ++montrees[*ligne.famille];
+        for (std::size_t entree = 0; entree < nombreEntrees; ++entree) {
+            if (const int rang = ligne.dechargee[entree]; rang > 0)
+                rangs[entree].push_back(rang);
+        }
+    }
+    const QStringList connus = prog.formulaires().noms();
+    EXPECT_EQ(QSet(noms.begin(), noms.end()), QSet(connus.begin(), connus.end()));
+    EXPECT_EQ(noms.removeDuplicates(), 0);
+    for (const Entree famille :
+         {Entree::Accueil, Entree::Concours, Entree::Equipes, Entree::Joueurs, Entree::Resultats})
+        EXPECT_EQ(montrees[famille], 1) << int(famille);
+    for (std::vector<int> &places : rangs) {
+        std::ranges::sort(places);
+        for (std::size_t i = 0; i < places.size(); ++i)
+            EXPECT_EQ(places[i], int(i) + 1);
+    }
 }
 
 TEST(FenetrePrincipale, UneFamilleALaFois)
@@ -142,10 +210,173 @@ TEST(FenetrePrincipale, UneBaseEnServiceRecoitLesMessagesQuiLuiManquent)
     EXPECT_EQ(prog.partage().mes(43), u"Forfait"_qs);
     EXPECT_EQ(prog.partage().mes(18), u"Mon club"_qs);
     const auto nombre = [&](int langue) {
-        return prog.base().native().valeurUnique(u"select count(*) from langues where lang = %1"_qs.arg(langue)).entier();
+        return prog.base()
+            .native()
+            .valeurUnique(u"select count(*) from langues where lang = %1"_qs.arg(langue))
+            .entier();
     };
     EXPECT_EQ(nombre(2), nombre(1));
-    EXPECT_EQ(nombre(6), 0); // a language without texts stays one
+    EXPECT_EQ(nombre(6), nombre(1));
+}
+
+TEST(FenetrePrincipale, UneBaseVideeDeSesLanguesLesRetrouve)
+{
+    ProgrammePilote prog;
+    for (const QString &perte : {u"delete from langues"_qs,
+                                 u"delete from langues; delete from traduc; delete from typconcours; "
+                                 u"delete from [catégories]; drop index \"traduc.alpha\"; drop index \"traduc.num\"; "
+                                 u"drop index \"equipes.PrimaryKey\"; drop trigger \"equipes.doublon\""_qs}) {
+        {
+            store::BaseNative base(prog.fichier(), motDePasseBase, store::BaseNative::Mode::LectureEcriture);
+            base.executeScript(perte);
+        }
+        ASSERT_TRUE(prog.demarre());
+        EXPECT_EQ(prog.torvik()->findChild<QAction *>(u"Mnu_concours"_qs)->text(), u"Concours"_qs);
+        EXPECT_EQ(prog.valeur(u"select group_concat(numero || actif, ' ') from traduc"_qs).texte(),
+                  u"1-1 20 30 40 50 60"_qs);
+        EXPECT_GT(prog.valeur(u"select count(distinct lang) from typconcours"_qs).entier(), 5);
+        EXPECT_GT(prog.valeur(u"select count(distinct lang) from catégories"_qs).entier(), 0);
+        store::Recordset langues = prog.base().OpenRecordset(u"traduc", store::dbOpenTable);
+        langues.Index(u"alpha");
+        langues.Close();
+        prog.base().Execute(u"insert into equipes (concours, equipe) values (9, 1)");
+        EXPECT_EQ(prog.valeur(u"select doublon from equipes where concours = 9"_qs).entier(), 0);
+        prog.base().Execute(u"delete * from equipes where concours = 9");
+        prog.termine();
+    }
+}
+
+/// A base that an earlier version has left opens for ever, with all that it holds.
+TEST(FenetrePrincipale, UneBaseDeChaqueVersionSOuvre)
+{
+    const QDir anciennes(QStringLiteral(VARLOTOUR_ANCIENNES));
+    const QStringList versions = anciennes.entryList({u"base_v*.mdb"_qs});
+    EXPECT_EQ(versions.size(), store::versionBase);
+    for (const QString &version : versions) {
+        SCOPED_TRACE(version.toStdString());
+        ProgrammePilote prog;
+        remplace(prog.fichier(), contenu(anciennes.filePath(version)));
+        ASSERT_TRUE(prog.demarre());
+        EXPECT_EQ(prog.valeur(u"pragma user_version"_qs).entier(), store::versionBase);
+        EXPECT_EQ(prog.valeur(u"select count(*) from scores where score_1 is not null"_qs).entier(), 4);
+        prog.ouvre(u"f_resultats"_qs);
+        EXPECT_EQ(prog.partage().TourCourant, 2);
+        prog.ouvre(u"f_equipes"_qs);
+    }
+}
+
+TEST(FenetrePrincipale, UneBaseRefuseeCedeSaPlaceALaDerniereCopieOuReste)
+{
+    for (const bool absente : {false, true}) {
+        ProgrammePilote prog;
+        prog.avecCopies();
+        ASSERT_TRUE(prog.demarre()); // makes a copy
+        prog.termine();
+        if (absente)
+            QFile::remove(prog.fichier());
+        else
+            remplace(prog.fichier(), contenu(prog.fichier()).replace(9000, 400, QByteArray(400, 'x')));
+        const QByteArray avant = contenu(prog.fichier());
+        prog.boites.attend(u"La dernière copie de sécurité est complète : sauvegardes/VarloBase-"_qs,
+                           ReponseBoite::Non);
+        EXPECT_FALSE(prog.demarre());
+        prog.boites.verifie();
+        EXPECT_EQ(prog.boites.drapeaux(), vbYesNo | vbCritical | vbDefaultButton2);
+        EXPECT_TRUE(prog.boites.textes().last().contains(absente ? u"VarloBase.mdb est introuvable"_qs
+                                                                 : u"VarloBase.mdb est endommagé"_qs));
+        EXPECT_EQ(contenu(prog.fichier()), avant);
+        prog.boites.attend(u"La remettre à la place ?"_qs, ReponseBoite::Oui);
+        prog.boites.attend(u"est en place"_qs);
+        ASSERT_TRUE(prog.demarre());
+        EXPECT_FALSE(prog.partage().mes(1).isEmpty());
+        const QStringList gardees = QDir(prog.dossier()).entryList({u"VarloBase-refusee-*.mdb"_qs});
+        ASSERT_EQ(gardees.size(), absente ? 0 : 1);
+        if (!absente) {
+            EXPECT_EQ(contenu(prog.dossier() + u'/' + gardees.front()), avant);
+        }
+        prog.termine();
+    }
+}
+
+TEST(FenetrePrincipale, UnJournalResteACoteDUneAutreBaseEstGarde)
+{
+    ProgrammePilote prog;
+    const QByteArray originale = contenu(prog.fichier());
+    ASSERT_TRUE(prog.demarre());
+    for (const QString &club : {u"A"_qs, u"B"_qs, u"ECRITE"_qs}) {
+        prog.base().native().consolide();
+        prog.base().Execute(u"insert into societes (societe) values ('%1')"_qs.arg(club));
+    }
+    const QByteArray journal = contenu(prog.fichier() + u"-wal"_qs);
+    ASSERT_FALSE(journal.isEmpty());
+    prog.termine();
+    remplace(prog.fichier(), originale);
+    remplace(prog.fichier() + u"-wal"_qs, journal);
+    prog.boites.attend(
+        u"Ce journal n'y est pas repris : il est gardé dans VarloBase-journal-20260714-093000.mdb-wal"_qs);
+    ASSERT_TRUE(prog.demarre());
+    EXPECT_EQ(contenu(prog.dossier() + u"/VarloBase-journal-20260714-093000.mdb-wal"_qs), journal);
+    EXPECT_EQ(prog.valeur(u"select count(*) from societes where societe = 'ECRITE'"_qs).entier(), 0);
+}
+
+/// What an operator or a tool can do to the file of a program at work.
+TEST(FenetrePrincipale, UneBaseQuiDisparaitPendantLeTravailSeDitEtSeCopie)
+{
+    const auto reecrit = [](const QString &fichier, qint64 taille) {
+        QFile base(fichier);
+        ASSERT_TRUE(base.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(base.resize(taille) && base.write(QByteArray(2000, 'z')) == 2000);
+    };
+    struct Cas
+    {
+        QString dit;
+        std::function<void(const QString &)> geste;
+    };
+    const Cas cas[] = {
+        {u"n'est plus à sa place"_qs, [](const QString &base) { QFile::remove(base); }},
+        {u"a été remplacé"_qs,
+         [](const QString &base) {
+             QFile::remove(base);
+             remplace(base, "autre");
+         }},
+        {u"a été réécrit ou coupé"_qs, [&](const QString &base) { reecrit(base, QFileInfo(base).size()); }},
+        {u"a été réécrit ou coupé"_qs, [&](const QString &base) { reecrit(base, 0); }},
+    };
+    for (const Cas &c : cas) {
+        SCOPED_TRACE(c.dit.toStdString());
+        ProgrammePilote prog;
+        prog.avecCopies();
+        ASSERT_TRUE(prog.demarre());
+        poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+        prog.base().native().consolide();
+        c.geste(prog.fichier());
+        const QByteArray apres = contenu(prog.fichier());
+        prog.boites.attend(c.dit);
+        prog.ouvre(u"f_resultats"_qs);
+        prog.boites.verifie();
+        EXPECT_TRUE(prog.boites.textes().last().contains(u"Tout est dans la copie"_qs));
+        prog.base().Execute(u"insert into societes (societe) values ('APRES')");
+        prog.ouvre(u"f_equipes"_qs); // told once
+        prog.ouvre(u"f_accueil"_qs);
+        prog.termine();
+        EXPECT_EQ(contenu(prog.fichier()), apres) << "the other file is somebody else's";
+        store::BaseNative copie(ListeCopies(prog.dossier()).back().fichier, motDePasseBase,
+                                store::BaseNative::Mode::LectureSeule);
+        EXPECT_EQ(copie.valeurUnique(u"select count(*) from equipes"_qs).entier(), 6);
+        EXPECT_EQ(copie.valeurUnique(u"select count(*) from societes where societe = 'APRES'"_qs).entier(), 1);
+    }
+}
+
+TEST(FenetrePrincipale, LeFichierSuitLaSaisieDesQueLOperateurSArrete)
+{
+    ProgrammePilote prog;
+    ASSERT_TRUE(prog.demarre());
+    prog.base().Execute(u"insert into societes (societe) values ('ECRITE')");
+    ASSERT_TRUE(prog.base().native().journalEnAttente());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !prog.base().native().journalEnAttente(); }, 5000));
+    prog.base().Execute(u"insert into societes (societe) values ('AUTRE')");
+    qobject_cast<Torvik *>(prog.torvik())->seanceFinit();
+    EXPECT_FALSE(prog.base().native().journalEnAttente());
 }
 
 TEST(FenetrePrincipale, ImageDeLangueIntrouvable)

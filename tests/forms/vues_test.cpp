@@ -1,7 +1,8 @@
 #include "salle_resultats.h"
 
-#include "platform/flexgrid.h"
-#include "platform/formulaires.h"
+#include "fenetres/formulaires.h"
+#include "grille/flexgrid.h"
+#include "results/etat_resultats.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -150,10 +151,10 @@ TEST_F(VuesResultats, UnResultatCliqueRevientASaisirPuisSeCorrige)
     // A bye is not for correction, and neither is anything while a right press is being handled.
     const int exempt = joues()->TextMatrix(1, 2) == prog.partage().mes(42) ? 1 : 2;
     presse(joues(), exempt, 1);
-    prog.partage().ClicGrille = false;
+    prog.formulaires().etat<EtatResultats>().ClicGrille = false;
     presse(joues(), 3 - exempt, 1);
     EXPECT_EQ(champs(), u"   "_qs);
-    prog.partage().ClicGrille = true;
+    prog.formulaires().etat<EtatResultats>().ClicGrille = true;
 }
 
 TEST_F(VuesResultats, ClicDroitTrieSurLaColonne)
@@ -176,7 +177,7 @@ TEST_F(VuesResultats, ClicDroitTrieSurLaColonne)
     EXPECT_EQ(joues()->CellBackColor(1, 1), vert); // colours go with their rows
     presse(joues(), 2, 0, Qt::RightButton); // the round sorts by the first team
     EXPECT_TRUE(std::ranges::is_sorted(colonne(1)));
-    EXPECT_TRUE(prog.partage().ClicGrille);
+    EXPECT_TRUE(prog.formulaires().etat<EtatResultats>().ClicGrille);
     EXPECT_EQ(champs(), u"   "_qs);
     EXPECT_EQ(QApplication::activeWindow(), controle(u"Equipe1"_qs)->window());
     EXPECT_EQ(prog.focus(), u"Equipe1"_qs);
@@ -307,29 +308,59 @@ TEST_F(VuesResultats, UnOngletMontreSonGroupeEtUneCorrectionEnRetire)
     EXPECT_EQ(ligne(*classement(), 1).section(u' ', 2), u"0 0 - - -"_qs);
 }
 
+/// Whether a window covers one of the controls \p noms of \p forme, the main window without a name.
+std::string couverts(ProgrammePilote &prog, const QRect &fenetre, const QString &forme, const QStringList &noms)
+{
+    QStringList caches;
+    for (const QString &nom : noms) {
+        const QWidget *controle = prog.controle(forme, nom);
+        if (fenetre.intersects(QRect(controle->mapToGlobal(QPoint()), controle->size())))
+            caches += nom;
+    }
+    return caches.join(u' ').toStdString();
+}
+
 TEST_F(VuesResultats, LesVuesPartentAvecLeTirageEtRienNeCouvreLaSaisie)
 {
-    if (QApplication::primaryScreen()->geometry().width() < 1366)
+    const QRect ecran = QApplication::primaryScreen()->geometry();
+    if (ecran.width() < 1366)
         GTEST_SKIP() << "needs the screen of portable.json";
-    ouvre(8);
+    ouvre(9); // one team has a bye: a word stands among the results
     tire();
+    prog.ouvre(u"chrono"_qs);
     montre(u"manquants"_qs);
     montre(u"VALIDATION"_qs);
-    const QWidget *saisie = prog.formulaires().forme(u"EResultats"_qs);
-    for (const QString &vue : {manqres, valresu, groupes}) {
+    const QString nomSaisie = u"EResultats"_qs;
+    const QStringList champsEtBoutons{u"listconcours"_qs, u"Equipe1"_qs,   u"Equipe2"_qs,    u"Score1"_qs, u"Score2"_qs,
+                                      u"imprimer"_qs,     u"manquants"_qs, u"VALIDATION"_qs, u"hit"_qs};
+    const QWidget *saisie = prog.formulaires().forme(nomSaisie);
+    const int sousLaBarre = prog.controle({}, u"Terrain"_qs)->mapToGlobal(QPoint()).y();
+    for (const QString &vue : {manqres, valresu, groupes, u"FrmHorloge"_qs}) {
+        SCOPED_TRACE(vue.toStdString());
         const QWidget *fenetre = prog.formulaires().forme(vue);
-        ASSERT_NE(fenetre, nullptr);
-        EXPECT_TRUE(fenetre->isVisible());
-        for (const QString &nom : {u"Equipe1"_qs, u"Equipe2"_qs, u"Score1"_qs, u"Score2"_qs}) {
-            const QWidget *champ = controle(nom);
-            const QRect place(champ->mapToGlobal(QPoint()), champ->size());
-            EXPECT_FALSE(fenetre->frameGeometry().intersects(place)) << vue.toStdString();
-        }
+        ASSERT_TRUE(fenetre != nullptr && fenetre->isVisible());
+        const QRect cadre = fenetre->frameGeometry();
+        EXPECT_EQ(couverts(prog, cadre, nomSaisie, champsEtBoutons), "");
+        EXPECT_EQ(couverts(prog, cadre, {}, {u"f_concours"_qs, u"f_equipes"_qs}), "");
+        EXPECT_TRUE(ecran.contains(cadre)) << cadre.left() << ' ' << cadre.right() << ' ' << cadre.bottom();
+        EXPECT_TRUE(cadre.top() >= sousLaBarre || vue == groupes || vue == u"FrmHorloge");
     }
+    const auto place = [&](const QString &nom) { return prog.formulaires().forme(nom)->frameGeometry(); };
+    EXPECT_FALSE(place(manqres).intersects(place(groupes)));
+    EXPECT_FALSE(place(valresu).intersects(place(u"FrmHorloge"_qs)));
+    EXPECT_GE(place(valresu).left(), place(nomSaisie).right() - 12);
     const Formulaire *groupe = prog.formulaires().forme(groupes);
     EXPECT_EQ(groupe->Left(), prog.formulaires().forme(u"EResultats"_qs)->Left() - groupe->Width());
     EXPECT_EQ(groupe->pos().y(), 3);
+    const QWidget *resultats = prog.controle({}, u"f_resultats"_qs);
+    EXPECT_LT(resultats->mapToGlobal(resultats->rect().center()).x() + 45, groupe->pos().x()) << "its name is covered";
     EXPECT_EQ(saisie, QApplication::activeWindow());
+
+    // A form that was taken to the left edge of the screen is left free there as well.
+    prog.formulaires().Cache(NomForme(manqres));
+    prog.formulaires().forme(nomSaisie)->move(0, 200);
+    montre(u"manquants"_qs);
+    EXPECT_EQ(couverts(prog, place(manqres), nomSaisie, champsEtBoutons), "");
 
     joueTour();
     EXPECT_TRUE(prog.formulaires().estVisible(manqres));

@@ -1,4 +1,4 @@
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
@@ -32,10 +32,7 @@ struct GrilleMontree : FlexGrid
         EXPECT_TRUE(QTest::qWaitForWindowExposed(this));
     }
 
-    QPoint milieu(int ligne, int numero) const
-    {
-        return visualRect(model()->index(ligne - 1, numero)).center();
-    }
+    QPoint milieu(int ligne, int numero) const { return visualRect(model()->index(ligne - 1, numero)).center(); }
     QList<int> lignesEclairees() const
     {
         QList<int> lignes;
@@ -114,14 +111,15 @@ TEST(FlexGrid, SortsByKindDirectionAndRange)
 {
     FlexGrid grille;
     grille.setCols(2);
-    for (const char *ligne : {"10\ta", "9\tÉtoile", "x\tdupont", "-1\tDURAND", "9\tb", "1a\tetang"})
+    for (const char *ligne : {"10\ta", "9\tÉtoile", "x\tdupont", "-1\tDURAND", " \tblanc", "9\tb", "1a\tetang"})
         grille.AddItem(QString::fromUtf8(ligne));
 
     grille.setSort(FlexGrid::GeneriqueCroissant);
-    EXPECT_EQ(colonne(grille, 0), QStringList({"-1", "9", "9", "10", "1a", "x"})) << "numbers first";
-    EXPECT_EQ(grille.TextMatrix(2, 1), QStringLiteral("Étoile")) << "equal rows keep their order";
+    EXPECT_EQ(colonne(grille, 0), QStringList({" ", "-1", "9", "9", "10", "1a", "x"})) << "blanks, then numbers";
+    EXPECT_EQ(grille.TextMatrix(3, 1), QStringLiteral("Étoile")) << "equal rows keep their order";
     grille.setSort(FlexGrid::GeneriqueDecroissant);
-    EXPECT_EQ(colonne(grille, 0), QStringList({"x", "1a", "10", "9", "9", "-1"}));
+    EXPECT_EQ(colonne(grille, 0), QStringList({"x", "1a", "10", "9", "9", "-1", " "}));
+    grille.setRows(grille.Rows() - 1);
     grille.setCol(1);
     grille.setSort(FlexGrid::GeneriqueCroissant);
     EXPECT_EQ(colonne(grille, 1), QStringList({"a", "b", "dupont", "DURAND", "etang", "Étoile"}));

@@ -1,11 +1,13 @@
-#include "platform/formulaires.h"
-#include "platform/imprimante.h"
+#include "fenetres/echap_tenue.h"
+#include "fenetres/formulaires.h"
+#include "papier/imprimante.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -44,7 +46,8 @@ public:
             controle->setGeometry(10, y += 35, 120, 30);
         combo->setEditable(true);
         prepareControles();
-        for (QWidget *controle : {static_cast<QWidget *>(a), static_cast<QWidget *>(b), static_cast<QWidget *>(combo)}) {
+        for (QWidget *controle :
+             {static_cast<QWidget *>(a), static_cast<QWidget *>(b), static_cast<QWidget *>(combo)}) {
             const QString qui = controle->objectName();
             surGotFocus(controle, [=, this] { note(u'+' + qui); });
             surLostFocus(controle, [=, this] {
@@ -97,13 +100,13 @@ protected:
     FormulaireEssai()
     {
         for (const QString &nom : {u"F1"_qs, u"F2"_qs})
-            formes.enregistre(nom, [this, nom](const Contexte &contexte, QWidget *parent) {
+            formes.enregistre(NomForme(nom), [this, nom](const Contexte &contexte, QWidget *parent) {
                 return new Essai(contexte, parent, nom, journal);
             });
         formes.prepare({partage, formes, boites}, &fenetre);
         fenetre.resize(800, 600);
         fenetre.show();
-        formes.Montre(u"F1"_qs);
+        formes.Montre(NomForme(u"F1"));
         SetFocus(f(u"F1"_qs)->a);
         lu();
     }
@@ -141,11 +144,39 @@ TEST_F(FormulaireEssai, RunsLostFocusThenGotFocusAcrossForms)
     EXPECT_EQ(lu(), "touche 13 -a +b");
     SetFocus(f1->combo);
     EXPECT_EQ(lu(), "-b +combo");
-    formes.Montre(u"F2"_qs);
+    formes.Montre(NomForme(u"F2"));
     SetFocus(f(u"F2"_qs)->a);
     EXPECT_TRUE(lu().starts_with("active F2 -combo +a"));
     SetFocus(f1->combo);
     EXPECT_EQ(lu(), "active F1 -a +combo");
+}
+
+TEST_F(FormulaireEssai, APlaceReckonedWithoutTheFrameIsReckonedAgainWithIt)
+{
+    // Nothing on the screen has a frame when the first form finds its place.
+    formes.DechargeTout();
+    fenetre.hide();
+    Formulaires neuves;
+    neuves.enregistre(NomForme(u"F3"), [this](const Contexte &contexte, QWidget *parent) {
+        return new Essai(contexte, parent, u"F3"_qs, journal);
+    });
+    neuves.prepare({partage, neuves, boites}, &fenetre);
+    Formulaire *f3 = neuves.Charge(NomForme(u"F3"));
+    int fois = 0;
+    f3->place([&] {
+        ++fois;
+        f3->Move(1500, 9000 - 2 * f3->Height());
+    });
+    EXPECT_EQ(f3->Height(), 200 * 15);
+    neuves.Montre(NomForme(u"F3"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fois == 2; }));
+    ASSERT_GT(f3->Height(), 200 * 15);
+    EXPECT_EQ(f3->frameGeometry().top(), (9000 - 2 * f3->Height()) / 15);
+    // Afterwards it stays where the operator takes it.
+    f3->move(300, 300);
+    QApplication::processEvents();
+    EXPECT_EQ(fois, 2);
+    EXPECT_EQ(f3->pos(), QPoint(300, 300));
 }
 
 TEST_F(FormulaireEssai, AHandlerMayTakeTheFocusBackOrElsewhere)
@@ -212,23 +243,27 @@ TEST_F(FormulaireEssai, ShowsAFailureOnceAndGoesOn)
     clique(f1->bouton);
     f1->auClic = [] { throw std::out_of_range("hors de la table"); };
     clique(f1->bouton);
+    f1->auClic = [f1] { f1->controle<QComboBox>(u"b"_qs)->clear(); }; // there is a field of that name, and no list
+    clique(f1->bouton);
     f1->auClic = nullptr;
     clique(f1->bouton);
-    EXPECT_EQ(lu(), "-a clic clic clic");
-    EXPECT_EQ(boites.vues.join(u'|'), u"Erreur 13 : Le disque est plein.|Erreur du programme : hors de la table");
+    EXPECT_EQ(lu(), "-a clic clic clic clic");
+    EXPECT_EQ(boites.vues.join(u'|'),
+              u"Erreur 13 : Le disque est plein.|Erreur du programme : hors de la table|"
+              u"Erreur du programme : La fenêtre F1 n'a pas de champ b.");
 }
 
 TEST_F(FormulaireEssai, UnloadsByNameEvenFromWithinAndPassesOverUnknownNames)
 {
     Essai *f1 = f(u"F1"_qs);
-    f1->auClic = [this] { formes.Decharge({u"F1"_qs, u"nulle"_qs}); };
+    f1->auClic = [this] { formes.Decharge({NomForme(u"F1"), NomForme(u"nulle")}); };
     clique(f1->bouton);
     EXPECT_EQ(lu(), "-a clic unload F1");
     EXPECT_FALSE(formes.estChargee(u"F1"_qs));
-    formes.Montre(u"nulle"_qs);
-    formes.Cache(u"nulle"_qs);
+    formes.Montre(NomForme(u"nulle"));
+    formes.Cache(NomForme(u"nulle"));
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    formes.Montre(u"F1"_qs);
+    formes.Montre(NomForme(u"F1"));
     EXPECT_TRUE(lu().starts_with("active F1"));
     formes.forme(u"F1"_qs)->close();
     EXPECT_FALSE(formes.estChargee(u"F1"_qs));
@@ -242,7 +277,8 @@ TEST_F(FormulaireEssai, KeepsControlsInProportionByWholePercents)
     const QRect depart = f1->b->geometry();
     f1->resize(450, 400);
     module.RedimForm(*f1);
-    EXPECT_EQ(f1->b->geometry(), QRect(depart.x() * 3 / 2, depart.y() * 2, depart.width() * 3 / 2, depart.height() * 2));
+    EXPECT_EQ(f1->b->geometry(),
+              QRect(depart.x() * 3 / 2, depart.y() * 2, depart.width() * 3 / 2, depart.height() * 2));
     for (int i = 0; i < 200; ++i) {
         f1->resize(300 + i, 200 + i);
         module.RedimForm(*f1);
@@ -252,4 +288,27 @@ TEST_F(FormulaireEssai, KeepsControlsInProportionByWholePercents)
     module.RedimForm(*f1);
     EXPECT_EQ(f1->b->geometry(), depart) << "one pixel more is no whole percent, and nothing has accumulated";
     EXPECT_EQ(f1->c->x(), 10 - 5000) << "parked, and still so";
+}
+
+TEST(Boites, EnterPressesTheButtonAskedForAndAHeldEscapeNone)
+{
+    BoitesQt deLEcran;
+    Boites &boites = deLEcran;
+    const auto reponse = [&](int drapeaux, const std::function<void(QWidget *)> &touches) {
+        QTimer::singleShot(0, qApp, [&] { touches(QApplication::activeModalWidget()); });
+        return boites.MsgBox(u"?"_qs, drapeaux);
+    };
+    const auto entree = [](QWidget *boite) { QTest::keyClick(boite, Qt::Key_Return); };
+    EXPECT_EQ(reponse(vbYesNo, entree), ReponseBoite::Oui);
+    EXPECT_EQ(reponse(vbYesNo | vbDefaultButton2, entree), ReponseBoite::Non);
+
+    const EchapTenue echap([] {});
+    const auto echapPuisEntree = [&](QWidget *boite) {
+        QKeyEvent repetee(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+        QApplication::sendEvent(boite, &repetee);
+        if (boite->isVisible())
+            entree(boite);
+    };
+    EXPECT_EQ(reponse(vbYesNo, echapPuisEntree), ReponseBoite::Oui);
+    EXPECT_EQ(reponse(vbYesNo, [](QWidget *boite) { QTest::keyClick(boite, Qt::Key_Escape); }), ReponseBoite::Non);
 }

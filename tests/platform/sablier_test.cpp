@@ -1,4 +1,4 @@
-#include "platform/sablier.h"
+#include "fenetres/sablier.h"
 #include "store/valeur.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 #include "commun/concours_en_base.h"
 #include "commun/contenu.h"
 #include "commun/programme_pilote.h"
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
 
 #include <gtest/gtest.h>
 
@@ -13,13 +13,13 @@
 #include <QRegularExpression>
 #include <QSet>
 
-// Whatever is typed, the program lives on and changes no row but those of what the operator has in hand. Each text comes
-// to each screen, and each field and button sees some of them; with VARLOTOUR_ATTAQUES set, each sees all.
+// Whatever is typed, the program lives on and changes no row but those of what the operator has in hand. Each text
+// comes to each screen, and each field and button sees some of them; with VARLOTOUR_ATTAQUES set, each sees all.
 
 namespace {
 
-/// A screen with fields: those that choose a row, and the rows that an entry may touch (\1, \2 ... stand for the numbers
-/// in the choosing fields).
+/// A screen with fields: those that choose a row, and the rows that an entry may touch (\1, \2 ... stand for the
+/// numbers in the choosing fields).
 struct FormeVisee
 {
     QString nom;
@@ -122,7 +122,6 @@ protected:
         const QSet<QString> restent(apres.begin(), apres.end());
         const QRegularExpression patron(QRegularExpression::anchoredPattern(permis));
         for (const QString &ligne : std::as_const(m_avant)) {
-
             const bool touchee = !restent.contains(ligne) && !ligne.startsWith(u"sqlite_sequence");
             EXPECT_TRUE(!touchee || (!permis.isEmpty() && patron.match(ligne).hasMatch())) << ligne.toStdString();
         }
@@ -134,7 +133,7 @@ protected:
     {
         prog.formulaires().DechargeTout();
         prog.partage().ConcoursCourant = 2;
-        prog.formulaires().Montre(ecran.nom);
+        prog.formulaires().Montre(NomForme(ecran.nom));
         QApplication::processEvents();
     }
 
@@ -264,8 +263,8 @@ protected:
 
     const bool m_tout = qEnvironmentVariableIsSet("VARLOTOUR_ATTAQUES");
     int m_tour = 0;
-    const QStringList m_tables{u"sqlite_sequence"_qs, u"concours"_qs, u"equipes"_qs, u"evolution"_qs, u"scores"_qs, u"societes"_qs,
-                               u"traduc"_qs};
+    const QStringList m_tables{u"sqlite_sequence"_qs, u"concours"_qs, u"equipes"_qs, u"evolution"_qs,
+                               u"scores"_qs,          u"societes"_qs, u"traduc"_qs};
     ProgrammePilote prog;
     QStringList m_avant;
     int m_changements = 0;

@@ -1,15 +1,18 @@
-#include "app/base.h"
-#include "app/sauvegarde.h"
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
+#include "garde/reprise.h"
+#include "garde/sauvegarde.h"
 #include "journee.h"
 #include "panne_systeme.h"
+#include "partage/base.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 
 #include <csignal>
 #include <iostream>
@@ -130,7 +133,7 @@ private:
                     fixeLimite(0);
                 if (m_echecs > patience)
                     accuse(u"operation %1 never succeeds: %2"_qs.arg(operation).arg(erreur.phrase()));
-                if (m_journee.estUnePurge(operation))
+                if (m_journee.remplaceLaBase(operation))
                     termine(); // whoever starts next looks at what it left
                 verifieSansEffet(operation);
             }
@@ -226,13 +229,15 @@ protected:
             _exit(toutVaBien);
         }
         close(tube[1]);
+        QByteArray dit(sort.desLOuverture ? 0 : 4096, '\0');
+        dit.truncate(qsizetype(std::max<ssize_t>(0, ::read(tube[0], dit.data(), size_t(dit.size()))))); // it is open
         if (sort.delaiUs > tuerEnRoute) {
             usleep(useconds_t(sort.delaiUs));
             kill(enfant, SIGKILL);
         }
         QFile lecture;
         lecture.open(tube[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-        const QByteArray dit = lecture.readAll();
+        dit += lecture.readAll();
         const int avant = m_faites;
         int fin = 0;
         waitpid(enfant, &fin, 0);
@@ -297,6 +302,8 @@ protected:
 TEST_F(Coupures, WhateverHappensAnAcknowledgedEntryIsThereAndNothingIsHalfWritten)
 {
     constexpr int departsAuPlus = 400;
+    const QTemporaryDir provisoires; // what killed programs leave where they proved their base
+    qputenv("TMPDIR", provisoires.path().toUtf8());
     const int secondes = reglage("VARLOTOUR_COUPURES", u"4"_qs).toInt();
     QElapsedTimer duree;
     duree.start();
@@ -320,6 +327,50 @@ TEST_F(Coupures, WhateverHappensAnAcknowledgedEntryIsThereAndNothingIsHalfWritte
     EXPECT_GT(m_tuees, 0);
 }
 
+/// An entry is acknowledged when the disk has it: a power cut takes what has only been handed to the system.
+TEST_F(Coupures, EachEntryAndEachNameIsSynchronisedBeforeItIsAcknowledged)
+{
+    const BaseEssai base;
+    AleaFixe alea{1};
+    Horloge horloge;
+    Partage partage(base.dossier(), alea, horloge);
+    partage.BaseDonnees = base.ouvre();
+    store::Recordset lignes = partage.BaseDonnees.OpenRecordset(u"scores", store::dbOpenTable);
+    const QString journal = u"sync VarloBase.mdb-wal"_qs;
+    for (int i = 0; i < 5; ++i) {
+        panne::note();
+        partage.BaseDonnees.Execute(u"insert into scores (concours, tour) values (1, 1)");
+        EXPECT_TRUE(panne::notes().endsWith(journal));
+        panne::note();
+        lignes.MoveFirst();
+        lignes.Edit();
+        lignes[u"score_1"] = i;
+        lignes.Update();
+        EXPECT_TRUE(panne::notes().endsWith(journal));
+        panne::note();
+        partage.BaseDonnees.EcritEnGroupe([&] {
+            for (int fois = 0; fois < 3; ++fois)
+                partage.BaseDonnees.Execute(u"insert into scores (concours, tour) values (2, 1)");
+        });
+        EXPECT_TRUE(panne::notes().endsWith(journal));
+    }
+    panne::note();
+    ASSERT_FALSE(SauveBase(partage, RaisonCopie::Demande).echouee());
+    QStringList appels = panne::notes().filter(QRegularExpression(u"^(sync sauvegardes|renomme .*mdb)$"_qs));
+    EXPECT_EQ(appels.mid(appels.size() - 2).join(u' ').section(u' ', -2), u"sync sauvegardes"_qs)
+        << "the name of a copy";
+    partage.BaseDonnees.Close();
+    panne::note();
+    RemetCopie(partage, DerniereCopieSaine(base.dossier()));
+    appels = panne::notes();
+    EXPECT_EQ(appels.last(), u"sync "_qs + QDir(base.dossier()).dirName()) << "the base's new name";
+    EXPECT_EQ(appels.value(appels.size() - 2), u"renomme VarloBase.mdb"_qs);
+    panne::note();
+    ASSERT_TRUE(QFile::rename(base.fichier(), base.dossier() + u"/myTmpDB.mdb"_qs));
+    ASSERT_TRUE(ReprendPurge(base.dossier()));
+    EXPECT_EQ(panne::notes().last(), appels.last()) << "a purge taken up";
+}
+
 TEST_F(Coupures, ADiskThatRefusesAnyCallOfACopyLeavesNoPartOfItUnderItsName)
 {
     const BaseEssai base;
@@ -334,7 +385,7 @@ TEST_F(Coupures, ADiskThatRefusesAnyCallOfACopyLeavesNoPartOfItUnderItsName)
             partage.BaseDonnees.Execute(u"insert into scores (concours, tour) values (1, 1)"_qs);
             etats.push_back(Contenu(partage.BaseDonnees.native()));
             panne::arme(genre, apres, duree);
-            SauveBase(partage);
+            std::ignore = SauveBase(partage, RaisonCopie::Demande);
             frappe = panne::desarme();
             verifieCopies(base.dossier(), etats);
             ASSERT_FALSE(HasFailure()) << "call " << apres << " failed, and " << duree - 1 << " more";

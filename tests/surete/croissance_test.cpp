@@ -25,8 +25,8 @@ qsizetype objets(const QWidget *torvik)
 
 } // namespace
 
-// A day opens the same forms hundreds of times. VARLOTOUR_OUVERTURES gives how often each is opened; without it, as often
-// as a fraction of a second allows.
+// A day opens the same forms hundreds of times. VARLOTOUR_OUVERTURES gives how often each is opened; without it, as
+// often as a fraction of a second allows.
 TEST(Croissance, FormsOpenedAndClosedAgainAndAgainLeaveNothing)
 {
     constexpr int rodage = 8;
@@ -43,7 +43,7 @@ TEST(Croissance, FormsOpenedAndClosedAgainAndAgainLeaveNothing)
     for (const QString &nom : prog.formulaires().noms()) {
         const auto ouvreEtFerme = [&] {
             prog.partage().ConcoursCourant = concours;
-            prog.formulaires().Montre(nom);
+            prog.formulaires().Montre(NomForme(nom));
             QApplication::processEvents();
             prog.formulaires().DechargeTout();
             QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

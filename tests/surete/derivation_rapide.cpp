@@ -1,7 +1,7 @@
 #include <dlfcn.h>
 
-// The password of each file is stretched for tens of milliseconds at each opening, on purpose. Hundreds of programs that
-// start and die have no time for it: the tests that link this stretch it once, for all the files that they make.
+// The password of each file is stretched for tens of milliseconds at each opening, on purpose. Hundreds of programs
+// that start and die have no time for it: the tests that link this stretch it once, for all the files that they make.
 
 namespace {
 
@@ -33,5 +33,4 @@ int PKCS5_PBKDF2_HMAC(const char *cle, int taille, const unsigned char *sel, int
     static auto *reelle = suivante<Derivation>("PKCS5_PBKDF2_HMAC");
     return reelle(cle, taille, sel, tailleSel, iterations, resume, tailleSortie, sortie);
 }
-
 }

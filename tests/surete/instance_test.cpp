@@ -5,8 +5,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QSysInfo>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <csignal>
 #include <sys/wait.h>
@@ -88,5 +90,28 @@ TEST(UnSeulProgramme, ALockThatTellsOfNoLivingProgramShutsNobodyOut)
                                     QByteArray("99999999\nVarloTour\n") + ici + '\n'}) {
         ecritVerrou(dossier.path(), reste);
         EXPECT_EQ(refus(dossier.path()), QString()) << reste.toStdString();
+    }
+}
+
+/// A session that ends, a terminal that is closed: the base is left as by the last window.
+TEST(FinDuProgramme, ASignalClosesTheBase)
+{
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        const QTemporaryDir dossier;
+        const QString programme = dossier.filePath(u"VarloTour"_qs);
+        const QString base = dossier.filePath(u"VarloBase.mdb"_qs);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(VARLOTOUR_PROGRAMME), programme));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(VARLOTOUR_BASE), base));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(VARLOTOUR_ICONE), dossier.filePath(u"1.ico"_qs)));
+        QProcess action;
+        action.start(programme, {});
+        const QString copies = dossier.filePath(u"sauvegardes"_qs);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !QDir(copies).entryList({u"*.mdb"_qs}).isEmpty(); }, 20000));
+        ASSERT_TRUE(QFile::exists(base + u"-shm"_qs));
+        ::kill(pid_t(action.processId()), signal);
+        ASSERT_TRUE(action.waitForFinished());
+        EXPECT_EQ(action.exitStatus(), QProcess::NormalExit) << signal;
+        EXPECT_EQ(action.exitCode(), 0);
+        EXPECT_FALSE(QFile::exists(base + u"-shm"_qs)) << "the base has not been closed";
     }
 }

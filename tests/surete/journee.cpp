@@ -1,17 +1,19 @@
 #include "journee.h"
 
-#include "app/base.h"
-#include "app/concours_courant.h"
-#include "app/sauvegarde.h"
+#include "donnees/inscription.h"
 #include "engine/routines_resultats.h"
 #include "engine/routines_tirage.h"
-#include "platform/imprimante.h"
-#include "registration/equipe_inscrite.h"
+#include "garde/reprise.h"
+#include "garde/sauvegarde.h"
+#include "papier/imprimante.h"
+#include "partage/base.h"
+#include "partage/concours_courant.h"
 
 #include <QDir>
 #include <QFile>
 
-
+using donnees::EtatTirage;
+using donnees::Retardataire;
 using store::Erreur;
 
 namespace {
@@ -42,10 +44,13 @@ void Journee::compose(quint32 graine)
 {
     const int equipes = 4 + int(graine % 5);
     inscriptions(equipes);
-    ajoute([this] { exige(CorrigeEquipe(m_partage, {m_partage.ConcoursCourant, 2, u"Corrigé"_qs, {{u"N"_qs, u"P"_qs, u"L"_qs}}})); });
-    ajoute([this] { exige(RetireEquipe(m_partage, m_partage.ConcoursCourant, 1)); });
+    ajoute([this] {
+        exige(donnees::CorrigeEquipe(m_partage.BaseDonnees,
+                                     {m_partage.ConcoursCourant, 2, u"Corrigé"_qs, {{u"N"_qs, u"P"_qs, u"L"_qs}}}));
+    });
+    ajoute([this] { exige(donnees::RetireEquipe(m_partage.BaseDonnees, m_partage.ConcoursCourant, 1)); });
     ajoute([this] { LanceTourSuivant(m_partage, m_operateur); });
-    ajoute([this] { SauveBase(m_partage); });
+    ajoute([this] { std::ignore = SauveBase(m_partage, RaisonCopie::Demande); });
     ajoute([this] { ConfirmeTirage(m_partage, m_operateur); });
     ajoute([this, equipes] { inscrit(equipes + 1); });
     for (int i = 0; i < (equipes + 1) / 2; ++i)
@@ -54,11 +59,12 @@ void Journee::compose(quint32 graine)
         ajoute([this] { LanceTourSuivant(m_partage, m_operateur); });
         for (int i = 0; i < (equipes + 1) / 2; ++i)
             ajoute([this, i] { saisit(i); });
-        ajoute([this] { SauveBase(m_partage); });
+        ajoute([this] { m_partage.BaseDonnees.native().consolide(); });
+        reprendUneCopie();
     }
     for (int fois = 0; fois < 2; ++fois) {
-        m_purges.push_back(operations());
-        ajoute([this] { PurgeBase({m_partage, m_formulaires, m_operateur}, FichiersBase()); });
+        m_remplacements.push_back(operations());
+        ajoute([this] { PurgeBase({m_partage, m_formulaires, m_operateur}, FichiersBase(), {}); });
         inscriptions(2);
     }
 }
@@ -70,18 +76,31 @@ void Journee::inscriptions(int equipes)
         ajoute([this, numero] { inscrit(numero); });
 }
 
-bool Journee::estUnePurge(int operation) const
+bool Journee::remplaceLaBase(int operation) const
 {
-    return std::find(m_purges.begin(), m_purges.end(), operation) != m_purges.end();
+    return std::find(m_remplacements.begin(), m_remplacements.end(), operation) != m_remplacements.end();
+}
+
+/// A copy and an entry that it lacks, as one: who starts anew goes by the content alone. Then the copy back in the
+/// base's place.
+void Journee::reprendUneCopie()
+{
+    ajoute([this] {
+        exige(!SauveBase(m_partage, RaisonCopie::Demande).echouee());
+        creeConcours();
+    });
+    m_remplacements.push_back(operations());
+    ajoute([this] {
+        ferme();
+        RemetCopie(m_partage, DerniereCopieSaine(m_dossier));
+        ouvre();
+    });
 }
 
 void Journee::ouvre()
 {
     const QDir dossier(m_dossier);
-    if (!dossier.exists(nomBase)) {
-        exige(ConseilBaseTemporaire(m_dossier).contains(nomBaseTemporaire));
-        exige(QFile::rename(dossier.filePath(nomBaseTemporaire), dossier.filePath(nomBase)));
-    }
+    exige(dossier.exists(nomBase) || ReprendPurge(m_dossier));
     m_partage.BaseDonnees =
         m_partage.EspaceTravail->OpenDatabase(dossier.filePath(nomBase), false, false, connexionBase);
 }
@@ -111,13 +130,13 @@ void Journee::creeConcours()
 
 void Journee::inscrit(qint64 numero)
 {
-    const EtatTirage etat = EtatDuTirage(m_partage, m_partage.ConcoursCourant);
+    const EtatTirage etat = donnees::EtatDuTirage(m_partage.BaseDonnees, m_partage.ConcoursCourant);
     const Retardataire entree = etat == EtatTirage::PasTire ? Retardataire::Aucun
         : etat == EtatTirage::Exemption                     ? Retardataire::PrendExemption
                                                             : Retardataire::NouvelleExemption;
     const QString nom = QString::number(numero);
-    exige(AjouteEquipe(m_partage, {m_partage.ConcoursCourant, numero, u"Club "_qs + nom, {{nom, nom, nom}}}, entree)
-              .has_value());
+    donnees::AjouteEquipe(m_partage.BaseDonnees,
+                          {m_partage.ConcoursCourant, numero, u"Club "_qs + nom, {{nom, nom, nom}}}, entree);
 }
 
 /// Stores the result of the match at \p place of the current round, as the results screen does.
@@ -130,7 +149,8 @@ void Journee::saisit(int place)
         rencontres.MoveNext();
     if (rencontres.Eof())
         return;
-    exige(EnregistreScore(m_partage, {QString::number(m_partage.ConcoursCourant), rencontres[u"equipe_1"].texte(),
-                                      rencontres[u"equipe_2"].texte(), QString::number(place % 2 == 0 ? 13 : 5),
-                                      QString::number(place % 2 == 0 ? 7 : 13)}));
+    exige(EnregistreScore(m_partage,
+                          {QString::number(m_partage.ConcoursCourant), rencontres[u"equipe_1"].texte(),
+                           rencontres[u"equipe_2"].texte(), QString::number(place % 2 == 0 ? 13 : 5),
+                           QString::number(place % 2 == 0 ? 7 : 13)}));
 }

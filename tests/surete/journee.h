@@ -2,8 +2,8 @@
 
 #include "commun/contenu.h"
 #include "engine/interlocuteur.h"
+#include "fenetres/formulaires.h"
 #include "maintenance/purge.h"
-#include "platform/formulaires.h"
 
 #include <functional>
 #include <vector>
@@ -20,6 +20,7 @@ public:
     std::unique_ptr<Destination> ShowPrinter() override;
     QString ShowOpen(const BoiteFichier &) override { return {}; }
     bool demande(const QString &) override { return true; }
+    bool continueSansCopie(const QString &) override { return true; }
     void informe(const QString &) override {}
     void avertit(const QString &) override {}
     void annonce(const QString &) override {}
@@ -40,7 +41,8 @@ public:
     bool estOuverte() const { return m_partage.BaseDonnees.estOuverte(); }
     /// Carries out one operation. Throws store::Erreur when it is not done.
     void fait(int operation);
-    bool estUnePurge(int operation) const;
+    /// Whether another file takes the place of the base: what is left when it fails is seen at the next start.
+    bool remplaceLaBase(int operation) const;
     QStringList contenu() { return Contenu(m_partage.BaseDonnees.native()); }
     QString integrite();
 
@@ -52,6 +54,7 @@ private:
     void creeConcours();
     void inscrit(qint64 numero);
     void saisit(int place);
+    void reprendUneCopie();
 
     QString m_dossier;
     quint32 m_graine;
@@ -61,5 +64,5 @@ private:
     ToujoursOui m_operateur;
     Formulaires m_formulaires;
     std::vector<std::function<void()>> m_operations;
-    std::vector<int> m_purges;
+    std::vector<int> m_remplacements;
 };

@@ -1,5 +1,8 @@
 #include "panne_systeme.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -13,6 +16,23 @@ panne::Genre genreArme = panne::Genre::Aucune;
 int reste = 0;
 int aEchouer = 0;
 bool aFrappe = false;
+
+QStringList appels;
+bool noteAppels = false;
+
+void retiens(const QString &appel, const QString &chemin)
+{
+    if (std::exchange(noteAppels, false)) { // what is asked here is no call of the program
+        appels += appel + u' ' + QFileInfo(chemin).fileName();
+        noteAppels = true;
+    }
+}
+
+void retiensSync(int fd)
+{
+    if (noteAppels)
+        retiens(u"sync"_qs, QFile::symLinkTarget(u"/proc/self/fd/%1"_qs.arg(fd)));
+}
 
 bool mortelle()
 {
@@ -38,7 +58,9 @@ bool echoue(bool ecriture)
 /// Pipes and events of the process itself are no files.
 bool estUnFichier(int fd)
 {
-    struct stat infos{};
+    struct stat infos
+    {
+    };
     return fstat(fd, &infos) == 0 && S_ISREG(infos.st_mode);
 }
 
@@ -62,6 +84,18 @@ void panne::arme(Genre genre, int apres, int duree)
     aFrappe = false;
 }
 
+void panne::note()
+{
+    appels.clear();
+    noteAppels = true;
+}
+
+QStringList panne::notes()
+{
+    noteAppels = false;
+    return appels;
+}
+
 bool panne::desarme()
 {
     genreArme = Genre::Aucune;
@@ -80,8 +114,15 @@ ssize_t pwrite64(int fd, const void *octets, size_t taille, off64_t place)
     return ecrit(fd, taille, [&](size_t n) { return syscall(SYS_pwrite64, fd, octets, n, place); });
 }
 
+int fsync(int fd)
+{
+    retiensSync(fd);
+    return echoue(false) ? -1 : int(syscall(SYS_fsync, fd));
+}
+
 int fdatasync(int fd)
 {
+    retiensSync(fd);
     return echoue(false) ? -1 : int(syscall(SYS_fdatasync, fd));
 }
 
@@ -102,7 +143,7 @@ int renameat2(int ancien, const char *de, int nouveau, const char *vers, unsigne
 
 int rename(const char *de, const char *vers) noexcept
 {
+    retiens(u"renomme"_qs, QString::fromUtf8(vers));
     return echoue(false) ? -1 : int(syscall(SYS_rename, de, vers));
 }
-
 }

@@ -26,10 +26,7 @@ protected:
         m_base = m_moteur.Workspaces(0).OpenDatabase(fichier, false, false, u";PWD=qz7tkn42"_qs);
     }
 
-    qint64 nombre(const QString &instruction)
-    {
-        return m_base.native().valeurUnique(instruction).entierOu(-999);
-    }
+    qint64 nombre(const QString &instruction) { return m_base.native().valeurUnique(instruction).entierOu(-999); }
 
     QTemporaryDir m_dossier;
     QByteArray m_neuve;

@@ -1,8 +1,8 @@
 #include "fabrique.h"
 
-#include "app/base.h"
 #include "controle_langues.h"
 #include "lecteur.h"
+#include "partage/base.h"
 #include "store/base_native.h"
 #include "store/erreur.h"
 #include "store/fichiers.h"
@@ -80,7 +80,9 @@ class Remplissage
 {
 public:
     Remplissage(BaseNative &base, const FichierDonnees &fichier, const Rangement &rangement)
-        : m_base(base), m_fichier(fichier), m_rangement(rangement)
+        : m_base(base)
+        , m_fichier(fichier)
+        , m_rangement(rangement)
     {
         reconnaitColonnes();
     }
@@ -111,8 +113,7 @@ private:
             while (i < modele.colonnes() && modele.nomColonne(i).compare(nom, Qt::CaseInsensitive) != 0)
                 ++i;
             if (i == modele.colonnes())
-                echoue(m_fichier.ligneEntete,
-                       u"la table %1 n'a pas de colonne « %2 »"_qs.arg(m_rangement.table, nom));
+                echoue(m_fichier.ligneEntete, u"la table %1 n'a pas de colonne « %2 »"_qs.arg(m_rangement.table, nom));
             m_colonnes.append({place, nom, modele.typeColonne(i)});
         }
         for (const QString &nom : m_rangement.cle + m_rangement.obligatoires) {
@@ -129,8 +130,9 @@ private:
         if (m_rangement.langue)
             noms.append(u"lang"_qs);
         const QStringList places(noms.size(), u"?"_qs);
-        return Instruction(m_base, u"insert into \"%1\" (%2) values (%3)"_qs.arg(
-                                       m_rangement.table, noms.join(u", "), places.join(u", ")));
+        return Instruction(m_base,
+                           u"insert into \"%1\" (%2) values (%3)"_qs.arg(m_rangement.table, noms.join(u", "),
+                                                                         places.join(u", ")));
     }
 
     Valeur lit(const LigneDonnees &ligne, const Colonne &colonne) const
@@ -143,8 +145,8 @@ private:
         }
         Valeur valeur = valeurDe(*champ, colonne.type);
         if (valeur.estNull())
-            echoue(ligne.numero, u"« %1 » n'est pas %2 (colonne « %3 »)"_qs.arg(*champ, attendu(colonne.type),
-                                                                                colonne.nom));
+            echoue(ligne.numero,
+                   u"« %1 » n'est pas %2 (colonne « %3 »)"_qs.arg(*champ, attendu(colonne.type), colonne.nom));
         if (m_rangement.table == u"langues" && colonne.nom.compare(u"num", Qt::CaseInsensitive) == 0
             && (valeur.entier() < 0 || valeur.entier() > dernierMessage))
             echoue(ligne.numero, u"le message %1 n'est pas entre 0 et %2"_qs.arg(*champ).arg(dernierMessage));
@@ -225,19 +227,55 @@ void remplitLangues(BaseNative &base, const QDir &dossier)
         throw ErreurDonnees(presents.first(), 0, u"aucune langue de %1 n'a ce code"_qs.arg(nom));
 }
 
+/// All that is told by language.
+void remplitTout(BaseNative &base, const QDir &dossier)
+{
+    remplitLangues(base, dossier);
+    remplit(base, dossier, u"typconcours.txt"_qs,
+            {u"typconcours"_qs, {u"lang"_qs, u"type"_qs}, {u"Libelle"_qs, u"Nbjoueurs"_qs}, {}, {}});
+    remplit(base, dossier, u"categories.txt"_qs, {u"catégories"_qs, {u"lang"_qs, u"Libelle"_qs}, {}, {}, {}});
+}
+
 void ecrit(const QDir &dossier, const QString &fichier)
 {
     BaseNative base(fichier, motDePasseBase, BaseNative::Mode::Creation);
     base.execute(u"begin"_qs);
     creeTables(base, dossier);
-    remplitLangues(base, dossier);
-    remplit(base, dossier, u"typconcours.txt"_qs,
-            {u"typconcours"_qs, {u"lang"_qs, u"type"_qs}, {u"Libelle"_qs, u"Nbjoueurs"_qs}, {}, {}});
-    remplit(base, dossier, u"categories.txt"_qs, {u"catégories"_qs, {u"lang"_qs, u"Libelle"_qs}, {}, {}, {}});
+    remplitTout(base, dossier);
     remplit(base, dossier, u"clubs.txt"_qs, {u"societes"_qs, {u"societe"_qs}, {u"codesoc"_qs}, {}, {}});
     base.execute(u"commit"_qs);
     // The program works in this mode: set here, its first start leaves the file as it is.
-    base.metEnService();
+    base.executeScript(u"pragma journal_mode = wal"_qs);
+}
+
+/// The statements that make the indexes and triggers of \p base where they are missing.
+QStringList indexAbsents(BaseNative &base)
+{
+    QStringList script;
+    Instruction lecture(base,
+                        u"select sql from sqlite_master where type in ('index', 'trigger') and sql is not null "
+                        u"order by rowid"_qs);
+    while (lecture.avance()) {
+        const QString sql = lecture.valeur(0).texte().simplified();
+        for (const QString &debut : {u"create unique index"_qs, u"create index"_qs, u"create trigger"_qs}) {
+            if (sql.startsWith(debut, Qt::CaseInsensitive))
+                script += debut + u" if not exists"_qs + sql.mid(debut.size());
+        }
+    }
+    return script;
+}
+
+/// The statement that adds the rows of \p table for which \p manque holds.
+QString absents(BaseNative &base, const QString &table, const QStringList &champs, const QString &manque)
+{
+    const QString liste = champs.join(u", "_qs);
+    const QString lignes = base.valeurUnique(u"select group_concat('(' || quote(%1) || ')', ', ') from %2"_qs
+                                                 .arg(champs.join(u") || ', ' || quote("_qs), table))
+                               .texte();
+    return u"with originaux(%1) as (values %2) insert into %3 (%1) select %1 from originaux where %4"_qs.arg(liste,
+                                                                                                             lignes,
+                                                                                                             table,
+                                                                                                             manque);
 }
 
 void efface(const QString &fichier)
@@ -268,15 +306,21 @@ void ecritComplement(const QString &dossier, const QString &cible)
 {
     BaseNative base(u":memory:"_qs, motDePasseBase, BaseNative::Mode::Creation);
     creeTables(base, dossier);
-    remplitLangues(base, dossier);
-    const QString lignes = base.valeurUnique(u"select group_concat('(' || lang || ', ' || num || ', ' || quote(mes) "
-                                             u"|| ')', ',' || char(10)) from langues"_qs).texte();
-    const QString script = u"with originaux(lang, num, mes) as (values\n%1)\n"
-                           u"insert into langues (lang, num, mes) select lang, num, mes from originaux\n"
-                           u"where lang in (select lang from langues)\n"
-                           u"and lang * 1000 + num not in (select lang * 1000 + num from langues)\n"_qs.arg(lignes);
+    remplitTout(base, dossier);
+    QStringList script = indexAbsents(base);
+    script += {
+        // A base has chosen its active language, unless it has no language at all.
+        absents(base, u"traduc"_qs, {u"numero"_qs, u"traducteur"_qs, u"icone"_qs, u"designation"_qs, u"actif"_qs},
+                u"numero not in (select numero from traduc)"_qs)
+            .replace(u", actif from"_qs, u", case when exists (select 1 from traduc) then 0 else actif end from"_qs),
+        absents(base, u"langues"_qs, {u"lang"_qs, u"num"_qs, u"mes"_qs},
+                u"lang * 1000 + num not in (select lang * 1000 + num from langues)"_qs),
+        absents(base, u"typconcours"_qs, {u"lang"_qs, u"type"_qs, u"Libelle"_qs, u"Nbjoueurs"_qs},
+                u"lang not in (select lang from typconcours)"_qs),
+        absents(base, u"catégories"_qs, {u"lang"_qs, u"Libelle"_qs}, u"lang not in (select lang from catégories)"_qs),
+    };
     QSaveFile fichier(cible);
-    const QByteArray octets = script.toUtf8();
+    const QByteArray octets = script.join(u'\n').toUtf8();
     if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size() || !fichier.commit())
         throw ErreurDonnees(cible, 0, u"écriture impossible (%1)"_qs.arg(fichier.errorString()));
 }

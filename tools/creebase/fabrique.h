@@ -7,6 +7,7 @@
 /// engine fails; then nothing is left behind and an older file stays as it was.
 void creeBase(const QString &dossier, const QString &cible);
 
-/// Writes into the file \p cible the statement that gives a base in use the messages that it lacks, for each language
-/// that it has. Texts that are there stay as they are. Throws like creeBase.
+/// Writes into the file \p cible, one to a line, the statements that give a base in use what it lacks: indexes and
+/// triggers, languages, messages, the types and categories of a language that has none. What is there stays as it is.
+/// Throws like creeBase.
 void ecritComplement(const QString &dossier, const QString &cible);

@@ -39,7 +39,9 @@ class Decoupe
 {
 public:
     Decoupe(const QString &fichier, int numero, QStringView ligne)
-        : m_fichier(fichier), m_numero(numero), m_ligne(ligne)
+        : m_fichier(fichier)
+        , m_numero(numero)
+        , m_ligne(ligne)
     {
     }
 

@@ -25,7 +25,7 @@ int main(int argc, char **argv)
     const QCommandLineOption remplace(u"remplace"_qs,
                                       u"Remplace la base qui existe déjà, avec tout ce qu'elle contient."_qs);
     const QCommandLineOption complement(
-        u"complement"_qs, u"Écrit à la place de la base l'instruction qui donne ses messages manquants à une base."_qs);
+        u"complement"_qs, u"Écrit à la place de la base les instructions qui donnent à une base ce qui lui manque."_qs);
     QCommandLineParser options;
     options.setApplicationDescription(u"Fabrique la base de VarloTour à partir de ses lignes lisibles."_qs);
     options.addHelpOption();

@@ -1,6 +1,7 @@
 #include "bilan.h"
 
-#include "app/base.h"
+#include "partage/base.h"
+#include "pilote/regles.h"
 #include "store/database.h"
 
 #include <algorithm>
@@ -9,16 +10,9 @@ namespace demonstration {
 
 namespace {
 
-constexpr int gagnant = 13;
-
 std::pair<int, int> paire(int equipe1, int equipe2)
 {
     return std::minmax(equipe1, equipe2);
-}
-
-bool premiereGagne(int score1)
-{
-    return score1 == gagnant;
 }
 
 } // namespace
@@ -37,20 +31,23 @@ Bilan::Bilan(const QString &base, const Plateau &plateau, const Options &options
 void Bilan::lit(const QString &base)
 {
     store::Database ouverte = store::DBEngine().Workspaces(0).OpenDatabase(base, false, false, connexionBase);
-    store::Recordset equipes = ouverte.OpenRecordset(u"select * from equipes where concours = 1 and doublon = 0",
-                                                     store::dbOpenSnapshot);
+    store::Recordset equipes =
+        ouverte.OpenRecordset(u"select * from equipes where concours = 1 and doublon = 0", store::dbOpenSnapshot);
     for (; !equipes.Eof(); equipes.MoveNext())
         m_clubs[int(equipes[u"equipe"].entier())] = equipes[u"societe"].texte();
     store::Recordset scores = ouverte.OpenRecordset(u"select * from scores where concours = 1", store::dbOpenSnapshot);
     for (; !scores.Eof(); scores.MoveNext()) {
         const size_t tour = size_t(scores[u"tour"].entier());
         m_tours.resize(std::max(m_tours.size(), tour));
-        Rencontre &rencontre = m_tours[tour - 1].emplace_back();
-        rencontre.equipe1 = int(scores[u"Equipe_1"].entier());
-        rencontre.equipe2 = int(scores[u"Equipe_2"].entierOu(0));
-        rencontre.score1 = int(scores[u"score_1"].entierOu(0));
-        rencontre.score2 = int(scores[u"score_2"].entierOu(0));
-        rencontre.jouee = !scores[u"score_1"].estNull() && !scores[u"score_2"].estNull();
+        const auto score = [&](QStringView champ) {
+            return scores[champ].estNull() ? std::nullopt : std::optional(int(scores[champ].entier()));
+        };
+        m_rencontres.push_back({.tour = int(tour),
+                                .equipe1 = int(scores[u"Equipe_1"].entier()),
+                                .equipe2 = int(scores[u"Equipe_2"].entierOu(0)),
+                                .score1 = score(u"score_1"),
+                                .score2 = score(u"score_2")});
+        m_tours[tour - 1].push_back(m_rencontres.back());
     }
 }
 
@@ -78,35 +75,22 @@ void Bilan::verifieNombreDeTours()
 void Bilan::verifieTour(int tour)
 {
     m_comptes.emplace_back();
-    verifiePresences(tour);
+    verifieRegles(tour);
     verifieScores(tour);
-    if (tour > 1) {
-        verifieNiveaux(tour);
-        verifieExempts(tour);
-        verifieRepetitions(tour);
-    }
     termineTour(tour);
 }
 
-/// The first draw may leave a team out, when the field is odd and the bye has been exchanged; from then on every team
-/// that was drawn plays each round.
-void Bilan::verifiePresences(int tour)
+/// The first draw may leave a team out, when the field is odd and the bye has been exchanged.
+void Bilan::verifieRegles(int tour)
 {
-    std::set<int> vues;
-    for (const Rencontre &rencontre : m_tours[size_t(tour) - 1]) {
-        for (const int equipe : {rencontre.equipe1, rencontre.equipe2}) {
-            if (equipe == 0)
-                continue;
-            if (!vues.insert(equipe).second)
-                faute(tour, u"l'équipe %1 joue deux fois."_qs.arg(equipe));
-            if (!m_clubs.contains(equipe))
-                faute(tour, u"l'équipe %1 n'est pas inscrite."_qs.arg(equipe));
-            if (tour > 1 && !m_niveaux.contains(equipe))
-                faute(tour, u"l'équipe %1 apparaît en cours de route."_qs.arg(equipe));
-        }
+    for (const Rencontre &r : m_rencontres) {
+        if (r.tour == tour && (!m_clubs.contains(r.equipe1) || (r.equipe2 > 0 && !m_clubs.contains(r.equipe2))))
+            faute(tour, u"une équipe de %1 - %2 n'est pas inscrite."_qs.arg(r.equipe1).arg(r.equipe2));
     }
-    if (tour > 1 && vues.size() != m_niveaux.size())
-        faute(tour, u"%1 équipes jouent sur %2."_qs.arg(vues.size()).arg(m_niveaux.size()));
+    const QString constat =
+        pilote::fauteDuTour(m_rencontres, tour, {[&](const Rencontre &r) { return repetitionPermise(r); }});
+    if (!constat.isEmpty())
+        faute(tour, constat);
 }
 
 void Bilan::verifieScores(int tour)
@@ -114,71 +98,26 @@ void Bilan::verifieScores(int tour)
     for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
         if (r.equipe2 == 0)
             continue;
-        if (!r.jouee)
+        if (!r.score1 || !r.score2)
             faute(tour, u"le résultat %1 - %2 manque."_qs.arg(r.equipe1).arg(r.equipe2));
-        else if ((r.score1 == gagnant) == (r.score2 == gagnant))
+        else if ((r.score1 == moteur::scoreGagnant) == (r.score2 == moteur::scoreGagnant))
             faute(tour, u"le résultat %1 - %2 n'a pas un gagnant."_qs.arg(r.equipe1).arg(r.equipe2));
     }
-}
-
-/// Pairs are of one level, but for the one team that each level may take from the next level that has any.
-void Bilan::verifieNiveaux(int tour)
-{
-    std::set<int> presents;
-    for (const auto &[equipe, niveau] : m_niveaux)
-        presents.insert(niveau);
-    std::set<int> recoivent;
-    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
-        if (r.equipe2 == 0)
-            continue;
-        const auto [bas, haut] = std::minmax(m_niveaux[r.equipe1], m_niveaux[r.equipe2]);
-        if (bas == haut)
-            continue;
-        if (!recoivent.insert(haut).second)
-            faute(tour, u"deux équipes sont remontées au niveau %1."_qs.arg(haut));
-        if (std::next(presents.find(bas)) != presents.find(haut))
-            faute(tour, u"la rencontre %1 - %2 saute un niveau."_qs.arg(r.equipe1).arg(r.equipe2));
-    }
-}
-
-void Bilan::verifieExempts(int tour)
-{
-    int plusBas = tour;
-    for (const auto &[equipe, niveau] : m_niveaux)
-        plusBas = std::min(plusBas, niveau);
-    int exempts = 0;
-    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
-        if (r.equipe2 != 0)
-            continue;
-        ++exempts;
-        if (m_niveaux[r.equipe1] != plusBas)
-            faute(tour, u"l'équipe %1, exempte, n'est pas du niveau le plus bas."_qs.arg(r.equipe1));
-    }
-    if (exempts != int(m_niveaux.size() % 2))
-        faute(tour, u"%1 exempts pour %2 équipes."_qs.arg(exempts).arg(m_niveaux.size()));
 }
 
 /// A repeat is told of, or could not be helped. The draw looks for another opponent in the rows that follow and then
 /// from the top of its table, as long as the level stays the same: only in the highest level has it seen every pair,
 /// and in the others a repeat may stand untold.
-void Bilan::verifieRepetitions(int tour)
+bool Bilan::repetitionPermise(const Rencontre &r)
 {
-    const Tour &rencontres = m_tours[size_t(tour) - 1];
     int plusHaut = 0;
     for (const auto &[equipe, niveau] : m_niveaux)
         plusHaut = std::max(plusHaut, niveau);
-    for (const Rencontre &r : rencontres) {
-        if (r.equipe2 == 0 || !m_paires.contains(paire(r.equipe1, r.equipe2)))
-            continue;
-        ++m_comptes.back().repetitions;
-        if (m_avertis.contains(tour))
-            continue;
-        ++m_silencieuses;
-        if (niveauDe(r) == plusHaut && echangePossible(rencontres, r))
-            faute(tour, u"%1 - %2 se rencontrent encore, sans avertissement, alors qu'un échange était possible."_qs
-                            .arg(r.equipe1)
-                            .arg(r.equipe2));
-    }
+    ++m_comptes.back().repetitions;
+    if (m_avertis.contains(r.tour))
+        return true;
+    ++m_silencieuses;
+    return niveauDe(r) < plusHaut || !echangePossible(m_tours[size_t(r.tour) - 1], r);
 }
 
 /// Level of a pair: that of its better team.
@@ -216,9 +155,10 @@ void Bilan::termineTour(int tour)
         comptes.exempts += r.equipe2 == 0;
         comptes.rencontres += r.equipe2 != 0;
         comptes.memeClub += memeClub(r);
-        m_niveaux[r.equipe1] += r.equipe2 == 0 || premiereGagne(r.score1);
+        const bool premiere = r.equipe2 == 0 || r.score1 == moteur::scoreGagnant;
+        m_niveaux[r.equipe1] += premiere;
         if (r.equipe2 != 0)
-            m_niveaux[r.equipe2] += !premiereGagne(r.score1) && r.score2 == gagnant;
+            m_niveaux[r.equipe2] += !premiere && r.score2 == moteur::scoreGagnant;
     }
 }
 
@@ -238,15 +178,14 @@ QStringList Bilan::lignes() const
                        .arg(c.repetitions)
                        .arg(c.memeClub);
     }
-    QStringList lignes{u"Équipes : %1 ; tours : %2 ; rencontres : %3"_qs.arg(m_clubs.size())
-                           .arg(m_tours.size())
-                           .arg(total.rencontres),
-                       u"Exempts : %1 ; rencontres répétées : %2, dont %3 sans avertissement ; tours avertis : %4"_qs
-                           .arg(total.exempts)
-                           .arg(total.repetitions)
-                           .arg(m_silencieuses)
-                           .arg(m_avertis.size()),
-                       u"Rencontres entre équipes d'un même club : %1"_qs.arg(total.memeClub)};
+    QStringList lignes{
+        u"Équipes : %1 ; tours : %2 ; rencontres : %3"_qs.arg(m_clubs.size()).arg(m_tours.size()).arg(total.rencontres),
+        u"Exempts : %1 ; rencontres répétées : %2, dont %3 sans avertissement ; tours avertis : %4"_qs
+            .arg(total.exempts)
+            .arg(total.repetitions)
+            .arg(m_silencieuses)
+            .arg(m_avertis.size()),
+        u"Rencontres entre équipes d'un même club : %1"_qs.arg(total.memeClub)};
     if (const size_t oubliees = m_clubs.size() - m_niveaux.size(); oubliees > 0)
         lignes += u"Équipes que le premier tirage a laissées de côté : %1"_qs.arg(oubliees);
     return lignes + parTour;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/rencontre.h"
 #include "plateau.h"
 
 #include <QStringList>
@@ -24,14 +25,7 @@ public:
     const QStringList &fautes() const { return m_fautes; }
 
 private:
-    struct Rencontre
-    {
-        int equipe1 = 0;
-        int equipe2 = 0; ///< 0 for a bye.
-        int score1 = 0;
-        int score2 = 0;
-        bool jouee = false;
-    };
+    using Rencontre = moteur::Rencontre;
     using Tour = std::vector<Rencontre>;
     using Paire = std::pair<int, int>;
     struct Comptes
@@ -45,11 +39,9 @@ private:
     void lit(const QString &base);
     void verifieNombreDeTours();
     void verifieTour(int tour);
-    void verifiePresences(int tour);
+    void verifieRegles(int tour);
     void verifieScores(int tour);
-    void verifieNiveaux(int tour);
-    void verifieExempts(int tour);
-    void verifieRepetitions(int tour);
+    bool repetitionPermise(const Rencontre &r);
     void termineTour(int tour);
     bool echangePossible(const Tour &rencontres, const Rencontre &repetee) const;
     int niveauDe(const Rencontre &rencontre) const;
@@ -60,6 +52,7 @@ private:
     const Options &m_options;
     const std::set<int> &m_avertis;
     std::map<int, QString> m_clubs; ///< Club of each registered team, from the base.
+    std::vector<Rencontre> m_rencontres;
     std::vector<Tour> m_tours;
     std::map<int, int> m_niveaux; ///< Matches won before the round in hand, of every team that has been drawn.
     std::set<Paire> m_paires; ///< Meetings before the round in hand.

@@ -1,7 +1,7 @@
 #include "boites_pilotees.h"
 
 #include "incident.h"
-#include "platform/destinations.h"
+#include "papier/destinations.h"
 
 #include <QApplication>
 #include <QInputDialog>

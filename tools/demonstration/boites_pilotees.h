@@ -1,7 +1,7 @@
 #pragma once
 
+#include "fenetres/boites.h"
 #include "photographe.h"
-#include "platform/boites.h"
 
 #include <QHash>
 #include <QStringList>
@@ -34,7 +34,10 @@ enum class Boite {
 class BoitesPilotees : public BoitesQt
 {
 public:
-    explicit BoitesPilotees(Photographe &photographe) : m_photographe(photographe) {}
+    explicit BoitesPilotees(Photographe &photographe)
+        : m_photographe(photographe)
+    {
+    }
 
     /// A box whose text holds \p extrait is a \p boite, and gets \p reponse; the first one is taken as picture
     /// \p image.

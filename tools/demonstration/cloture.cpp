@@ -1,7 +1,7 @@
 #include "cloture.h"
 
-#include "app/base.h"
-#include "app/routines.h"
+#include "partage/base.h"
+#include "partage/routines.h"
 
 #include <QAction>
 #include <QDir>

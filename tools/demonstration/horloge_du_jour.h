@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/horloge.h"
+#include "partage/horloge.h"
 
 namespace demonstration {
 

@@ -1,6 +1,6 @@
 #include "impressions.h"
 
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -19,7 +19,7 @@ const QString feuilles = u"Resusoc"_qs;
 
 QStringList Impressions::fichiers()
 {
-    return {u"tirage-tour1.pdf"_qs, u"classement.pdf"_qs,     u"classement-detail.pdf"_qs,
+    return {u"tirage-tour1.pdf"_qs, u"classement.pdf"_qs,      u"classement-detail.pdf"_qs,
             u"palmares.pdf"_qs,     u"palmares-detail.pdf"_qs, u"equipe-club.pdf"_qs};
 }
 

@@ -129,19 +129,19 @@ void Inscription::corrige(const EquipeDuJour &equipe)
 void Inscription::verifieBase(const EquipeDuJour &equipe, const QString &nom) const
 {
     store::Database &base = m_programme.partage().BaseDonnees;
-    store::Recordset lignes = base.OpenRecordset(
-        u"select * from equipes where concours = %1 and equipe = %2 order by doublon"_qs
-            .arg(m_programme.partage().ConcoursCourant)
-            .arg(equipe.numero),
-        store::dbOpenSnapshot);
+    store::Recordset lignes =
+        base.OpenRecordset(u"select * from equipes where concours = %1 and equipe = %2 order by doublon"_qs
+                               .arg(m_programme.partage().ConcoursCourant)
+                               .arg(equipe.numero),
+                           store::dbOpenSnapshot);
     int place = 0;
     for (; !lignes.Eof(); lignes.MoveNext(), ++place) {
         exige(place < int(equipe.joueurs.size()), u"L'équipe %1 a trop de joueurs."_qs.arg(equipe.numero));
         const Joueur &joueur = equipe.joueurs[size_t(place)];
         exige(lignes[u"nom"].texte() == (place == 0 ? nom : joueur.nom) && lignes[u"prenom"].texte() == joueur.prenom
                   && lignes[u"licence"].texte() == joueur.licence && lignes[u"societe"].texte() == equipe.club,
-              u"Le joueur %1 de l'équipe %2 n'est pas enregistré tel qu'il a été saisi."_qs.arg(place + 1)
-                  .arg(equipe.numero));
+              u"Le joueur %1 de l'équipe %2 n'est pas enregistré tel qu'il a été saisi."_qs.arg(place + 1).arg(
+                  equipe.numero));
     }
     exige(place == int(equipe.joueurs.size()),
           u"L'équipe %1 est enregistrée avec %2 joueur(s)."_qs.arg(equipe.numero).arg(place));

@@ -56,7 +56,7 @@ void Journee::demarre()
 {
     m_main.demarre();
     prevoitBoites();
-    m_photographe.prendBureau(u"accueil", *m_main.fenetre(u"Torvik"_qs));
+    m_photographe.prendBureau(u"accueil", *m_main.fenetre(u"Torvik"_qs), {u"Accueil"_qs});
 }
 
 void Journee::prevoitBoites()
@@ -121,7 +121,7 @@ void Journee::inscritEquipes()
             m_inscription.corrige(m_plateau.equipe(numero));
     }
     m_photographe.prend(u"clubs", *m_main.fenetre(u"Listesoc"_qs));
-    m_photographe.prendBureau(u"bureau-equipes", *m_main.fenetre(u"Torvik"_qs));
+    m_photographe.prendBureau(u"bureau-equipes", *m_main.fenetre(u"Torvik"_qs), {u"Eequipes"_qs, u"Listesoc"_qs});
     dit(u"Inscription : %1 équipes, %2 clubs"_qs.arg(presentes).arg(m_boites.fois(Boite::ClubNouveau)));
 }
 

@@ -1,10 +1,10 @@
+#include "aspect/apparence.h"
+#include "aspect/echelle.h"
 #include "bilan.h"
 #include "cloture.h"
 #include "ecran.h"
 #include "incident.h"
 #include "journee.h"
-#include "ui/apparence.h"
-#include "ui/echelle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -24,8 +24,9 @@ const QString compteRendu = u"demonstration.txt"_qs;
 
 void copie(const QString &source, const QString &cible)
 {
-    exige(QFile::copy(source, cible), u"Le fichier %1 ne peut pas être copié dans %2."_qs.arg(
-                                          QDir::toNativeSeparators(source), QDir::toNativeSeparators(cible)));
+    exige(QFile::copy(source, cible),
+          u"Le fichier %1 ne peut pas être copié dans %2."_qs.arg(QDir::toNativeSeparators(source),
+                                                                  QDir::toNativeSeparators(cible)));
     QFile::setPermissions(cible, QFile::permissions(cible) | QFile::WriteOwner);
 }
 

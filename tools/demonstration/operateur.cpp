@@ -1,14 +1,9 @@
 #include "operateur.h"
 
-#include "app/torvik.h"
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPointer>
 #include <QTest>
 #include <QWindow>
@@ -29,12 +24,6 @@ void metDevant(QWidget &fenetre)
           u"La fenêtre %1 ne vient pas devant."_qs.arg(fenetre.objectName()));
 }
 
-/// Key of a character, accents included, which the ready-made clicks of whole texts do not know.
-Qt::Key toucheDe(QChar lettre)
-{
-    return Qt::Key(lettre.toUpper().unicode());
-}
-
 QString nomDuFocus()
 {
     const QWidget *controle = QApplication::focusWidget();
@@ -46,27 +35,9 @@ QString nomDuFocus()
 
 QWidget *Operateur::fenetre(const QString &forme) const
 {
-    QWidget *trouvee = nullptr;
-    if (forme == u"Torvik")
-        trouvee = m_programme.torvik();
-    else
-        trouvee = m_programme.formulaires().forme(forme);
-    exige(trouvee != nullptr && trouvee->isVisible(), u"La fenêtre %1 n'est pas ouverte."_qs.arg(forme));
+    QWidget *trouvee = Gestes::fenetre(forme);
+    exige(trouvee->isVisible(), u"La fenêtre %1 n'est pas ouverte."_qs.arg(forme));
     return trouvee;
-}
-
-QString Operateur::texte(const QString &forme, const QString &nom) const
-{
-    const QWidget *widget = controle(forme, nom);
-    if (const auto *champ = qobject_cast<const QLineEdit *>(widget))
-        return champ->text();
-    if (const auto *combo = qobject_cast<const QComboBox *>(widget))
-        return combo->currentText();
-    if (const auto *bouton = qobject_cast<const QAbstractButton *>(widget))
-        return bouton->text();
-    const auto *etiquette = qobject_cast<const QLabel *>(widget);
-    exige(etiquette != nullptr, u"%1.%2 n'a pas de texte."_qs.arg(forme, nom));
-    return etiquette->text();
 }
 
 void Operateur::demarre()
@@ -76,30 +47,10 @@ void Operateur::demarre()
     exige(QTest::qWaitForWindowActive(fenetre(u"Accueil"_qs)), u"Accueil ne vient pas devant."_qs);
 }
 
-QWidget *Operateur::cible() const
-{
-    QWidget *controle = QApplication::focusWidget();
-    exige(controle != nullptr, u"Une touche est frappée, et aucun contrôle n'a le focus."_qs);
-    return controle;
-}
-
 void Operateur::apres() const
 {
     QCoreApplication::processEvents();
     exige(m_boites.faute().isEmpty(), m_boites.faute());
-}
-
-void Operateur::tape(const QString &texte)
-{
-    for (const QChar lettre : texte)
-        QTest::sendKeyEvent(QTest::Click, cible(), toucheDe(lettre), QString(lettre), Qt::NoModifier);
-    apres();
-}
-
-void Operateur::touche(Qt::Key touche, Qt::KeyboardModifiers avec)
-{
-    QTest::keyClick(cible(), touche, avec);
-    apres();
 }
 
 void Operateur::remplace(const QString &texte)

@@ -1,25 +1,27 @@
 #pragma once
 
-#include "app/programme.h"
 #include "boites_pilotees.h"
 #include "incident.h"
-
-#include <QWidget>
+#include "pilote/gestes.h"
 
 class FlexGrid;
 
 namespace demonstration {
 
-/// The hands at the table: types into whatever has the focus, clicks on what can be seen. After each gesture an
-/// unexpected box ends the day.
-class Operateur
+/// The hands at the table: they find and click only what can be seen. After each gesture an unexpected box ends the
+/// day.
+class Operateur final : public pilote::Gestes
 {
 public:
-    Operateur(Programme &programme, BoitesPilotees &boites) : m_programme(programme), m_boites(boites) {}
+    Operateur(Programme &programme, BoitesPilotees &boites)
+        : m_programme(programme)
+        , m_boites(boites)
+    {
+    }
 
     /// Starts the program and waits for its welcome window.
     void demarre();
-    /// Control \p nom of the loaded form \p forme.
+    /// Control, or timer, \p nom of the open form \p forme.
     template<typename T = QWidget>
     T *controle(const QString &forme, const QString &nom) const
     {
@@ -27,13 +29,8 @@ public:
         exige(trouve != nullptr, u"%1 n'a pas de contrôle %2."_qs.arg(forme, nom));
         return trouve;
     }
-    /// Window of the loaded form \p forme; the main window for "Torvik".
-    QWidget *fenetre(const QString &forme) const;
-    /// Text of the field, list, label or button \p nom.
-    QString texte(const QString &forme, const QString &nom) const;
+    QWidget *fenetre(const QString &forme) const override;
 
-    void tape(const QString &texte);
-    void touche(Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier);
     void entree() { touche(Qt::Key_Return); }
     /// Types \p texte over what the field holds.
     void remplace(const QString &texte);
@@ -50,9 +47,9 @@ public:
 
 private:
     QPoint place(const QWidget &controle) const;
-    QWidget *cible() const;
     void ecarteSouris(const QWidget &fenetre, QPoint point) const;
-    void apres() const;
+    Programme &programmeTenu() const override { return m_programme; }
+    void apres() const override;
 
     Programme &m_programme;
     BoitesPilotees &m_boites;

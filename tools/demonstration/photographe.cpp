@@ -97,12 +97,19 @@ QString fichier(qsizetype place)
     return u"%1-%2.png"_qs.arg(place + 1, 3, 10, QChar(u'0')).arg(catalogue()[place]);
 }
 
-/// The desktop frames its windows; a picture without one has to do it.
+bool estFenetre(const QWidget &fenetre)
+{
+    return fenetre.isVisible() && (fenetre.windowType() == Qt::Window || fenetre.windowType() == Qt::Dialog);
+}
+
+/// The desktop frames its windows; a picture without one has to do it, from the corner of the frame on.
 void peintFenetre(QPainter &peintre, QWidget &fenetre, bool active)
 {
-    const QRect interieur = fenetre.geometry();
-    const QRect titre(interieur.left(), interieur.top() - hauteurTitre, interieur.width(), hauteurTitre);
-    peintre.fillRect(interieur.united(titre).adjusted(-1, -1, 1, 1), QColor(0x22, 0x38, 0x4A));
+    const QRect cadre = fenetre.frameGeometry();
+    const QRect titre(cadre.topLeft(),
+                      QSize(cadre.width(), std::max(hauteurTitre, fenetre.geometry().top() - cadre.top())));
+    const QRect interieur(QPoint(fenetre.geometry().left(), titre.bottom() + 1), fenetre.size());
+    peintre.fillRect(interieur.united(titre).adjusted(0, 0, 0, 1), QColor(0x22, 0x38, 0x4A));
     peintre.setPen(active ? QColor(Qt::white) : QColor(0xA8, 0xB4, 0xBE));
     peintre.drawText(titre.adjusted(12, 0, -12, 0), Qt::AlignVCenter | Qt::AlignLeft, fenetre.windowTitle());
     peintre.drawPixmap(interieur.topLeft(), fenetre.grab());
@@ -133,7 +140,7 @@ void Photographe::prend(QStringView nom, QWidget &widget)
         garde(nom, widget.window()->grab().toImage());
 }
 
-void Photographe::prendBureau(QStringView nom, QWidget &fond)
+void Photographe::prendBureau(QStringView nom, QWidget &fond, const QStringList &formes)
 {
     if (m_prises.contains(nom))
         return;
@@ -145,11 +152,15 @@ void Photographe::prendBureau(QStringView nom, QWidget &fond)
     std::ranges::sort(fenetres, {}, [devant](const QWidget *fenetre) {
         return std::tuple(fenetre == devant, fenetre->x(), fenetre->y(), fenetre->objectName());
     });
+    QStringList manquent = formes;
     for (QWidget *fenetre : std::as_const(fenetres)) {
-        if (fenetre->isVisible() && fenetre != &fond && fenetre->windowType() == Qt::Window)
-            peintFenetre(peintre, *fenetre, fenetre == devant);
+        if (fenetre == &fond || !estFenetre(*fenetre))
+            continue;
+        peintFenetre(peintre, *fenetre, fenetre == devant);
+        manquent.removeAll(fenetre->objectName());
     }
     peintre.end();
+    exige(manquent.isEmpty(), u"L'image « %1 » ne montre pas : %2."_qs.arg(nom, manquent.join(u", "_qs)));
     garde(nom, bureau);
 }
 

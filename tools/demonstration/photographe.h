@@ -13,12 +13,16 @@ namespace demonstration {
 class Photographe
 {
 public:
-    explicit Photographe(const QString &dossier) : m_dossier(dossier) {}
+    explicit Photographe(const QString &dossier)
+        : m_dossier(dossier)
+    {
+    }
 
     /// Picture of the window of \p widget under \p nom of the catalogue; once a day.
     void prend(QStringView nom, QWidget &widget);
-    /// Picture of the whole screen: the main window \p fond and the open windows at their places.
-    void prendBureau(QStringView nom, QWidget &fond);
+    /// Picture of the whole screen: the main window \p fond and the open windows at their places. Fails when one of
+    /// \p formes is not among them.
+    void prendBureau(QStringView nom, QWidget &fond, const QStringList &formes);
 
     /// File names of all pictures that a day can leave.
     static QStringList fichiers();

@@ -1,7 +1,7 @@
 #include "plateau.h"
 
-#include "app/base.h"
-#include "app/routines.h"
+#include "partage/base.h"
+#include "partage/routines.h"
 #include "store/database.h"
 
 #include <QDate>
@@ -10,30 +10,33 @@ namespace demonstration {
 
 namespace {
 
-const std::vector<QString> noms{
-    u"ARNAUD"_qs,  u"AUBERT"_qs,   u"BARTHÉLEMY"_qs, u"BLANC"_qs,   u"BONNET"_qs,   u"BOYER"_qs,   u"BRUN"_qs,
-    u"CHABERT"_qs, u"COULON"_qs,   u"DELORME"_qs,    u"DUMAS"_qs,   u"DUPONT"_qs,   u"DURAND"_qs,  u"ESCOFFIER"_qs,
-    u"FABRE"_qs,   u"FAURE"_qs,    u"FOURNIER"_qs,   u"GARCIN"_qs,  u"GIRAUD"_qs,   u"GUÉRIN"_qs,  u"HONORAT"_qs,
-    u"IMBERT"_qs,  u"JAUFFRET"_qs, u"JOURDAN"_qs,    u"LAMBERT"_qs, u"LE GOFF"_qs,  u"LIEUTAUD"_qs, u"MARTIN"_qs,
-    u"MEYNIER"_qs, u"MICHEL"_qs,   u"MOREL"_qs,      u"NÉGREL"_qs,  u"OLIVIER"_qs,  u"PASCAL"_qs,  u"PELLEGRIN"_qs,
-    u"PERRIN"_qs,  u"RAYNAUD"_qs,  u"REBOUL"_qs,     u"RICARD"_qs,  u"ROUX"_qs,     u"SAUVAIRE"_qs, u"SILVE"_qs,
-    u"TARDIEU"_qs, u"TOURNIAIRE"_qs, u"VIDAL"_qs,    u"VINCENT"_qs};
-const std::vector<QString> prenoms{
-    u"Alain"_qs,   u"André"_qs,   u"Bernard"_qs, u"Béatrice"_qs, u"Chantal"_qs, u"Christian"_qs, u"Claude"_qs,
-    u"Daniel"_qs,  u"Didier"_qs,  u"Émile"_qs,   u"Éric"_qs,     u"Françoise"_qs, u"Gérard"_qs,  u"Gilles"_qs,
-    u"Hélène"_qs,  u"Henri"_qs,   u"Jacques"_qs, u"Jean-Luc"_qs, u"Joëlle"_qs,  u"Loïc"_qs,      u"Lucien"_qs,
-    u"Marcel"_qs,  u"Marie-Jo"_qs, u"Maurice"_qs, u"Michèle"_qs, u"Nathalie"_qs, u"Noël"_qs,     u"Patrick"_qs,
-    u"Paul"_qs,    u"Raymond"_qs, u"René"_qs,    u"Roger"_qs,    u"Simone"_qs,  u"Sylvain"_qs,   u"Thérèse"_qs,
-    u"Yves"_qs};
-const std::vector<QString> enseignes{
-    u"Boule Ferrée"_qs,  u"Boule d'Or"_qs,   u"Amicale Bouliste"_qs, u"Joyeux Pointeurs"_qs,
-    u"Pétanque Club"_qs, u"Les Platanes"_qs, u"Carreau"_qs,          u"Cochonnet"_qs};
-const std::vector<QString> villages{
-    u"Aiglun"_qs,  u"Aubagne"_qs, u"Banon"_qs,   u"Bédoin"_qs,  u"Cabriès"_qs, u"Carcès"_qs,  u"Cotignac"_qs,
-    u"Draguignan"_qs, u"Éguilles"_qs, u"Flassans"_qs, u"Fuveau"_qs, u"Gardanne"_qs, u"Gordes"_qs, u"Istres"_qs,
-    u"Lambesc"_qs, u"Lorgues"_qs, u"Mallemort"_qs, u"Manosque"_qs, u"Mison"_qs, u"Oraison"_qs, u"Pélissanne"_qs,
-    u"Pertuis"_qs, u"Rians"_qs,   u"Rognac"_qs,  u"Salernes"_qs, u"Sisteron"_qs, u"Trets"_qs,  u"Velaux"_qs,
-    u"Vidauban"_qs, u"Volx"_qs};
+const std::vector<QString> noms{u"ARNAUD"_qs,   u"AUBERT"_qs,   u"BARTHÉLEMY"_qs, u"BLANC"_qs,      u"BONNET"_qs,
+                                u"BOYER"_qs,    u"BRUN"_qs,     u"CHABERT"_qs,    u"COULON"_qs,     u"DELORME"_qs,
+                                u"DUMAS"_qs,    u"DUPONT"_qs,   u"DURAND"_qs,     u"ESCOFFIER"_qs,  u"FABRE"_qs,
+                                u"FAURE"_qs,    u"FOURNIER"_qs, u"GARCIN"_qs,     u"GIRAUD"_qs,     u"GUÉRIN"_qs,
+                                u"HONORAT"_qs,  u"IMBERT"_qs,   u"JAUFFRET"_qs,   u"JOURDAN"_qs,    u"LAMBERT"_qs,
+                                u"LE GOFF"_qs,  u"LIEUTAUD"_qs, u"MARTIN"_qs,     u"MEYNIER"_qs,    u"MICHEL"_qs,
+                                u"MOREL"_qs,    u"NÉGREL"_qs,   u"OLIVIER"_qs,    u"PASCAL"_qs,     u"PELLEGRIN"_qs,
+                                u"PERRIN"_qs,   u"RAYNAUD"_qs,  u"REBOUL"_qs,     u"RICARD"_qs,     u"ROUX"_qs,
+                                u"SAUVAIRE"_qs, u"SILVE"_qs,    u"TARDIEU"_qs,    u"TOURNIAIRE"_qs, u"VIDAL"_qs,
+                                u"VINCENT"_qs};
+const std::vector<QString> prenoms{u"Alain"_qs,     u"André"_qs,     u"Bernard"_qs,  u"Béatrice"_qs, u"Chantal"_qs,
+                                   u"Christian"_qs, u"Claude"_qs,    u"Daniel"_qs,   u"Didier"_qs,   u"Émile"_qs,
+                                   u"Éric"_qs,      u"Françoise"_qs, u"Gérard"_qs,   u"Gilles"_qs,   u"Hélène"_qs,
+                                   u"Henri"_qs,     u"Jacques"_qs,   u"Jean-Luc"_qs, u"Joëlle"_qs,   u"Loïc"_qs,
+                                   u"Lucien"_qs,    u"Marcel"_qs,    u"Marie-Jo"_qs, u"Maurice"_qs,  u"Michèle"_qs,
+                                   u"Nathalie"_qs,  u"Noël"_qs,      u"Patrick"_qs,  u"Paul"_qs,     u"Raymond"_qs,
+                                   u"René"_qs,      u"Roger"_qs,     u"Simone"_qs,   u"Sylvain"_qs,  u"Thérèse"_qs,
+                                   u"Yves"_qs};
+const std::vector<QString> enseignes{u"Boule Ferrée"_qs,     u"Boule d'Or"_qs,    u"Amicale Bouliste"_qs,
+                                     u"Joyeux Pointeurs"_qs, u"Pétanque Club"_qs, u"Les Platanes"_qs,
+                                     u"Carreau"_qs,          u"Cochonnet"_qs};
+const std::vector<QString> villages{u"Aiglun"_qs,     u"Aubagne"_qs,   u"Banon"_qs,      u"Bédoin"_qs,   u"Cabriès"_qs,
+                                    u"Carcès"_qs,     u"Cotignac"_qs,  u"Draguignan"_qs, u"Éguilles"_qs, u"Flassans"_qs,
+                                    u"Fuveau"_qs,     u"Gardanne"_qs,  u"Gordes"_qs,     u"Istres"_qs,   u"Lambesc"_qs,
+                                    u"Lorgues"_qs,    u"Mallemort"_qs, u"Manosque"_qs,   u"Mison"_qs,    u"Oraison"_qs,
+                                    u"Pélissanne"_qs, u"Pertuis"_qs,   u"Rians"_qs,      u"Rognac"_qs,   u"Salernes"_qs,
+                                    u"Sisteron"_qs,   u"Trets"_qs,     u"Velaux"_qs,     u"Vidauban"_qs, u"Volx"_qs};
 
 const QString panachee = u"*Panachée"_qs;
 constexpr int periodeMain = 6;

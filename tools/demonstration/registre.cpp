@@ -1,7 +1,7 @@
 #include "registre.h"
 
-#include "app/routines.h"
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
+#include "partage/routines.h"
 #include "registration/fichier_equipes.h"
 
 #include <QAction>
@@ -143,8 +143,7 @@ void Registre::copieEtSupprime()
     };
     choisit(original);
     m_main.clique(m_main.controle(editeur, u"Dupliquer"_qs));
-    const qint64 copie =
-        ValeurUnique(m_programme.partage(), u"select max(concours) as maxc from concours"_qs).entier();
+    const qint64 copie = ValeurUnique(m_programme.partage(), u"select max(concours) as maxc from concours"_qs).entier();
     exige(copie != original.toLongLong() && nombre(inscrites + QString::number(copie)) == joueursInscrits,
           u"La copie du concours n'a pas toutes ses équipes."_qs);
     m_main.clique(m_main.controle(editeur, u"Command1"_qs));

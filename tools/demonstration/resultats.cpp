@@ -1,7 +1,7 @@
 #include "resultats.h"
 
 #include "app/torvik.h"
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -160,7 +160,8 @@ void Resultats::saisitScore(const Score &score)
         m_main.remplace(QString::number(score.score2));
     }
     if (tour() == 2)
-        m_photographe.prendBureau(u"bureau-resultats", *m_programme.torvik());
+        m_photographe.prendBureau(u"bureau-resultats", *m_programme.torvik(),
+                                  {forme, u"manqres"_qs, u"Groupes"_qs, u"valresu"_qs});
     m_main.entree();
 }
 
@@ -192,8 +193,8 @@ void Resultats::doubleClique(const Rencontre &rencontre, bool premierGagne)
 {
     appelle(rencontre);
     m_main.doubleClique(m_main.controle(forme, premierGagne ? u"Equipe1"_qs : u"Equipe2"_qs));
-    verifie(rencontre, premierGagne ? Score{gagnant, perdantSansPoints, false}
-                                    : Score{perdantSansPoints, gagnant, false});
+    verifie(rencontre,
+            premierGagne ? Score{gagnant, perdantSansPoints, false} : Score{perdantSansPoints, gagnant, false});
 }
 
 /// Calls a match up again and gives it another score.

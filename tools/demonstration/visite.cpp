@@ -1,6 +1,6 @@
 #include "visite.h"
 
-#include "platform/flexgrid.h"
+#include "grille/flexgrid.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -18,17 +18,17 @@ struct Langue
     QString designation;
 };
 /// French comes last: the walk ends as it began.
-const Langue chacune[] = {{u"anglais"_qs, u"English"_qs},   {u"allemand"_qs, u"Deutsch"_qs},
-                          {u"espagnol"_qs, u"Español"_qs},  {u"italien"_qs, u"Italiano"_qs},
+const Langue chacune[] = {{u"anglais"_qs, u"English"_qs},        {u"allemand"_qs, u"Deutsch"_qs},
+                          {u"espagnol"_qs, u"Español"_qs},       {u"italien"_qs, u"Italiano"_qs},
                           {u"neerlandais"_qs, u"Nederlands"_qs}, {u"francais"_qs, u"Français"_qs}};
 
-const QString formes[] = {u"Accueil"_qs,  u"Econcours"_qs, u"Eequipes"_qs, u"Ejoueurs"_qs,   u"Listesoc"_qs,
-                          u"Listco"_qs,   u"listeq"_qs,    u"listjo"_qs,   u"EResultats"_qs, u"manqres"_qs,
-                          u"valresu"_qs,  u"Groupes"_qs,   u"I_tirage"_qs, u"palmares"_qs,   u"Resusoc"_qs,
+const QString formes[] = {u"Accueil"_qs,    u"Econcours"_qs, u"Eequipes"_qs, u"Ejoueurs"_qs,   u"Listesoc"_qs,
+                          u"Listco"_qs,     u"listeq"_qs,    u"listjo"_qs,   u"EResultats"_qs, u"manqres"_qs,
+                          u"valresu"_qs,    u"Groupes"_qs,   u"I_tirage"_qs, u"palmares"_qs,   u"Resusoc"_qs,
                           u"FrmHorloge"_qs, u"langues"_qs};
-const QString mobiles[] = {u"EResultats"_qs, u"manqres"_qs,  u"Accueil"_qs,   u"Listesoc"_qs, u"Resusoc"_qs,
-                           u"Listco"_qs,     u"listjo"_qs,   u"Eequipes"_qs,  u"Econcours"_qs, u"Ejoueurs"_qs,
-                           u"listeq"_qs};
+const QString mobiles[] = {u"EResultats"_qs, u"manqres"_qs,  u"Accueil"_qs, u"Listesoc"_qs,
+                           u"Resusoc"_qs,    u"Listco"_qs,   u"listjo"_qs,  u"Eequipes"_qs,
+                           u"Econcours"_qs,  u"Ejoueurs"_qs, u"listeq"_qs};
 
 struct Taille
 {
@@ -82,7 +82,7 @@ void Visite::ouvre(const QString &forme)
         m_main.clique(m_main.controle(resultats, forme == u"manqres" ? u"manquants"_qs : u"VALIDATION"_qs));
     } else if (forme == u"Groupes") {
         ouvre(u"manqres"_qs);
-        registre.Montre(forme);
+        registre.Montre(NomForme(forme));
     } else if (forme == u"Resusoc") {
         ouvre(palmares);
         auto *grille = m_main.controle<FlexGrid>(palmares, u"Thonneur_1"_qs);
@@ -91,9 +91,17 @@ void Visite::ouvre(const QString &forme)
             ++ligne;
         m_main.cliqueCellule(grille, ligne, 1, Qt::LeftButton, Qt::ControlModifier);
     } else {
-        registre.Montre(forme);
+        registre.Montre(NomForme(forme));
     }
     QCoreApplication::processEvents();
+}
+
+/// Unloaded from outside the event loop, forms would go at the next events that a handler lets run, in the midst of the
+/// activation of a window. They go now.
+void Visite::dechargeTout()
+{
+    m_programme.formulaires().DechargeTout();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Visite::passeFormes(const QString &debut)
@@ -101,7 +109,7 @@ void Visite::passeFormes(const QString &debut)
     for (const QString &forme : formes) {
         ouvre(forme);
         m_photographe.prend(nomImage(debut, forme), *m_main.fenetre(forme));
-        m_programme.formulaires().DechargeTout();
+        dechargeTout();
         QCoreApplication::processEvents();
     }
 }
@@ -110,11 +118,11 @@ void Visite::langues()
 {
     for (const Langue &langue : chacune) {
         choisit(langue.designation);
-        m_programme.formulaires().DechargeTout();
-        m_photographe.prendBureau(langue.image + u"-bureau"_qs, *m_main.fenetre(u"Torvik"_qs));
+        m_photographe.prendBureau(langue.image + u"-bureau"_qs, *m_main.fenetre(u"Torvik"_qs), {u"langues"_qs});
+        dechargeTout();
         passeFormes(langue.image);
     }
-    m_programme.formulaires().DechargeTout();
+    dechargeTout();
 }
 
 void Visite::tailles()
@@ -128,7 +136,7 @@ void Visite::tailles()
             QCoreApplication::processEvents();
             m_photographe.prend(nomImage(taille.image, forme), fenetre);
         }
-        m_programme.formulaires().DechargeTout();
+        dechargeTout();
         QCoreApplication::processEvents();
     }
 }

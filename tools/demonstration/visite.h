@@ -26,6 +26,7 @@ public:
 
 private:
     void choisit(const QString &langue);
+    void dechargeTout();
     void passeFormes(const QString &debut);
     /// Opens a form the way an operator comes to it, so that it shows what it shows on a day.
     void ouvre(const QString &forme);

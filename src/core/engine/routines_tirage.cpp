@@ -1,0 +1,318 @@
+#include "engine/routines_tirage.h"
+
+#include "engine/controle_tours.h"
+#include "engine/interlocuteur.h"
+#include "engine/tirage_tour1.h"
+#include "garde/sauvegarde.h"
+#include "partage/routines.h"
+
+#include <QHash>
+
+using moteur::LigneClassement;
+using moteur::Rencontre;
+using store::Instruction;
+using store::Valeur;
+
+namespace {
+
+constexpr int premierTour = 1;
+
+std::optional<int> optionnel(const Instruction &ligne, int colonne)
+{
+    return ligne.estNulle(colonne) ? std::nullopt : std::optional(int(ligne.nombre(colonne)));
+}
+
+std::vector<Rencontre> litRencontres(Partage &partage, qint64 concours)
+{
+    std::vector<Rencontre> rencontres;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select tour, equipe_1, equipe_2, score_1, score_2, repechage from scores where concours = ? "
+                        u"order by tour, equipe_1, rowid"_qs);
+    lecture.lie(1, concours);
+    while (lecture.avance())
+        rencontres.push_back({.tour = int(lecture.nombre(0)),
+                              .equipe1 = int(lecture.nombre(1)),
+                              .equipe2 = int(lecture.nombre(2)),
+                              .score1 = optionnel(lecture, 3),
+                              .score2 = optionnel(lecture, 4),
+                              .repechage = optionnel(lecture, 5)});
+    return rencontres;
+}
+
+void ecritClassement(Partage &partage, qint64 concours, const std::vector<LigneClassement> &lignes)
+{
+    partage.BaseDonnees.Execute(u"delete * from tbclass");
+    Instruction ajout(partage.BaseDonnees.native(),
+                      u"insert into tbclass (equipe, gagnées, perdues, pp, pc, ga, pt, concours, repechage, alea) "
+                      u"values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"_qs);
+    for (const LigneClassement &ligne : lignes) {
+        const Valeur champs[] = {ligne.equipe, ligne.gagnées, ligne.perdues, ligne.pp,        ligne.pc,
+                                 ligne.ga,     ligne.pt,      concours,      ligne.repechage, ligne.alea};
+        int indice = 0;
+        for (const Valeur &champ : champs)
+            ajout.lie(++indice, champ);
+        ajout.avance();
+    }
+}
+
+void metAJourClassement(Partage &partage, const std::vector<LigneClassement> &avant,
+                        const std::vector<LigneClassement> &apres)
+{
+    Instruction change(partage.BaseDonnees.native(),
+                       u"update tbclass set pt = ?, alea = ?, repechage = ? where equipe = ?"_qs);
+    for (std::size_t i = 0; i < apres.size(); ++i) {
+        if (apres[i] == avant[i])
+            continue;
+        change.lie(1, apres[i].pt);
+        change.lie(2, apres[i].alea);
+        change.lie(3, apres[i].repechage);
+        change.lie(4, apres[i].equipe);
+        change.avance();
+    }
+}
+
+/// Club of each team of the competition, that of its first member.
+QHash<int, QString> litClubs(Partage &partage)
+{
+    QHash<int, QString> clubs;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select equipe, societe from equipes where concours = ? order by equipe, doublon"_qs);
+    lecture.lie(1, partage.ConcoursCourant);
+    int precedente = -1;
+    while (lecture.avance()) {
+        const int equipe = int(lecture.nombre(0));
+        if (equipe != precedente)
+            clubs.insert(equipe, lecture.valeur(1).texte());
+        precedente = equipe;
+    }
+    return clubs;
+}
+
+std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage)
+{
+    std::vector<moteur::PaireJouee> paires;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select equipe_1, equipe_2 from scores where concours = ? order by rowid"_qs);
+    lecture.lie(1, partage.ConcoursCourant);
+    while (lecture.avance())
+        paires.push_back({int(lecture.nombre(0)), int(lecture.nombre(1))});
+    return paires;
+}
+
+void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Rencontre> &rencontres)
+{
+    Instruction ajout(partage.BaseDonnees.native(),
+                      u"insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2, score_1, score_2, "
+                      u"repechage) values (?, ?, ?, ?, ?, ?, ?, ?, ?)"_qs);
+    for (const Rencontre &rencontre : rencontres) {
+        const Valeur champs[] = {partage.ConcoursCourant, tableau,           rencontre.tour,
+                                 rencontre.rencontre,     rencontre.equipe1, rencontre.equipe2,
+                                 rencontre.score1,        rencontre.score2,  rencontre.repechage};
+        int indice = 0;
+        for (const Valeur &champ : champs)
+            ajout.lie(++indice, champ);
+        ajout.avance();
+    }
+}
+
+std::vector<moteur::EquipeInscrite> litEquipesInscrites(Partage &partage)
+{
+    const QHash<int, QString> clubs = litClubs(partage);
+    store::Recordset evolution =
+        partage.BaseDonnees.OpenRecordset(u"select * from evolution where (principal >= 1 and concours = %1);"_qs.arg(
+                                              partage.ConcoursCourant),
+                                          store::dbOpenSnapshot);
+    std::vector<moteur::EquipeInscrite> equipes;
+    for (; !evolution.Eof(); evolution.MoveNext()) {
+        const int equipe = int(evolution[u"equipe"].entier());
+        equipes.push_back({equipe, clubs.value(equipe)});
+    }
+    return equipes;
+}
+
+bool tourDejaTire(Partage &partage, qint16 tableau, int tour)
+{
+    store::Recordset scores = partage.BaseDonnees.OpenRecordset(u"scores", store::dbOpenTable);
+    scores.Index(u"tirage");
+    scores.Seek(u"=", {partage.ConcoursCourant, tableau, tour});
+    return !scores.NoMatch();
+}
+
+/// Last round that the current competition has matches of, nothing without any.
+std::optional<int> dernierTourTire(Partage &partage)
+{
+    const Valeur tour =
+        ValeurUnique(partage, u"select max(tour) from scores where concours=%1"_qs.arg(partage.ConcoursCourant));
+    return tour.estNull() ? std::nullopt : std::optional(int(tour.entier()));
+}
+
+/// Team that had the bye of the round before \p tour. There is none before round 1.
+int exemptDuTourPrecedent(Partage &partage, qint16 tableau, int tour)
+{
+    const QString bye =
+        u"select * from scores where tableau = %1 and equipe_2=0 and concours = %2 and tour = %3"_qs.arg(tableau)
+            .arg(partage.ConcoursCourant)
+            .arg(tour - 1);
+    const store::Recordset exempt = partage.BaseDonnees.OpenRecordset(bye, store::dbOpenSnapshot);
+    return exempt.Eof() ? moteur::pasDExempt : int(exempt[u"equipe_1"].entier());
+}
+
+void fixeTourPrincipal(Partage &partage, int tour)
+{
+    partage.BaseDonnees.Execute(
+        u"update concours set tourpri= %1 where concours=%2"_qs.arg(tour).arg(partage.ConcoursCourant));
+}
+
+/// Draws round 1 into the store; what the program knows of it follows once the draw is on the disk.
+void ecritTirageTour1(Partage &partage, qint16 tableau)
+{
+    const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
+    const auto rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
+    partage.BaseDonnees.EcritEnGroupe([&] {
+        ecritRencontres(partage, tableau, rencontres);
+        fixeTourPrincipal(partage, premierTour);
+    });
+}
+
+/// The file of the base follows the draw. A failure loses nothing; the watch over the base tries again, and tells.
+void metLeFichierAJour(Partage &partage)
+{
+    try {
+        partage.BaseDonnees.native().consolide();
+    } catch (const store::Erreur &) {
+    }
+}
+
+void avertitSelonStatut(Interlocuteur &interlocuteur, moteur::StatutTirage statut)
+{
+    if (statut == moteur::StatutTirage::MemeClub)
+        interlocuteur.avertit(u"Attention il y a une rencontre opposant deux équipes d'un même club"_qs);
+    else if (statut == moteur::StatutTirage::DejaRencontrees)
+        interlocuteur.avertit(u"Attention deux équipes se sont déjà rencontrées"_qs);
+}
+
+} // namespace
+
+void CalculClassement(Partage &partage, const QString &concours)
+{
+    const qint64 numero = Valeur(concours).entier();
+    const auto lignes = moteur::etablitClassement(litRencontres(partage, numero), partage.alea);
+    partage.BaseDonnees.EcritEnGroupe([&] { ecritClassement(partage, numero, lignes); });
+}
+
+std::vector<LigneClassement> LitClassement(Partage &partage)
+{
+    std::vector<LigneClassement> lignes;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select equipe, gagnées, perdues, pp, pc, ga, pt, repechage, alea from tbclass "
+                        u"order by pt desc, ga desc, equipe"_qs);
+    while (lecture.avance())
+        lignes.push_back({.equipe = int(lecture.nombre(0)),
+                          .gagnées = int(lecture.nombre(1)),
+                          .perdues = int(lecture.nombre(2)),
+                          .pp = optionnel(lecture, 3),
+                          .pc = optionnel(lecture, 4),
+                          .ga = optionnel(lecture, 5),
+                          .pt = int(lecture.nombre(6)),
+                          .repechage = optionnel(lecture, 7),
+                          .alea = int(lecture.nombre(8))});
+    return lignes;
+}
+
+bool ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
+{
+    const QString tirage = u"select * from scores where concours=%1 and tableau=1"_qs.arg(partage.ConcoursCourant);
+    const auto existe = [&](const QString &sql) {
+        return !partage.BaseDonnees.OpenRecordset(sql, store::dbOpenSnapshot).Eof();
+    };
+    if (existe(tirage + u" and (not isnull(score_1) and not isnull(score_2))"_qs)) {
+        interlocuteur.informe(u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
+        return true;
+    }
+    if (!existe(tirage)) {
+        TirageTour1(partage, interlocuteur, 1);
+        return true;
+    }
+    if (!interlocuteur.demande(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs))
+        return true;
+    const BilanCopie copie = SauveBase(partage, RaisonCopie::Tirage);
+    if (copie.echouee() && !interlocuteur.continueSansCopie(copie.cause))
+        return false;
+    // As one group: a power cut leaves the old draw or the new one.
+    partage.BaseDonnees.EcritEnGroupe([&] {
+        for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
+            partage.BaseDonnees.Execute(
+                u"delete * from %1 where concours=%2 and tableau=1"_qs.arg(table).arg(partage.ConcoursCourant));
+        ecritTirageTour1(partage, 1);
+    });
+    partage.TourCourant = premierTour;
+    metLeFichierAJour(partage);
+    return true;
+}
+
+void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau, int)
+{
+    if (tourDejaTire(partage, tableau, premierTour)) {
+        interlocuteur.informe(partage.mes(114) + u' ' + partage.mes(15) + u' ' + partage.mes(115));
+        fixeTourPrincipal(partage, premierTour);
+    } else {
+        ecritTirageTour1(partage, tableau);
+    }
+    partage.TourCourant = premierTour;
+    metLeFichierAJour(partage);
+}
+
+void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur)
+{
+    const std::vector<LigneClassement> avant = LitClassement(partage);
+    std::vector<LigneClassement> apres = avant;
+    const QHash<int, QString> clubsDesEquipes = litClubs(partage);
+    std::vector<QString> clubs;
+    clubs.reserve(apres.size());
+    for (const LigneClassement &ligne : apres)
+        clubs.push_back(clubsDesEquipes.value(ligne.equipe));
+    const std::vector<moteur::PaireJouee> jouees = litPairesJouees(partage);
+
+    partage.TabTirage = moteur::tireTourSuivant({.classement = apres,
+                                                 .clubs = clubs,
+                                                 .jouees = jouees,
+                                                 .tourpri = partage.TourCourant,
+                                                 .repeche = partage.AvecRepechage},
+                                                [&](QStringView signe) { interlocuteur.progresse(signe); });
+    partage.BaseDonnees.EcritEnGroupe([&] { metAJourClassement(partage, avant, apres); });
+}
+
+bool LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
+{
+    if (partage.TourCourant <= 0 || !dernierTourTire(partage))
+        return ConfirmeTirage(partage, interlocuteur);
+    const int tour = partage.TourCourant + 1;
+    partage.EssaisTirage = 0;
+    do {
+        ++partage.EssaisTirage;
+        CalculClassement(partage, QString::number(partage.ConcoursCourant));
+        interlocuteur.annonce(u"Tirage en cours"_qs);
+        TirageSuivant(partage, interlocuteur);
+    } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
+
+    const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
+    // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
+    partage.BaseDonnees.EcritEnGroupe([&] {
+        ecritRencontres(partage, 1, rencontres);
+        fixeTourPrincipal(partage, tour);
+    });
+    partage.TourCourant = qint16(tour);
+    metLeFichierAJour(partage);
+    avertitSelonStatut(interlocuteur, partage.TabTirage.statut);
+    partage.TabTirage = {};
+    return true;
+}
+
+void ReprendTour(Partage &partage)
+{
+    const std::optional<int> dernier = dernierTourTire(partage);
+    if (!dernier || *dernier <= partage.TourCourant)
+        return;
+    fixeTourPrincipal(partage, *dernier);
+    partage.TourCourant = qint16(*dernier);
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "partage/partage.h"
+
+/// What an earlier run has left half done, or lost, is put right before the base is opened. All of it may be cut short
+/// at any point: the next start goes on from there.
+
+/// Takes up a purge that was cut short, when it has left the whole base under its temporary name and none under its
+/// own. Whether there was one. Throws store::Erreur when it cannot be renamed.
+bool ReprendPurge(const QString &dossierProgramme);
+
+/// The newest safety copy that is proved whole, its full path; empty when there is none.
+QString DerniereCopieSaine(const QString &dossierProgramme);
+
+/// Puts the safety copy \p copie into the place of the closed base. What stood there stays beside it: gives the name
+/// that it has now, empty when there was nothing. Throws store::Erreur; the base stands as before then.
+QString RemetCopie(const Partage &partage, const QString &copie);
+
+/// Sets the journals aside that stand beside a base that is not theirs, and gives the name of the first. Throws
+/// store::Erreur.
+QString EcarteJournaux(const Partage &partage);

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "store/erreur.h"
+#include "store/recordset.h"
+#include "store/schema.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace store {
+
+/// What all recordsets of one open file share.
+struct Moteur
+{
+    Moteur(const QString &fichier, const QString &motDePasse);
+    void relit();
+
+    BaseNative base;
+    Schema schema;
+};
+
+/// Kinds of recordset that OpenRecordset gives.
+enum TypeRecordset { dbOpenTable = 1, dbOpenSnapshot = 4 };
+
+/// The open database. Statements are in the program's dialect; every failure throws Erreur.
+class Database
+{
+public:
+    Database() = default;
+    Database(Database &&) noexcept = default;
+    Database &operator=(Database &&) noexcept = default;
+    ~Database() = default;
+
+    bool estOuverte() const { return m_moteur != nullptr; }
+    QString fichier() const;
+
+    /// \p source is the name of a table, or a statement. Type 1 gives a walk over the whole table, on which Index and
+    /// Seek work; type 4 a result that cannot be changed; without a type, a `select *` on one table can be changed.
+    Recordset OpenRecordset(QStringView source, int type = 0);
+    /// Runs one INSERT, UPDATE or DELETE; gives the number of rows that it changed. An `insert ... select` passes over
+    /// the rows that a key refuses.
+    int Execute(QStringView instruction);
+    /// Names of the tables.
+    QStringList TableDefs() const;
+    /// Closes the file. Closing twice does nothing.
+    void Close();
+
+    /// Runs \p ecriture as one group of writes, which reaches the disk whole at its end. An error that leaves it undoes
+    /// all that it has written, and goes on to the caller. A group inside a group is undone alone, and reaches the disk
+    /// with the outer one.
+    void EcritEnGroupe(const std::function<void()> &ecriture);
+
+    /// Takes over the tables, fields and indexes that have been added since the opening. No recordset is open.
+    void RelitSchema();
+
+    /// The engine under the dialect, for the routines that read many rows at once.
+    BaseNative &native();
+
+private:
+    friend class Workspace;
+    explicit Database(std::shared_ptr<Moteur> moteur)
+        : m_moteur(std::move(moteur))
+    {
+    }
+
+    Moteur &moteur() const;
+
+    std::shared_ptr<Moteur> m_moteur;
+    int m_groupes = 0;
+};
+
+/// Opens databases.
+class Workspace
+{
+public:
+    /// Opens the file \p nom; the password follows "PWD=" in \p connexion, case playing no part there. Throws Erreur
+    /// with one sentence for each way in which a file can be no base of this program; such a file stays untouched. An
+    /// opened one is its user's alone to read from then on.
+    Database OpenDatabase(const QString &nom, bool exclusif, bool lectureSeule, const QString &connexion) const;
+};
+
+/// The engine as such.
+class DBEngine
+{
+public:
+    /// The one workspace, number 0.
+    Workspace &Workspaces(int numero);
+    /// Rewrites the closed file \p source into the new file \p cible, under the same password, without the room that
+    /// deleted rows left. Throws Erreur when \p cible exists or one of the two cannot be read or written.
+    static void CompactDatabase(const QString &source, const QString &cible, const QString &connexion);
+
+private:
+    std::vector<Workspace> m_workspaces = std::vector<Workspace>(1);
+};
+
+} // namespace store

@@ -1,0 +1,152 @@
+#include "maintenance/purge.h"
+
+#include "fenetres/copie_prealable.h"
+#include "fenetres/patience.h"
+#include "partage/base.h"
+#include "store/base_native.h"
+#include "store/fichiers.h"
+
+#include <QDir>
+#include <QFile>
+
+using store::Erreur;
+
+namespace {
+
+const QString saut = u"\r\n"_qs;
+const QString question = u"Attention cette opération est irréversible"_qs + saut + u"Avez vous fait une sauvegarde?"_qs
+    + saut + u"Vous allez supprimer des informations"_qs;
+const QString journal = u"-wal"_qs;
+
+QString chemin(const Partage &partage, const QString &fichier)
+{
+    return QDir(partage.DossierProgramme).filePath(fichier);
+}
+
+QString affiche(const QString &fichier)
+{
+    return QDir::toNativeSeparators(fichier);
+}
+
+void supprimeFichier(const QString &fichier)
+{
+    if (QFile::exists(fichier) && !QFile::remove(fichier))
+        throw Erreur(Erreur::DossierProtege, u"Le fichier %1 ne peut pas être supprimé."_qs.arg(affiche(fichier)));
+}
+
+void videTables(store::Database &base)
+{
+    base.EcritEnGroupe([&] {
+        base.Execute(u"delete * from scores");
+        base.Execute(u"delete * from evolution");
+        base.Execute(u"delete * from concours");
+        base.Execute(u"delete * from equipes where concours<>0");
+        base.Execute(u"delete * from tnequipes");
+        base.Execute(u"delete * from tirages_pro");
+    });
+}
+
+/// A journal with rows in it is a part of the base, left there by somebody who still has it open.
+void exigeSansJournal(const QString &base)
+{
+    if (QFile(base + journal).size() > 0)
+        throw Erreur(Erreur::DossierProtege, u"La base %1 est encore occupée."_qs.arg(affiche(base)));
+}
+
+/// Puts the compacted file into the place of the closed base. Whatever step fails, one of the two is complete.
+void remplaceFichier(const FichiersBase &fichiers, const QString &base, const QString &temporaire)
+{
+    if (QFile::exists(temporaire))
+        fichiers.supprime(temporaire);
+    fichiers.compacte(base, temporaire);
+    exigeSansJournal(base);
+    fichiers.supprime(base);
+    fichiers.renomme(temporaire, base);
+}
+
+/// Where a failed swap leaves the operator. The program goes on with the old file when it still stands.
+QString suiteDeLEchec(Partage &partage, const FichiersBase &fichiers, const QString &base, const QString &temporaire)
+{
+    if (!QFile::exists(base))
+        return QFile::exists(temporaire)
+            ? u"La base est complète dans le fichier %1. Fermez le programme et relancez-le : il reprendra ce "
+              u"fichier."_qs.arg(affiche(temporaire))
+            : u"Il n'y a plus de base dans ce dossier : fermez le programme et remettez-y votre sauvegarde."_qs;
+    try {
+        partage.BaseDonnees = fichiers.ouvre(*partage.EspaceTravail, base);
+    } catch (const Erreur &) {
+        return u"La base est complète dans le fichier %1, mais elle ne s'ouvre plus : fermez le programme et "
+               u"relancez-le."_qs.arg(affiche(base));
+    }
+    return u"Les concours sont effacés et le programme continue avec la base ; son fichier n'est peut-être pas réduit, "
+           u"vous pourrez recommencer plus tard."_qs;
+}
+
+void reduitFichier(Partage &partage, const FichiersBase &fichiers)
+{
+    const QString base = chemin(partage, nomBase);
+    const QString temporaire = chemin(partage, nomBaseTemporaire);
+    partage.BaseDonnees.Close();
+    try {
+        remplaceFichier(fichiers, base, temporaire);
+        partage.BaseDonnees = fichiers.ouvre(*partage.EspaceTravail, base);
+    } catch (const Erreur &erreur) {
+        throw Erreur(erreur.numero(),
+                     erreur.phrase() + saut + saut + suiteDeLEchec(partage, fichiers, base, temporaire));
+    }
+}
+
+} // namespace
+
+FichiersBase::~FichiersBase() = default;
+
+void FichiersBase::supprime(const QString &fichier) const
+{
+    for (const QString &suffixe : {journal, u"-shm"_qs, u"-journal"_qs, QString()})
+        supprimeFichier(fichier + suffixe);
+}
+
+void FichiersBase::compacte(const QString &source, const QString &cible) const
+{
+    try {
+        store::DBEngine::CompactDatabase(source, cible, u";pwd="_qs + motDePasseBase);
+        const store::BaseNative relue(cible, motDePasseBase, store::BaseNative::Mode::LectureSeule);
+    } catch (const Erreur &) {
+        QFile::remove(cible);
+        throw;
+    }
+}
+
+void FichiersBase::renomme(const QString &ancien, const QString &nouveau) const
+{
+    if (!store::renomme(ancien, nouveau))
+        throw Erreur(Erreur::DossierProtege, u"Le fichier %1 ne peut pas être renommé."_qs.arg(affiche(ancien)));
+}
+
+store::Database FichiersBase::ouvre(const store::Workspace &espace, const QString &fichier) const
+{
+    return espace.OpenDatabase(fichier, false, false, connexionBase);
+}
+
+void Torvik_mnu_base_Click(const Contexte &contexte, const std::vector<NomForme> &formesDeConcours)
+{
+    PurgeBase(contexte, FichiersBase(), formesDeConcours);
+}
+
+void PurgeBase(const Contexte &contexte, const FichiersBase &fichiers, const std::vector<NomForme> &formesDeConcours)
+{
+    if (contexte.boites.MsgBox(question, vbYesNo + vbExclamation) != ReponseBoite::Oui
+        || !GardeUneCopie(contexte, RaisonCopie::Purge)) {
+        contexte.boites.MsgBox(u"Opération annulée"_qs);
+        return;
+    }
+    // What stands on them is about to go: they would store it in a competition that is no more.
+    contexte.formulaires.Decharge(formesDeConcours);
+    {
+        const Patience alerte(contexte, u"  Opération en cours....Patientez"_qs);
+        videTables(contexte.partage.BaseDonnees);
+        reduitFichier(contexte.partage, fichiers);
+        DoEvents();
+    }
+    contexte.boites.MsgBox(u"Opération réussie"_qs);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "fenetres/nom_forme.h"
+
+/// The forms by name, for whoever loads, shows or asks for one that is not his own. What there is to know of each
+/// stands in the table of forms.
+namespace formes {
+
+inline constexpr NomForme Accueil{u"Accueil"};
+inline constexpr NomForme DetailResultats{u"Détail_résultats"};
+inline constexpr NomForme Econcours{u"Econcours"};
+inline constexpr NomForme Eequipes{u"Eequipes"};
+inline constexpr NomForme Ejoueurs{u"Ejoueurs"};
+inline constexpr NomForme EResultats{u"EResultats"};
+inline constexpr NomForme FrmHorloge{u"FrmHorloge"};
+inline constexpr NomForme Groupes{u"Groupes"};
+inline constexpr NomForme I_tirage{u"I_tirage"};
+inline constexpr NomForme langues{u"langues"};
+inline constexpr NomForme Listco{u"Listco"};
+inline constexpr NomForme listeq{u"listeq"};
+inline constexpr NomForme Listesoc{u"Listesoc"};
+inline constexpr NomForme listjo{u"listjo"};
+inline constexpr NomForme manqres{u"manqres"};
+inline constexpr NomForme palmares{u"palmares"};
+inline constexpr NomForme Resusoc{u"Resusoc"};
+inline constexpr NomForme valresu{u"valresu"};
+
+} // namespace formes

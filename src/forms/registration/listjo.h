@@ -1,0 +1,40 @@
+#pragma once
+
+#include "registration/forme_liste.h"
+
+#include <memory>
+
+namespace Ui {
+class listjo;
+}
+
+/// The known players. A click on one of them types him into the form that opened the list: his licence into the first
+/// free line of a team, or his number into the form of the known players.
+class listjo : public FormeListe
+{
+    Q_OBJECT
+
+public:
+    listjo(const Contexte &contexte, QWidget *parent);
+    ~listjo() override;
+
+    std::vector<Infobulle> infobulles() const override;
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Rafraichir() override { Rafraichir_Click(); }
+
+    void Les_équipes_MouseUp(int Button, int ligne);
+    void Rafraichir_Click();
+    void imprimer_Click();
+
+    void LegendesListjo();
+
+private:
+    QString format() const;
+    /// Club whose players alone are listed; empty for all.
+    QString clubRetenu() const;
+    void donneLicence(Formulaire &equipes, int ligne);
+    void donneNumero(Formulaire &joueurs, int ligne);
+
+    std::unique_ptr<Ui::listjo> m_ui;
+};

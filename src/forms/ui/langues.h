@@ -1,0 +1,34 @@
+#pragma once
+
+#include "fenetres/formulaire.h"
+
+#include <memory>
+
+namespace Ui {
+class langues;
+}
+
+/// Choice of the language. Forms that are open keep their texts until they are loaded again.
+class langues : public Formulaire
+{
+    Q_OBJECT
+
+public:
+    langues(const Contexte &contexte, QWidget *parent);
+    ~langues() override;
+
+    void Form_Load() override;
+    void Qlang_Click();
+
+Q_SIGNALS:
+    /// Another language has been loaded: the main window takes its texts.
+    void langueChargee();
+
+private:
+    void LegendesLangues();
+    /// Marks the language \p designation as active and the one shown so far as inactive, in this order.
+    /// Its number; nothing when the base has no such language.
+    std::optional<qint16> activeLangue(const QString &designation);
+
+    std::unique_ptr<Ui::langues> m_ui;
+};

@@ -1,8 +1,0 @@
-#pragma once
-
-#include "platform/formulaire.h"
-#include "printing/zone_palmares.h"
-
-/// Prints a part of the honours list as the grid shows it, a match a line. False when the operator has cancelled, who
-/// has been told so by then.
-bool ImprimePalmares(const Contexte &contexte, const ZonePalmares &zone);

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "engine/controle_tours.h"
+#include "engine/tirage_tour1.h"
+#include "partage/alea.h"
+
+#include <random>
+
+/// Competitions played to the end with invented teams and results, the same for the same seed.
+namespace essai {
+
+/// How the clubs of a field are mixed.
+struct Melange
+{
+    int clubs = 10;
+    int pourcentHote = 0; ///< Share of the club that receives.
+    int pourcentPanache = 0; ///< Share of mixed teams, at times spelt in capitals.
+    int pourcentSans = 0; ///< Share of teams without a club.
+    bool casseMelee = false; ///< Names of one club in different cases of letters.
+};
+
+/// How results come in.
+struct Saisie
+{
+    int pourcentMots = 0; ///< Scores -1 to -3.
+    int pourcentSansVainqueur = 0; ///< Matches without a 13.
+};
+
+std::vector<moteur::EquipeInscrite> inscrit(int nombre, const Melange &melange, std::mt19937 &sort);
+
+class Concours
+{
+public:
+    Concours(std::vector<moteur::EquipeInscrite> equipes, bool repeche, quint32 graine);
+
+    /// Draws the next round and plays it; false when the competition is over.
+    bool joueTour(const Saisie &saisie = {});
+
+    int tourpri() const { return m_tourpri; }
+    bool repeche() const { return m_repeche; }
+    const std::vector<moteur::EquipeInscrite> &equipes() const { return m_equipes; }
+    /// All matches, by round and first team.
+    std::vector<moteur::Rencontre> rencontres() const;
+    /// Ranking, clubs in its order and meetings, as a draw of the next round reads them.
+    std::vector<moteur::LigneClassement> classement();
+    std::vector<QString> clubs(const std::vector<moteur::LigneClassement> &classement) const;
+    std::vector<moteur::PaireJouee> jouees() const;
+
+private:
+    void tireSuivant();
+    void saisitResultat(moteur::Rencontre &rencontre, const Saisie &saisie);
+    bool chance(int pourcent) { return int(m_sort() % 100) < pourcent; }
+
+    std::vector<moteur::EquipeInscrite> m_equipes;
+    bool m_repeche;
+    AleaFixe m_alea;
+    std::mt19937 m_sort;
+    int m_tourpri = 0;
+    std::vector<moteur::Rencontre> m_rencontres;
+};
+
+} // namespace essai

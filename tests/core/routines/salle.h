@@ -1,0 +1,55 @@
+#pragma once
+
+#include "commun/affiche.h"
+#include "commun/base_essai.h"
+#include "commun/concours_en_base.h"
+#include "engine/classement.h"
+#include "engine/interlocuteur.h"
+#include "partage/partage.h"
+
+#include <QStringList>
+
+/// The engine's operator: what it was told is kept, a question is answered by `reponse`.
+class OperateurEssai : public Interlocuteur
+{
+public:
+    bool demande(const QString &question) override;
+    bool continueSansCopie(const QString &cause) override;
+    void informe(const QString &texte) override { dits += u"informe : "_qs + texte; }
+    void avertit(const QString &texte) override;
+    void annonce(const QString &) override { ++annonces; }
+    void progresse(QStringView) override {}
+
+    QStringList dits;
+    int annonces = 0;
+    bool reponse = false;
+    bool reponseSansCopie = false;
+};
+
+/// A base, the shared state on it, and an operator: all that the routines around the draws need.
+class Salle
+{
+public:
+    explicit Salle(quint32 graine = 1);
+
+    /// Registers a competition and makes it the current one.
+    qint32 inscrit(const ConcoursInscrit &concours);
+    /// Makes \p concours the current one.
+    void choisit(qint32 concours);
+
+    /// Matches of the current competition in the order of writing; of round \p tour alone when it is above 0.
+    std::vector<moteur::Rencontre> scores(int tour = 0);
+    /// Rows of `tbclass` as the index `rankkey` walks them.
+    std::vector<moteur::LigneClassement> tbclass();
+    int tourpri();
+    /// EnregistreScore, in the current competition.
+    bool saisit(int equipe1, int equipe2, const QString &score1, const QString &score2);
+    qint64 nombre(const QString &sql) { return native().valeurUnique(sql).entier(); }
+    store::BaseNative &native() { return partage.BaseDonnees.native(); }
+
+    BaseEssai base;
+    AleaFixe alea;
+    Horloge horloge;
+    Partage partage;
+    OperateurEssai operateur;
+};

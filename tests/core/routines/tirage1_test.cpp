@@ -1,0 +1,200 @@
+#include "concours_joue.h"
+#include "salle.h"
+
+#include "commun/contenu.h"
+#include "commun/panne_ecriture.h"
+#include "donnees/inscription.h"
+#include "engine/routines_resultats.h"
+#include "engine/routines_tirage.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using moteur::Rencontre;
+
+namespace {
+
+const QString refus = u"informe : Tirage Impossible, Il y a déjà des résultats de tombés"_qs;
+const QString question = u"demande : ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs;
+
+class PremierTirage : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        autre = salle.inscrit({.equipes = equipes(8)});
+        LanceTourSuivant(salle.partage, salle.operateur);
+        for (const qint32 numero : {autre, autre + 1}) {
+            for (const QString &table : {u"tnequipes"_qs, u"tirages_pro"_qs})
+                salle.native().executeScript(
+                    u"insert into %1 (concours, tableau, equipe) values (%2, 1, 1), (%2, 2, 1)"_qs.arg(table).arg(
+                        numero));
+        }
+        concours = salle.inscrit({.equipes = equipes(7)});
+        salle.operateur = {};
+    }
+
+    std::vector<moteur::EquipeInscrite> equipes(int nombre) { return essai::inscrit(nombre, {}, sort); }
+
+    qint64 lignes(const QString &table, qint32 numero)
+    {
+        return salle.nombre(u"select count(*) from %1 where concours = %2"_qs.arg(table).arg(numero));
+    }
+
+    Salle salle;
+    std::mt19937 sort{1};
+    qint32 autre = 0;
+    qint32 concours = 0;
+};
+
+TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
+{
+    LanceTourSuivant(salle.partage, salle.operateur);
+    const std::vector<Rencontre> tirees = salle.scores();
+    const Rencontre &premiere = tirees.front();
+    // One score alone is no result.
+    salle.native().executeScript(
+        u"update scores set score_1 = 13 where concours = %1 and rencontre = 1"_qs.arg(concours));
+    ConfirmeTirage(salle.partage, salle.operateur);
+    EXPECT_EQ(salle.operateur.dits, QStringList(question));
+    salle.saisit(premiere.equipe1, premiere.equipe2, u"13"_qs, u"2"_qs);
+    const std::vector<Rencontre> jouees = salle.scores();
+    salle.operateur.reponse = true;
+    ConfirmeTirage(salle.partage, salle.operateur);
+    EXPECT_EQ(salle.operateur.dits, QStringList({question, refus}));
+    EXPECT_EQ(salle.scores(), jouees);
+}
+
+TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
+{
+    LanceTourSuivant(salle.partage, salle.operateur);
+    const std::vector<Rencontre> tirees = salle.scores();
+    const QStringList contenu = Contenu(salle.native());
+
+    ConfirmeTirage(salle.partage, salle.operateur);
+    EXPECT_EQ(salle.operateur.dits, QStringList(question));
+    EXPECT_EQ(Contenu(salle.native()), contenu);
+
+    salle.operateur.reponse = true;
+    ConfirmeTirage(salle.partage, salle.operateur);
+    EXPECT_NE(salle.scores(), tirees);
+    EXPECT_EQ(salle.scores().size(), tirees.size());
+    EXPECT_EQ(salle.tourpri(), 1);
+    // The two old draw tables lose this competition's bracket and nothing else.
+    for (const QString &table : {u"tnequipes"_qs, u"tirages_pro"_qs}) {
+        EXPECT_EQ(lignes(table, concours), 1);
+        EXPECT_EQ(lignes(table, autre), 2);
+    }
+    EXPECT_EQ(lignes(u"scores"_qs, autre), 4);
+}
+
+TEST_F(PremierTirage, DejaTireLeDitEtNeTouchePasAuxRencontres)
+{
+    LanceTourSuivant(salle.partage, salle.operateur);
+    const std::vector<Rencontre> tirees = salle.scores();
+    salle.native().executeScript(u"update concours set tourpri = 4"_qs);
+    salle.partage.TourCourant = 4;
+    TirageTour1(salle.partage, salle.operateur, 1);
+    EXPECT_EQ(salle.operateur.dits, QStringList(u"informe : Attention, le tirage du tour 1 a déjà été fait"_qs));
+    EXPECT_EQ(salle.scores(), tirees);
+    EXPECT_EQ(salle.tourpri(), 1);
+    EXPECT_EQ(salle.partage.TourCourant, 1);
+    salle.choisit(autre);
+    EXPECT_EQ(salle.tourpri(), 4);
+}
+
+TEST_F(PremierTirage, SansEquipesOuPresque)
+{
+    for (int nombre : {0, 1}) {
+        salle.inscrit({.equipes = equipes(nombre)});
+        LanceTourSuivant(salle.partage, salle.operateur);
+        EXPECT_TRUE(salle.scores().empty());
+        EXPECT_EQ(salle.tourpri(), 1);
+        EXPECT_EQ(salle.partage.TourCourant, 1);
+        EXPECT_EQ(salle.operateur.dits, QStringList());
+    }
+}
+
+TEST_F(PremierTirage, SeulesLesEquipesDuTableauPrincipalJouent)
+{
+    salle.native().executeScript(
+        u"update evolution set principal = 0 where concours = %1 and equipe in (2, 5)"_qs.arg(concours));
+    LanceTourSuivant(salle.partage, salle.operateur);
+    std::vector<int> jouent;
+    for (const Rencontre &ligne : salle.scores()) {
+        jouent.push_back(ligne.equipe1);
+        jouent.push_back(ligne.equipe2);
+    }
+    std::ranges::sort(jouent);
+    EXPECT_EQ(jouent, (std::vector{0, 1, 3, 4, 6, 7}));
+}
+
+/// A store that refuses any one of the rows of an act: the act has not been, and the next click carries it out.
+class EcritureCoupee : public PremierTirage
+{
+protected:
+    /// Cuts \p acte at each of its rows, then lets it pass.
+    void coupe(const char *nom, const std::function<void()> &acte)
+    {
+        SCOPED_TRACE(nom);
+        const QStringList avant = Contenu(salle.native());
+        const qint16 tour = salle.partage.TourCourant;
+        int rang = 0;
+        for (bool passe = false; !passe; ++rang) {
+            ASSERT_LT(rang, 200);
+            for (const QString &facon : {u"rollback"_qs, u"abort"_qs}) {
+                if (passe)
+                    break;
+                try {
+                    const PanneEcriture panne(salle.native(), rang, facon);
+                    acte();
+                    passe = true;
+                } catch (const store::Erreur &) {
+                    EXPECT_TRUE(salle.native().horsTransaction());
+                    ASSERT_EQ(Contenu(salle.native()), avant) << "row " << rang;
+                    ASSERT_EQ(salle.partage.TourCourant, tour);
+                }
+            }
+        }
+        EXPECT_GT(rang, 2) << "several rows were to be refused";
+        EXPECT_NE(Contenu(salle.native()), avant);
+    }
+
+    void joue()
+    {
+        for (const Rencontre &ligne : salle.scores(salle.partage.TourCourant)) {
+            if (ligne.equipe2 > 0)
+                salle.saisit(ligne.equipe1, ligne.equipe2, u"13"_qs, u"5"_qs);
+        }
+    }
+};
+
+TEST_F(EcritureCoupee, UnActeEstEntierOuNAPasEuLieu)
+{
+    salle.operateur.reponse = true;
+    const auto tire = [this] { LanceTourSuivant(salle.partage, salle.operateur); };
+    coupe("first draw", tire);
+    coupe("new draw", [this] { ConfirmeTirage(salle.partage, salle.operateur); });
+    EXPECT_EQ(salle.scores().size(), 4u);
+    joue();
+    const std::vector<Rencontre> tour1 = salle.scores(1);
+    coupe("next round", tire);
+    EXPECT_EQ(salle.scores(2).size(), 4u);
+    EXPECT_EQ(salle.tourpri(), 2);
+    coupe("cancelled round", [this] { AnnuleTour(salle.partage); });
+    EXPECT_EQ(salle.scores(), tour1);
+    EXPECT_EQ(salle.partage.TourCourant, 1);
+    coupe("round drawn again", tire);
+    coupe("cancelled draw", [this] { AnnuleTirage(salle.partage); });
+    EXPECT_TRUE(salle.scores().empty());
+    coupe("removed team", [this] { EXPECT_TRUE(donnees::RetireEquipe(salle.partage.BaseDonnees, concours, 2)); });
+
+    // What the program kept is what the file holds: nothing was left in an open group.
+    const QStringList contenu = Contenu(salle.native());
+    salle.partage.BaseDonnees.Close();
+    salle.partage.BaseDonnees = salle.base.ouvre();
+    EXPECT_EQ(Contenu(salle.native()), contenu);
+}
+
+} // namespace
