@@ -7,8 +7,9 @@ set(ordre
   core/store core/donnees core/partage core/garde core/engine core/imports
   platform/socle platform/aspect platform/son platform/grille platform/papier platform/fenetres)
 # A family of forms may include the core, the platform and the names of the forms, and of the other families only what is
-# named here: lists print. `app` makes all forms, so it may include them all and none includes it.
+# named here: lists and tools print. `app` makes all forms, so it may include them all and none includes it.
 set(permis_registration printing)
+set(permis_outils printing)
 
 set(fautes "")
 

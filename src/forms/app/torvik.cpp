@@ -10,6 +10,7 @@
 #include "maintenance/import_listes.h"
 #include "maintenance/purge.h"
 #include "noms/formes.h"
+#include "outils/menu_outils.h"
 #include "partage/base.h"
 #include "partage/langue.h"
 #include "partage/routines.h"
@@ -32,6 +33,7 @@ Torvik::Torvik(const Contexte &contexte)
     , m_ui(std::make_unique<Ui::Torvik>())
 {
     m_ui->setupUi(this);
+    m_ui->Menus->addMenu(new MenuOutils(contexte, m_ui->Menus));
     relie();
 }
 

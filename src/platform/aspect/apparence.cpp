@@ -12,7 +12,8 @@
 
 namespace {
 
-const QString nomTraduction = QStringLiteral("boutonsEtDialogues");
+const QString nomTraduction = QStringLiteral("traduction");
+constexpr const char *proprieteLangue = "langue";
 
 QFont policeLisible()
 {
@@ -59,16 +60,18 @@ static void chargeRessources()
 
 void parleLangue(QApplication &application, const QLocale &langue)
 {
-    auto *ancienne = application.findChild<QTranslator *>(nomTraduction);
-    if (ancienne != nullptr && ancienne->property("langue").toLocale() == langue)
+    if (application.property(proprieteLangue).toLocale() == langue && application.property(proprieteLangue).isValid())
         return;
-    delete ancienne;
-    auto *traduction = new QTranslator(&application);
-    traduction->setObjectName(nomTraduction);
-    traduction->setProperty("langue", langue);
-    if (traduction->load(langue, QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(traduction);
+    application.setProperty(proprieteLangue, langue);
+    qDeleteAll(application.findChildren<QTranslator *>(nomTraduction, Qt::FindDirectChildrenOnly));
+    const auto installe = [&](const QString &fichier, const QString &dossier) {
+        auto *traduction = new QTranslator(&application);
+        traduction->setObjectName(nomTraduction);
+        if (traduction->load(langue, fichier, QStringLiteral("_"), dossier))
+            QApplication::installTranslator(traduction);
+    };
+    installe(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    installe(QStringLiteral("outils"), QStringLiteral(":/traductions"));
 }
 
 void appliqueApparence(QApplication &application)

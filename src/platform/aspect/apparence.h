@@ -7,6 +7,6 @@ class QLocale;
 /// once, before the first window opens; the pictures of the forms are there from then on.
 void appliqueApparence(QApplication &application);
 
-/// Makes the buttons and dialogs of the system speak \p langue; they stay English where its texts are not installed.
-/// French at the start.
+/// Makes the buttons and dialogs of the system speak \p langue, and what the program says through `tr`: the buttons
+/// stay English where their texts are not installed, the program's own French. French at the start.
 void parleLangue(QApplication &application, const QLocale &langue);

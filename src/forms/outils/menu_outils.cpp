@@ -1,0 +1,56 @@
+#include "outils/menu_outils.h"
+
+#include "fenetres/formulaires.h"
+#include "noms/formes.h"
+
+#include <QEvent>
+
+namespace {
+
+struct Entree
+{
+    NomForme forme;
+    QKeyCombination touche;
+    const char *texte;
+};
+
+/// In the order of the menu; texts are marked with QT_TRANSLATE_NOOP("MenuOutils", ...).
+const std::vector<Entree> &entrees()
+{
+    static const std::vector<Entree> lignes;
+    return lignes;
+}
+
+} // namespace
+
+MenuOutils::MenuOutils(const Contexte &contexte, QWidget *parent)
+    : QMenu(parent)
+    , m_contexte(contexte)
+{
+    setObjectName(u"Outils"_qs);
+    for (const Entree &entree : entrees()) {
+        QAction *action = addAction(QString());
+        action->setShortcut(entree.touche);
+        // The forms are windows of their own: the keys count in each of them.
+        action->setShortcutContext(Qt::ApplicationShortcut);
+        connect(action, &QAction::triggered, this, [this, &entree] {
+            Execute(m_contexte.boites, [&] { m_contexte.formulaires.Montre(entree.forme); });
+        });
+    }
+    traduit();
+    menuAction()->setVisible(!isEmpty());
+}
+
+void MenuOutils::traduit()
+{
+    setTitle(tr("&Outils"));
+    for (std::size_t i = 0; i < entrees().size(); ++i)
+        actions().at(qsizetype(i))->setText(tr(entrees()[i].texte));
+}
+
+void MenuOutils::changeEvent(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::LanguageChange)
+        traduit();
+    QMenu::changeEvent(evenement);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "fenetres/formulaire.h"
+
+#include <QMenu>
+
+/// The menu of the windows that stand beside the rounds and never change how they are played. Its texts follow the
+/// language of the program.
+class MenuOutils : public QMenu
+{
+    Q_OBJECT
+
+public:
+    MenuOutils(const Contexte &contexte, QWidget *parent);
+
+protected:
+    void changeEvent(QEvent *evenement) override;
+
+private:
+    void traduit();
+
+    Contexte m_contexte;
+};

@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="fr_FR">
+<context>
+    <name>MenuOutils</name>
+    <message>
+        <source>&amp;Outils</source>
+        <translation>&amp;Strumenti</translation>
+    </message>
+</context>
+</TS>
