@@ -33,9 +33,9 @@ TEST(Croissance, FormsOpenedAndClosedAgainAndAgainLeaveNothing)
 {
     constexpr int rodage = 4;
     constexpr int lots = 3;
-    // Qt keeps the names of the pictures that it has drawn until a timer of its own comes round.
-    constexpr qint64 octetsParOuverture = 4000;
-    const int parLot = std::max(4, qEnvironmentVariableIntValue("VARLOTOUR_OUVERTURES") / lots);
+    // Qt keeps the names of the pictures that it has drawn until a timer of its own comes round, some ten seconds later.
+    constexpr qint64 octetsParOuverture = 6000;
+    const int parLot = std::max(10, qEnvironmentVariableIntValue("VARLOTOUR_OUVERTURES") / lots);
     ProgrammePilote prog;
     ASSERT_TRUE(prog.demarre());
     const qint32 concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
