@@ -33,9 +33,8 @@ MenuOutils::MenuOutils(const Contexte &contexte, QWidget *parent)
         action->setShortcut(entree.touche);
         // The forms are windows of their own: the keys count in each of them.
         action->setShortcutContext(Qt::ApplicationShortcut);
-        connect(action, &QAction::triggered, this, [this, &entree] {
-            Execute(m_contexte.boites, [&] { m_contexte.formulaires.Montre(entree.forme); });
-        });
+        connect(action, &QAction::triggered, this,
+                [this, &entree] { Execute(m_contexte.boites, [&] { m_contexte.formulaires.Montre(entree.forme); }); });
     }
     traduit();
     menuAction()->setVisible(!isEmpty());
