@@ -54,6 +54,7 @@ forme panachees boite-panachees
 forme retardataire boite-retardataire
 forme importation boite-importation
 forme purge boite-purge
+forme copies francais-copiessecurite
 feuille feuille-tirage tirage-tour1
 feuille feuille-classement classement
 feuille feuille-palmares palmares-detail

@@ -43,6 +43,11 @@ void BoitesScript::attendFichier(const QString &titre, const std::optional<QStri
     m_attendues.push_back({.partie = {}, .titre = titre, .genre = Genre::Fichier, .texteSaisi = fichier});
 }
 
+void BoitesScript::attendChoix(const QString &partie, std::optional<int> ligne)
+{
+    m_attendues.push_back({.partie = partie, .genre = Genre::Liste, .ligne = ligne});
+}
+
 void BoitesScript::verifie()
 {
     for (const Attendue &attendue : m_attendues)
@@ -101,4 +106,21 @@ QString BoitesScript::ShowOpen(const BoiteFichier &dialogue)
         return dialogue.FileName;
     const std::optional<Attendue> attendue = suivante(dialogue.FileName, dialogue.DialogTitle, Genre::Fichier);
     return attendue && attendue->texteSaisi ? *attendue->texteSaisi : dialogue.FileName;
+}
+
+QString BoitesScript::ShowSave(const BoiteFichier &dialogue)
+{
+    if (m_muette)
+        return {};
+    const std::optional<Attendue> attendue = suivante(dialogue.FileName, dialogue.DialogTitle, Genre::Fichier);
+    return attendue ? attendue->texteSaisi.value_or(QString()) : QString();
+}
+
+std::optional<int> BoitesScript::Choisit(const BoiteListe &liste)
+{
+    m_lignes = liste.Lignes;
+    if (m_muette)
+        return std::nullopt;
+    const std::optional<Attendue> attendue = suivante(liste.Texte, {}, Genre::Liste);
+    return attendue ? attendue->ligne : std::nullopt;
 }

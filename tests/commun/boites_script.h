@@ -33,6 +33,10 @@ public:
     void attendSaisie(const QString &partie, const std::optional<QString> &saisie);
     /// The next box chooses a file, under the title \p titre: it gets \p fichier, or is cancelled.
     void attendFichier(const QString &titre, const std::optional<QString> &fichier);
+    /// The next box holds \p partie above a list, of which row \p ligne is taken, or none.
+    void attendChoix(const QString &partie, std::optional<int> ligne);
+    /// The rows of the last list.
+    const std::vector<QStringList> &lignes() const { return m_lignes; }
     /// All expected boxes have been shown; the others are forgotten.
     void verifie();
     /// Texts of all boxes shown, in order.
@@ -47,12 +51,14 @@ public:
     std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override { return imprimante ? imprimante() : nullptr; }
     QString ShowOpen(const BoiteFichier &dialogue) override;
+    QString ShowSave(const BoiteFichier &dialogue) override;
+    std::optional<int> Choisit(const BoiteListe &liste) override;
 
     /// Makes the printer that the operator chooses; without it he cancels.
     std::function<std::unique_ptr<Destination>()> imprimante;
 
 private:
-    enum class Genre { Message, Saisie, Fichier };
+    enum class Genre { Message, Saisie, Fichier, Liste };
 
     struct Attendue
     {
@@ -61,12 +67,14 @@ private:
         QString titre = {};
         Genre genre = Genre::Message;
         std::optional<QString> texteSaisi = {};
+        std::optional<int> ligne = {};
     };
 
     std::optional<Attendue> suivante(const QString &texte, const QString &titre, Genre genre);
 
     std::deque<Attendue> m_attendues;
     QStringList m_textes;
+    std::vector<QStringList> m_lignes;
     QString m_titre;
     int m_drapeaux = 0;
     std::optional<QPoint> m_coin;

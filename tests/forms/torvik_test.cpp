@@ -70,7 +70,7 @@ TEST(TableDesFormes, EachEntryUnloadsItsFormsInItsOrder)
         {Entree::Resultats, u"Econcours Eequipes Listesoc manqres palmares valresu Resusoc Ejoueurs listeq Listco"_qs},
         {Entree::Purge,
          u"Econcours Eequipes Listesoc listeq Listco I_tirage EResultats valresu manqres Groupes palmares "
-         u"Resusoc Détail_résultats"_qs},
+         u"Resusoc Détail_résultats CopiesSecurite"_qs},
         {Entree::Fin, u"Econcours Eequipes EResultats Listesoc manqres palmares valresu Accueil Resusoc"_qs},
     };
     for (const auto &[entree, noms] : attendus)
@@ -277,15 +277,14 @@ TEST(FenetrePrincipale, UneBaseRefuseeCedeSaPlaceALaDerniereCopieOuReste)
         else
             remplace(prog.fichier(), contenu(prog.fichier()).replace(9000, 400, QByteArray(400, 'x')));
         const QByteArray avant = contenu(prog.fichier());
-        prog.boites.attend(u"La dernière copie de sécurité est complète : sauvegardes/VarloBase-"_qs,
-                           ReponseBoite::Non);
+        prog.boites.attendChoix(u"Voici les copies de sécurité complètes"_qs, {});
         EXPECT_FALSE(prog.demarre());
         prog.boites.verifie();
-        EXPECT_EQ(prog.boites.drapeaux(), vbYesNo | vbCritical | vbDefaultButton2);
+        ASSERT_EQ(prog.boites.lignes().size(), 1U);
         EXPECT_TRUE(prog.boites.textes().last().contains(absente ? u"VarloBase.mdb est introuvable"_qs
                                                                  : u"VarloBase.mdb est endommagé"_qs));
         EXPECT_EQ(contenu(prog.fichier()), avant);
-        prog.boites.attend(u"La remettre à la place ?"_qs, ReponseBoite::Oui);
+        prog.boites.attendChoix(u"laquelle remettre à la place ?"_qs, 0);
         prog.boites.attend(u"est en place"_qs);
         ASSERT_TRUE(prog.demarre());
         EXPECT_FALSE(prog.partage().mes(1).isEmpty());

@@ -26,6 +26,8 @@ public:
     std::optional<QString> InputBox(const QString &, const QString &, std::optional<QPoint>) override { return {}; }
     std::unique_ptr<Destination> ShowPrinter() override { return nullptr; }
     QString ShowOpen(const BoiteFichier &dialogue) override { return dialogue.FileName; }
+    QString ShowSave(const BoiteFichier &) override { return {}; }
+    std::optional<int> Choisit(const BoiteListe &) override { return {}; }
 
     QStringList vues;
 };

@@ -1,6 +1,7 @@
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
 #include "garde/reprise.h"
+#include "garde/restauration.h"
 #include "garde/sauvegarde.h"
 #include "journee.h"
 #include "panne_systeme.h"
@@ -361,7 +362,7 @@ TEST_F(Coupures, EachEntryAndEachNameIsSynchronisedBeforeItIsAcknowledged)
         << "the name of a copy";
     partage.BaseDonnees.Close();
     panne::note();
-    RemetCopie(partage, DerniereCopieSaine(base.dossier()));
+    RemetCopie(partage, CopiesSaines(base.dossier()).front().copie.fichier);
     appels = panne::notes();
     EXPECT_EQ(appels.last(), u"sync "_qs + QDir(base.dossier()).dirName()) << "the base's new name";
     EXPECT_EQ(appels.value(appels.size() - 2), u"renomme VarloBase.mdb"_qs);
@@ -392,4 +393,78 @@ TEST_F(Coupures, ADiskThatRefusesAnyCallOfACopyLeavesNoPartOfItUnderItsName)
         }
     }
     EXPECT_GT(etats.size(), 60U);
+}
+
+/// Killed, torn or refused at any call, a restoration leaves the old base or the new one, and the base of before in a
+/// copy.
+TEST_F(Coupures, ARestorationCutAtAnyCallLeavesOneOfTheTwoBasesWhole)
+{
+    const BaseEssai base;
+    AleaFixe alea{1};
+    Horloge horloge;
+    QStringList ancienne;
+    QStringList nouvelle;
+    const auto restaure = [&](Partage &partage) {
+        const std::vector<Copie> copies = ListeCopies(base.dossier());
+        PrepareRestauration(partage, copies.front().fichier);
+        if (SauveBase(partage, RaisonCopie::Restauration).echouee())
+            throw store::Erreur(store::Erreur::DisquePlein, u"copy"_qs);
+        Restaure(partage, FichiersBase());
+    };
+    const auto ouvre = [&](Partage &partage) {
+        partage.EspaceTravail = &partage.moteur.Workspaces(0);
+        AbandonneRestauration(base.dossier());
+        partage.BaseDonnees = base.ouvre();
+    };
+    {
+        Partage partage(base.dossier(), alea, horloge);
+        ouvre(partage);
+        partage.BaseDonnees.Execute(u"insert into societes (societe) values ('ANCIENNE')");
+        ancienne = Contenu(partage.BaseDonnees.native());
+        ASSERT_FALSE(SauveBase(partage, RaisonCopie::Demande).echouee());
+    }
+    int anciennes = 0;
+    int nouvelles = 0;
+    for (const Genre genre : {Genre::Mort, Genre::Dechirure, Genre::Refus, Genre::Plein}) {
+        int fin = 1;
+        for (int apres = 0; fin != toutVaBien; ++apres) {
+            {
+                Partage partage(base.dossier(), alea, horloge);
+                ouvre(partage);
+                partage.BaseDonnees.Execute(u"delete * from societes where societe='NOUVELLE'");
+                partage.BaseDonnees.Execute(u"insert into societes (societe) values ('NOUVELLE')");
+                nouvelle = Contenu(partage.BaseDonnees.native());
+            }
+            const pid_t enfant = fork();
+            if (enfant == 0) {
+                Partage partage(base.dossier(), alea, horloge);
+                ouvre(partage);
+                panne::arme(genre, apres, genre == Genre::Plein ? 1000 : 1);
+                try {
+                    restaure(partage);
+                } catch (const store::Erreur &) {
+                    panne::desarme();
+                    _exit(partage.BaseDonnees.estOuverte() ? 2 : 3);
+                }
+                _exit(panne::desarme() ? 2 : toutVaBien);
+            }
+            int statut = 0;
+            waitpid(enfant, &statut, 0);
+            fin = WIFEXITED(statut) ? WEXITSTATUS(statut) : 1;
+            SCOPED_TRACE(testing::Message() << "kind " << int(genre) << ", call " << apres);
+            ASSERT_LT(apres, 2000);
+            Partage partage(base.dossier(), alea, horloge);
+            ouvre(partage);
+            EXPECT_EQ(partage.BaseDonnees.native().valeurUnique(u"pragma integrity_check"_qs).texte(), u"ok"_qs);
+            const QStringList trouve = Contenu(partage.BaseDonnees.native());
+            anciennes += trouve == nouvelle;
+            nouvelles += trouve == ancienne;
+            ASSERT_TRUE(trouve == nouvelle || trouve == ancienne);
+            verifieCopies(base.dossier(), {ancienne, nouvelle});
+            ASSERT_FALSE(HasFailure());
+        }
+        EXPECT_EQ(fin, toutVaBien);
+    }
+    EXPECT_GT(anciennes, 40);
+    EXPECT_GT(nouvelles, 4);
 }

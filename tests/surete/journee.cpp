@@ -92,7 +92,7 @@ void Journee::reprendUneCopie()
     m_remplacements.push_back(operations());
     ajoute([this] {
         ferme();
-        RemetCopie(m_partage, DerniereCopieSaine(m_dossier));
+        RemetCopie(m_partage, CopiesSaines(m_dossier).front().copie.fichier);
         ouvre();
     });
 }

@@ -19,6 +19,8 @@ public:
     std::optional<QString> InputBox(const QString &, const QString &, std::optional<QPoint>) override { return {}; }
     std::unique_ptr<Destination> ShowPrinter() override;
     QString ShowOpen(const BoiteFichier &) override { return {}; }
+    QString ShowSave(const BoiteFichier &) override { return {}; }
+    std::optional<int> Choisit(const BoiteListe &) override { return {}; }
     bool demande(const QString &) override { return true; }
     bool continueSansCopie(const QString &) override { return true; }
     void informe(const QString &) override {}

@@ -138,14 +138,31 @@ std::unique_ptr<Destination> BoitesPilotees::ShowPrinter()
     return std::make_unique<DestinationPdf>(std::exchange(m_document, QString()));
 }
 
-QString BoitesPilotees::ShowOpen(const BoiteFichier &dialogue)
+QString BoitesPilotees::fichierChoisi(const BoiteFichier &dialogue, const QString &renonce)
 {
     compte();
     if (m_fichier.isEmpty()) {
         retientFaute(u"Choix d'un fichier inattendu : « %1 »."_qs.arg(dialogue.DialogTitle));
-        return dialogue.FileName;
+        return renonce;
     }
     return std::exchange(m_fichier, QString());
+}
+
+QString BoitesPilotees::ShowOpen(const BoiteFichier &dialogue)
+{
+    return fichierChoisi(dialogue, dialogue.FileName);
+}
+
+QString BoitesPilotees::ShowSave(const BoiteFichier &dialogue)
+{
+    return fichierChoisi(dialogue, {});
+}
+
+std::optional<int> BoitesPilotees::Choisit(const BoiteListe &liste)
+{
+    compte();
+    retientFaute(u"Liste inattendue : « %1 »."_qs.arg(liste.Texte));
+    return std::nullopt;
 }
 
 } // namespace demonstration

@@ -25,6 +25,10 @@ enum class Boite {
     EquipeImportee,
     Copie,
     Suppression,
+    CopieFaite,
+    CopieAilleurs,
+    Restauration,
+    Restauree,
     Purge,
     PurgeReussie,
 };
@@ -48,7 +52,7 @@ public:
     void saisit(const QString &extrait, const QString &saisie, QStringView image);
     /// The next document goes to this PDF file; a printer asked for without it is a fault.
     void imprimeDans(const QString &fichier) { m_document = fichier; }
-    /// The file dialog chooses this file next; one that is asked for without it is a fault.
+    /// The file dialog, for reading or writing, chooses this file next; one that is asked for without it is a fault.
     void choisit(const QString &fichier) { m_fichier = fichier; }
     /// What was unexpected since the start; empty when nothing was.
     const QString &faute() const { return m_faute; }
@@ -57,6 +61,8 @@ public:
     std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
     QString ShowOpen(const BoiteFichier &dialogue) override;
+    QString ShowSave(const BoiteFichier &dialogue) override;
+    std::optional<int> Choisit(const BoiteListe &liste) override;
 
 private:
     struct Consigne
@@ -74,6 +80,7 @@ private:
         QString image;
     };
 
+    QString fichierChoisi(const BoiteFichier &dialogue, const QString &renonce);
     const Consigne *consigne(const QString &texte) const;
     void repond(QMessageBox &boite, const Consigne *consigne);
     void photographie(const QString &image, QWidget &boite);

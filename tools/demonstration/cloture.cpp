@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QTableWidget>
 #include <QTest>
 
 namespace demonstration {
@@ -13,6 +14,7 @@ namespace demonstration {
 namespace {
 
 const QString copieDuJour = u"VarloBase-journee.mdb"_qs;
+const QString copieAilleurs = u"VarloBase-cle.mdb"_qs;
 const QString fichierEquipes = u"equipes.dat"_qs;
 const QString fichierJoueurs = u"joueurs.txt"_qs;
 const QString fichierClubs = u"clubs.txt"_qs;
@@ -53,7 +55,7 @@ Cloture::Cloture(const Options &options, const Plateau &plateau)
 
 QStringList Cloture::fichiers()
 {
-    return {copieDuJour, fichierEquipes, fichierJoueurs, fichierClubs};
+    return {copieDuJour, copieAilleurs, fichierEquipes, fichierJoueurs, fichierClubs};
 }
 
 QString Cloture::chemin(const QString &nom) const
@@ -74,6 +76,7 @@ void Cloture::joue()
     prevoitBoites();
     importeEquipes();
     importeListes();
+    restaure();
     purge();
     m_programme.termine();
 }
@@ -103,6 +106,11 @@ void Cloture::prevoitBoites()
     m_boites.attend(Boite::EquipeImportee, mes(101), ReponseBoite::Oui, u"boite-equipe-importee");
     m_boites.attend(Boite::Panachees, u"Les équipes panachées sont-elles autorisées"_qs, ReponseBoite::Oui,
                     u"boite-panachees");
+    m_boites.attend(Boite::CopieFaite, u"Copie faite : VarloBase-"_qs, ReponseBoite::OK, u"boite-copie-securite");
+    m_boites.attend(Boite::CopieAilleurs, u"est écrite, relue et complète"_qs, ReponseBoite::OK,
+                    u"boite-copie-ailleurs");
+    m_boites.attend(Boite::Restauration, u"Restaurer la copie du"_qs, ReponseBoite::Oui, u"boite-restauration");
+    m_boites.attend(Boite::Restauree, u"est en place"_qs, ReponseBoite::OK, u"boite-restauree");
     m_boites.attend(Boite::Purge, u"Attention cette opération est irréversible"_qs, ReponseBoite::Oui, u"boite-purge");
     m_boites.attend(Boite::PurgeReussie, u"Opération réussie"_qs, ReponseBoite::OK, u"boite-purge-reussie");
 }
@@ -133,6 +141,32 @@ void Cloture::importeListes()
           u"La liste des joueurs n'est pas entrée."_qs);
     exige(nombre(u"clubs"_qs) == qint64(m_plateau.clubs().size()), u"La liste des clubs n'est pas entrée."_qs);
     dit(u"Importation : %1 joueurs, %2 clubs"_qs.arg(joueurs).arg(m_plateau.clubs().size()));
+}
+
+/// The lists have come in over the base of the start: back to it, and forward again.
+void Cloture::restaure()
+{
+    const QString copies = u"CopiesSecurite"_qs;
+    const qint64 joueurs = nombre(u"joueurs"_qs);
+    choisit(u"mnu_CopiesSecurite"_qs);
+    auto *liste = m_main.controle<QTableWidget>(copies, u"Copies"_qs);
+    m_main.clique(m_main.controle(copies, u"Copier_maintenant"_qs));
+    m_boites.choisit(chemin(copieAilleurs));
+    m_main.clique(m_main.controle(copies, u"Copier_vers"_qs));
+    auto *restaurer = m_main.controle(copies, u"Restaurer"_qs);
+    for (const int ligne : {liste->rowCount() - 1, 0}) {
+        liste->selectRow(ligne);
+        exige(QTest::qWaitFor([restaurer] { return restaurer->isEnabled(); }), u"La copie ne se lit pas."_qs);
+        m_photographe.prend(u"copies", *m_main.fenetre(copies));
+        m_main.clique(restaurer);
+        const qint64 voulus = ligne == 0 ? joueurs : 0;
+        exige(nombre(u"joueurs"_qs) == voulus, u"La base restaurée n'est pas celle de la copie."_qs);
+    }
+    exige(m_boites.fois(Boite::CopieFaite) == 1 && m_boites.fois(Boite::CopieAilleurs) == 1
+              && m_boites.fois(Boite::Restauree) == 2,
+          u"Les copies de sécurité n'ont pas fait ce qui leur était demandé."_qs);
+    dit(u"Copies : %1, base restaurée puis reprise"_qs.arg(liste->rowCount()));
+    m_main.touche(Qt::Key_Escape);
 }
 
 void Cloture::purge()

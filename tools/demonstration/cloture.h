@@ -26,6 +26,7 @@ private:
     void prevoitBoites();
     void importeEquipes();
     void importeListes();
+    void restaure();
     void purge();
     void choisit(const QString &entree);
     QString chemin(const QString &nom) const;

@@ -74,6 +74,11 @@ const QStringView chronique[] = {
     u"boite-importation",
     u"boite-equipe-importee",
     u"equipes-importees",
+    u"copies",
+    u"boite-copie-securite",
+    u"boite-copie-ailleurs",
+    u"boite-restauration",
+    u"boite-restauree",
     u"boite-purge",
     u"boite-purge-reussie",
 };

@@ -1,6 +1,5 @@
 #include "garde/reprise.h"
 
-#include "garde/sauvegarde.h"
 #include "partage/base.h"
 #include "store/fichiers.h"
 #include "store/preuve.h"
@@ -59,12 +58,18 @@ bool ReprendPurge(const QString &dossierProgramme)
     return true;
 }
 
-QString DerniereCopieSaine(const QString &dossierProgramme)
+std::vector<CopieSaine> CopiesSaines(const QString &dossierProgramme)
 {
-    const std::vector<Copie> copies = ListeCopies(dossierProgramme);
-    const auto saine =
-        std::find_if(copies.rbegin(), copies.rend(), [](const Copie &copie) { return estSaine(copie.fichier); });
-    return saine == copies.rend() ? QString() : saine->fichier;
+    std::vector<CopieSaine> saines;
+    for (const Copie &copie : ListeCopies(dossierProgramme)) {
+        try {
+            saines.push_back({copie, InventaireDe(copie.fichier)});
+        } catch (const Erreur &) {
+            continue; // not offered
+        }
+    }
+    std::ranges::reverse(saines);
+    return saines;
 }
 
 QString RemetCopie(const Partage &partage, const QString &copie)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "partage/partage.h"
+#include "garde/inventaire.h"
+#include "garde/sauvegarde.h"
 
 /// What an earlier run has left half done, or lost, is put right before the base is opened. All of it may be cut short
 /// at any point: the next start goes on from there.
@@ -9,8 +10,15 @@
 /// own. Whether there was one. Throws store::Erreur when it cannot be renamed.
 bool ReprendPurge(const QString &dossierProgramme);
 
-/// The newest safety copy that is proved whole, its full path; empty when there is none.
-QString DerniereCopieSaine(const QString &dossierProgramme);
+/// A safety copy that is proved whole, and what it holds.
+struct CopieSaine
+{
+    Copie copie;
+    Inventaire inventaire;
+};
+
+/// The safety copies that are proved whole, the newest first.
+std::vector<CopieSaine> CopiesSaines(const QString &dossierProgramme);
 
 /// Puts the safety copy \p copie into the place of the closed base. What stood there stays beside it: gives the name
 /// that it has now, empty when there was nothing. Throws store::Erreur; the base stands as before then.

@@ -114,6 +114,16 @@ QString copieSous(Partage &partage, const QString &fichier)
     return cause;
 }
 
+bool estSaine(const QString &fichier)
+{
+    try {
+        const store::BaseNative relue(fichier, motDePasseBase, store::BaseNative::Mode::LectureSeule);
+    } catch (const store::Erreur &) {
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 void PrepareSauvegardes(Partage &partage)
@@ -144,6 +154,30 @@ BilanCopie SauveBase(Partage &partage, RaisonCopie raison)
         return {.fichier = {}, .cause = cause};
     retireLesPlusVieilles(ListeCopies(partage.DossierProgramme), partage.horloge.jour());
     return {.fichier = fichier, .cause = {}};
+}
+
+std::optional<EchecCopieVers> CopieVers(Partage &partage, const QString &fichier)
+{
+    if (QFileInfo(fichier).canonicalFilePath() == QFileInfo(partage.BaseDonnees.fichier()).canonicalFilePath())
+        return EchecCopieVers::BaseElleMeme;
+    store::BaseNative &base = partage.BaseDonnees.native();
+    const QString provisoire = fichier + finProvisoire;
+    try {
+        base.prepareCopies(motDePasseBase);
+        QFile::remove(provisoire);
+        base.copieVers(provisoire);
+        store::relitDuDisque(provisoire);
+        if (!estSaine(provisoire) || !base.estDans(provisoire)) {
+            QFile::remove(provisoire);
+            return EchecCopieVers::Relecture;
+        }
+        if (store::renomme(provisoire, fichier))
+            return {};
+    } catch (const store::Erreur &) {
+        // Told by what is given back: nothing of the copy bears its name.
+    }
+    QFile::remove(provisoire);
+    return EchecCopieVers::Ecriture;
 }
 
 std::vector<Copie> ListeCopies(const QString &dossierProgramme)

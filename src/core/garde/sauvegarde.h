@@ -48,6 +48,18 @@ void PrepareSauvegardes(Partage &partage);
 /// go, except the first of today. Not inside a write group; never throws.
 BilanCopie SauveBase(Partage &partage, RaisonCopie raison);
 
+/// Why a copy to a place of the operator's choice has not been made.
+enum class EchecCopieVers {
+    BaseElleMeme, ///< The place is that of the base in use.
+    Ecriture, ///< It cannot be written: protected, full, gone.
+    Relecture, ///< What was written does not read back as the base; it is gone again.
+};
+
+/// Writes a copy of the open base, encrypted like it, into \p fichier: it bears that name only when it is whole, is on
+/// the disk, and has been read back and compared row by row with the base. A file that has the name goes. Nothing when
+/// all went well. Not inside a write group; never throws.
+[[nodiscard]] std::optional<EchecCopieVers> CopieVers(Partage &partage, const QString &fichier);
+
 /// The copies beside the base in \p dossierProgramme, in the order of making. Files whose names this program does not
 /// give are none of them.
 std::vector<Copie> ListeCopies(const QString &dossierProgramme);

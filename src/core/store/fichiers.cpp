@@ -71,4 +71,18 @@ bool recopie(const QString &source, const QString &cible)
     return true;
 }
 
+void relitDuDisque(const QString &fichier)
+{
+#if defined(Q_OS_LINUX)
+    const int ouvert = ::open(QFile::encodeName(fichier).constData(), O_RDONLY | O_CLOEXEC);
+    if (ouvert < 0)
+        return;
+    ::fsync(ouvert);
+    ::posix_fadvise(ouvert, 0, 0, POSIX_FADV_DONTNEED);
+    ::close(ouvert);
+#else
+    Q_UNUSED(fichier)
+#endif
+}
+
 } // namespace store

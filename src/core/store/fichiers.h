@@ -21,4 +21,8 @@ bool garde(const QString &source, const QString &cible);
 /// False when it cannot be done.
 bool recopie(const QString &source, const QString &cible);
 
+/// Brings \p fichier to the disk and lets the system forget what it keeps of it in memory, so that the next reading
+/// tells what the disk holds. A wish: not every system grants it.
+void relitDuDisque(const QString &fichier);
+
 } // namespace store

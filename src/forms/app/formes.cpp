@@ -5,6 +5,7 @@
 #include "competitions/econcours.h"
 #include "fenetres/alerte.h"
 #include "noms/formes.h"
+#include "outils/copies_securite.h"
 #include "printing/i_tirage.h"
 #include "printing/palmares.h"
 #include "printing/resusoc.h"
@@ -56,6 +57,7 @@ constexpr LigneForme table[] = {
     {formes::Resusoc,         fabrique<Resusoc>,         E::Resultats,    Rien,   { 0, 0, 6,  8,  7, 12, 9}},
     {formes::FrmHorloge,      fabrique<FrmHorloge>,      std::nullopt,    Rien,   {}},
     {formes::langues,         fabrique<langues>,         std::nullopt,    Rien,   {}},
+    {formes::CopiesSecurite,  fabrique<CopiesSecurite>,  std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 14, 0}},
     {nomAlerte,               fabrique<Alerte>,          std::nullopt,    Rien,   {}},
 };
 // clang-format on

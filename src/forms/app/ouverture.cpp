@@ -2,7 +2,9 @@
 
 #include "fenetres/sablier.h"
 #include "garde/reprise.h"
+#include "garde/restauration.h"
 #include "garde/sauvegarde.h"
+#include "outils/mots_copies.h"
 #include "partage/base.h"
 
 #include <QDir>
@@ -26,23 +28,32 @@ bool estRefusee(const Erreur &erreur)
         || erreur.numero() == Erreur::MotDePasse || erreur.numero() == Erreur::FichierEndommage;
 }
 
-/// Offers the last safety copy in the place of the refused base. Gives what there is to tell once the base is open.
+/// Offers the safety copies in the place of the refused base. Gives what there is to tell once the base is open.
 QString remetUneCopie(const Contexte &contexte, const Erreur &erreur)
 {
     const Partage &partage = contexte.partage;
-    const QString copie = DerniereCopieSaine(partage.DossierProgramme);
-    if (copie.isEmpty())
+    const std::vector<CopieSaine> copies = CopiesSaines(partage.DossierProgramme);
+    if (copies.empty())
         throw Erreur(erreur.numero(),
                      erreur.phrase() + saut + saut
                          + u"Le dossier %1 n'a pas de copie complète : fermez le programme, mettez une de vos copies à "
                            u"la place sous le nom %2, puis relancez-le."_qs.arg(dossierSauvegardes, nomBase));
-    const QString question = erreur.phrase() + saut + saut
-        + u"La dernière copie de sécurité est complète : %1. La remettre à la place ?"_qs.arg(
-            QDir::toNativeSeparators(dossierSauvegardes + u'/' + QFileInfo(copie).fileName()))
-        + saut + u"Ce qui est refusé reste dans le dossier, sous un autre nom. Non ne change rien."_qs;
-    if (contexte.boites.MsgBox(question, vbYesNo | vbCritical | vbDefaultButton2) != ReponseBoite::Oui)
+    BoiteListe liste{
+        .Texte = erreur.phrase() + saut + saut
+            + u"Voici les copies de sécurité complètes, la dernière d'abord : laquelle remettre à la place ?"_qs + saut
+            + u"Ce qui est refusé reste dans le dossier, sous un autre nom. Quitter ne change rien."_qs,
+        .Entetes = MotsCopies::entetes(),
+        .Lignes = {},
+        .Accepter = u"Remettre à la place"_qs,
+        .Renoncer = u"Quitter"_qs,
+    };
+    for (const CopieSaine &saine : copies)
+        liste.Lignes.push_back(MotsCopies::ligne(partage, saine.copie, saine.inventaire));
+    const std::optional<int> choisie = contexte.boites.Choisit(liste);
+    if (!choisie)
         throw DepartRenonce();
     const Sablier sablier;
+    const QString copie = copies[std::size_t(*choisie)].copie.fichier;
     const QString ecartee = RemetCopie(partage, copie);
     const QString faite = u"La copie %1 est en place."_qs.arg(QFileInfo(copie).fileName());
     return ecartee.isEmpty() ? faite : faite + u" Le fichier refusé s'appelle %1."_qs.arg(ecartee);
@@ -68,6 +79,7 @@ QString remedie(const Contexte &contexte, const Erreur &erreur)
 void OuvreBase(const Contexte &contexte)
 {
     contexte.partage.EspaceTravail = &contexte.partage.moteur.Workspaces(0);
+    AbandonneRestauration(contexte.partage.DossierProgramme);
     QStringList nouvelles;
     // Each remedy takes away what it stands against, so that the next one meets something else.
     for (;;) {

@@ -9,6 +9,7 @@
 #include "garde/sauvegarde.h"
 #include "maintenance/import_listes.h"
 #include "maintenance/purge.h"
+#include "noms/changement_base.h"
 #include "noms/formes.h"
 #include "outils/menu_outils.h"
 #include "partage/base.h"
@@ -77,13 +78,18 @@ void Torvik::surClick(QAction *action, void (*traitement)(const Contexte &))
             [this, traitement] { Execute(m_contexte.boites, [&] { traitement(m_contexte); }); });
 }
 
-/// A base serves for years: what this version counts on and what it lacks is added.
-void Torvik::completeBase()
+/// A base serves for years: what this version counts on and what it lacks is added. Its language is spoken from now on.
+void Torvik::metEnService()
 {
+    Partage &partage = m_contexte.partage;
+    PrepareSauvegardes(partage);
+    MetANiveau(partage);
     QFile complement(u":/complement.sql"_qs);
     if (!complement.open(QIODevice::ReadOnly))
         throw std::logic_error("The program was built without its messages.");
-    CompleteBase(m_contexte.partage.BaseDonnees, QString::fromUtf8(complement.readAll()));
+    CompleteBase(partage.BaseDonnees, QString::fromUtf8(complement.readAll()));
+    ChargeLangue(partage);
+    LegendesTorvik();
 }
 
 /// Nothing is lost by a start: without a copy the work goes on, and the operator knows.
@@ -99,13 +105,9 @@ void Torvik::copieDeDepart()
 
 void Torvik::Form_Load()
 {
-    Partage &partage = m_contexte.partage;
     OuvreBase(m_contexte);
-    PrepareSauvegardes(partage);
-    MetANiveau(partage);
-    completeBase();
-    ChargeLangue(partage);
-    LegendesTorvik();
+    metEnService();
+    changementBase(m_contexte.formulaires) = {FormesDechargees(Entree::Purge), [this] { metEnService(); }};
     copieDeDepart();
     m_garde = std::make_unique<GardeBase>(m_contexte);
     // A desktop keeps its bars and the window's own title in sight; without one the whole screen is taken.

@@ -47,7 +47,7 @@ private:
     void relie();
     void surClick(QAction *action, void (Torvik::*traitement)());
     void surClick(QAction *action, void (*traitement)(const Contexte &));
-    void completeBase();
+    void metEnService();
     void copieDeDepart();
     void Form_Click();
     void Form_Unload();

@@ -3,8 +3,6 @@
 #include "fenetres/copie_prealable.h"
 #include "fenetres/patience.h"
 #include "partage/base.h"
-#include "store/base_native.h"
-#include "store/fichiers.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,7 +14,6 @@ namespace {
 const QString saut = u"\r\n"_qs;
 const QString question = u"Attention cette opération est irréversible"_qs + saut + u"Avez vous fait une sauvegarde?"_qs
     + saut + u"Vous allez supprimer des informations"_qs;
-const QString journal = u"-wal"_qs;
 
 QString chemin(const Partage &partage, const QString &fichier)
 {
@@ -26,12 +23,6 @@ QString chemin(const Partage &partage, const QString &fichier)
 QString affiche(const QString &fichier)
 {
     return QDir::toNativeSeparators(fichier);
-}
-
-void supprimeFichier(const QString &fichier)
-{
-    if (QFile::exists(fichier) && !QFile::remove(fichier))
-        throw Erreur(Erreur::DossierProtege, u"Le fichier %1 ne peut pas être supprimé."_qs.arg(affiche(fichier)));
 }
 
 void videTables(store::Database &base)
@@ -46,20 +37,13 @@ void videTables(store::Database &base)
     });
 }
 
-/// A journal with rows in it is a part of the base, left there by somebody who still has it open.
-void exigeSansJournal(const QString &base)
-{
-    if (QFile(base + journal).size() > 0)
-        throw Erreur(Erreur::DossierProtege, u"La base %1 est encore occupée."_qs.arg(affiche(base)));
-}
-
 /// Puts the compacted file into the place of the closed base. Whatever step fails, one of the two is complete.
 void remplaceFichier(const FichiersBase &fichiers, const QString &base, const QString &temporaire)
 {
     if (QFile::exists(temporaire))
         fichiers.supprime(temporaire);
     fichiers.compacte(base, temporaire);
-    exigeSansJournal(base);
+    fichiers.supprimeJournaux(base);
     fichiers.supprime(base);
     fichiers.renomme(temporaire, base);
 }
@@ -97,36 +81,6 @@ void reduitFichier(Partage &partage, const FichiersBase &fichiers)
 }
 
 } // namespace
-
-FichiersBase::~FichiersBase() = default;
-
-void FichiersBase::supprime(const QString &fichier) const
-{
-    for (const QString &suffixe : {journal, u"-shm"_qs, u"-journal"_qs, QString()})
-        supprimeFichier(fichier + suffixe);
-}
-
-void FichiersBase::compacte(const QString &source, const QString &cible) const
-{
-    try {
-        store::DBEngine::CompactDatabase(source, cible, u";pwd="_qs + motDePasseBase);
-        const store::BaseNative relue(cible, motDePasseBase, store::BaseNative::Mode::LectureSeule);
-    } catch (const Erreur &) {
-        QFile::remove(cible);
-        throw;
-    }
-}
-
-void FichiersBase::renomme(const QString &ancien, const QString &nouveau) const
-{
-    if (!store::renomme(ancien, nouveau))
-        throw Erreur(Erreur::DossierProtege, u"Le fichier %1 ne peut pas être renommé."_qs.arg(affiche(ancien)));
-}
-
-store::Database FichiersBase::ouvre(const store::Workspace &espace, const QString &fichier) const
-{
-    return espace.OpenDatabase(fichier, false, false, connexionBase);
-}
 
 void Torvik_mnu_base_Click(const Contexte &contexte, const std::vector<NomForme> &formesDeConcours)
 {

@@ -17,7 +17,9 @@ struct Entree
 /// In the order of the menu; texts are marked with QT_TRANSLATE_NOOP("MenuOutils", ...).
 const std::vector<Entree> &entrees()
 {
-    static const std::vector<Entree> lignes;
+    static const std::vector<Entree> lignes{
+        {formes::CopiesSecurite, Qt::Key_F9, QT_TRANSLATE_NOOP("MenuOutils", "&Copies de sécurité")},
+    };
     return lignes;
 }
 
@@ -30,6 +32,7 @@ MenuOutils::MenuOutils(const Contexte &contexte, QWidget *parent)
     setObjectName(u"Outils"_qs);
     for (const Entree &entree : entrees()) {
         QAction *action = addAction(QString());
+        action->setObjectName(u"mnu_"_qs + entree.forme);
         action->setShortcut(entree.touche);
         // The forms are windows of their own: the keys count in each of them.
         action->setShortcutContext(Qt::ApplicationShortcut);

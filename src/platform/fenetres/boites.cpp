@@ -1,5 +1,6 @@
 #include "fenetres/boites.h"
 
+#include "fenetres/liste_a_choisir.h"
 #include "fenetres/sablier.h"
 #include "papier/destinations.h"
 #include "socle/twips.h"
@@ -107,4 +108,25 @@ QString BoitesQt::ShowOpen(const BoiteFichier &dialogue)
     if (interroge(choix) != QDialog::Accepted || choix.selectedFiles().isEmpty())
         return dialogue.FileName;
     return choix.selectedFiles().constFirst();
+}
+
+QString BoitesQt::ShowSave(const BoiteFichier &dialogue)
+{
+    compte();
+    QFileDialog choix(QApplication::activeWindow(), titreOuProgramme(dialogue.DialogTitle));
+    choix.setAcceptMode(QFileDialog::AcceptSave);
+    choix.setFileMode(QFileDialog::AnyFile);
+    choix.setDefaultSuffix(dialogue.DefaultExt);
+    choix.selectFile(dialogue.FileName);
+    if (interroge(choix) != QDialog::Accepted || choix.selectedFiles().isEmpty())
+        return {};
+    return choix.selectedFiles().constFirst();
+}
+
+std::optional<int> BoitesQt::Choisit(const BoiteListe &liste)
+{
+    compte();
+    ListeAChoisir boite(liste, QApplication::activeWindow());
+    boite.setWindowTitle(titreOuProgramme({}));
+    return interroge(boite) == QDialog::Accepted ? boite.choisie() : std::nullopt;
 }

@@ -2,9 +2,11 @@
 
 #include <QPoint>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class Destination;
 
@@ -33,6 +35,17 @@ struct BoiteFichier
     QString FileName; ///< A pattern such as "*.dat": only files that fit it are shown at first.
 };
 
+/// A list of which the operator takes one row.
+struct BoiteListe
+{
+    QString Texte; ///< What it is about, above the list.
+    QStringList Entetes;
+    std::vector<QStringList> Lignes;
+    QString Accepter; ///< Caption of the button that takes the row chosen.
+    QString Renoncer;
+    int Choisie = 0; ///< Row chosen at first; -1 for none.
+};
+
 enum class ReponseBoite { OK = 1, Annuler = 2, Oui = 6, Non = 7 };
 
 /// The one gateway for everything that stops the operator until it is answered.
@@ -53,6 +66,12 @@ public:
     /// cancels.
     virtual QString ShowOpen(const BoiteFichier &dialogue) = 0;
 
+    /// Lets the operator choose the name of a file to write, \p dialogue.FileName at first, and asks before one that
+    /// exists; gives its full path, empty when he cancels.
+    virtual QString ShowSave(const BoiteFichier &dialogue) = 0;
+    /// Lets the operator take a row of a list; nothing when he renounces.
+    virtual std::optional<int> Choisit(const BoiteListe &liste) = 0;
+
     /// Boxes shown so far: whoever moves the focus can tell whether the operator was stopped meanwhile.
     int nombre() const { return m_nombre; }
 
@@ -71,4 +90,6 @@ public:
     std::optional<QString> InputBox(const QString &texte, const QString &titre, std::optional<QPoint> coin) override;
     std::unique_ptr<Destination> ShowPrinter() override;
     QString ShowOpen(const BoiteFichier &dialogue) override;
+    QString ShowSave(const BoiteFichier &dialogue) override;
+    std::optional<int> Choisit(const BoiteListe &liste) override;
 };

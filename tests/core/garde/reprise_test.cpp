@@ -38,7 +38,7 @@ protected:
 
 TEST_F(Reprise, ACopyTakesThePlaceOfWhatIsRefusedAndNothingGoes)
 {
-    EXPECT_EQ(DerniereCopieSaine(base.dossier()), QString());
+    EXPECT_TRUE(CopiesSaines(base.dossier()).empty());
     ecrit(1);
     ASSERT_FALSE(SauveBase(partage, RaisonCopie::Demande).echouee());
     const QString bonne = ListeCopies(base.dossier()).back().fichier;
@@ -52,7 +52,9 @@ TEST_F(Reprise, ACopyTakesThePlaceOfWhatIsRefusedAndNothingGoes)
     }
     const QByteArray refusee = contenu(base.fichier());
     const QByteArray journal = contenu(base.fichier() + u"-wal"_qs);
-    EXPECT_EQ(DerniereCopieSaine(base.dossier()), bonne) << "a damaged copy is none";
+    const std::vector<CopieSaine> saines = CopiesSaines(base.dossier());
+    ASSERT_EQ(saines.size(), 1U) << "a damaged copy is none";
+    EXPECT_EQ(saines.front().copie.fichier, bonne);
     const QString ecartee = RemetCopie(partage, bonne);
     EXPECT_EQ(contenu(base.dossier() + u'/' + ecartee), refusee);
     EXPECT_EQ(contenu(base.dossier() + u'/' + ecartee + u"-wal"_qs), journal);

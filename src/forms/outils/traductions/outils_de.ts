@@ -2,10 +2,299 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="fr_FR">
 <context>
+    <name>CopiesSecurite</name>
+    <message>
+        <source>Copies de sécurité</source>
+        <translation>Sicherungskopien</translation>
+    </message>
+    <message>
+        <source>Concours de la copie choisie</source>
+        <translation>Wettbewerbe der gewählten Kopie</translation>
+    </message>
+    <message>
+        <source>Restaurer</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Copier maintenant</source>
+        <translation>Jetzt kopieren</translation>
+    </message>
+    <message>
+        <source>Copier vers...</source>
+        <translation>Kopieren nach...</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base</source>
+        <translation>Unterschied</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Wettbewerbe</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Mannschaften</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Runden</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Base en service : %1.</source>
+        <translation>Datei in Gebrauch: %1.</translation>
+    </message>
+    <message>
+        <source>lecture en cours</source>
+        <translation>wird gelesen</translation>
+    </message>
+    <message>
+        <source>copie illisible</source>
+        <translation>Kopie nicht lesbar</translation>
+    </message>
+    <message>
+        <source>identique</source>
+        <translation>gleich</translation>
+    </message>
+    <message>
+        <source>mêmes nombres, contenu différent</source>
+        <translation>gleiche Zahlen, anderer Inhalt</translation>
+    </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite : %1</source>
+        <translation>Die Kopie konnte nicht gemacht werden: %1</translation>
+    </message>
+    <message>
+        <source>La dernière copie contient déjà tout : %1.</source>
+        <translation>Die letzte Kopie enthält schon alles: %1.</translation>
+    </message>
+    <message>
+        <source>Copie faite : %1.</source>
+        <translation>Kopie gemacht: %1.</translation>
+    </message>
+    <message>
+        <source>Copier la base vers</source>
+        <translation>Datei kopieren nach</translation>
+    </message>
+    <message>
+        <source>La copie %1 est écrite, relue et complète.</source>
+        <translation>Die Kopie %1 ist geschrieben, zurückgelesen und vollständig.</translation>
+    </message>
+    <message>
+        <source>%1 est la base en service : choisissez un autre nom.</source>
+        <translation>%1 ist die Datei in Gebrauch: wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Ce qui a été écrit dans %1 ne se relit pas : rien n&apos;y est resté. Essayez un autre support.</source>
+        <translation>Was nach %1 geschrieben wurde, lässt sich nicht zurücklesen: nichts davon ist geblieben. Versuchen Sie einen anderen Datenträger.</translation>
+    </message>
+    <message>
+        <source>La copie %1 n&apos;a pas pu être écrite : regardez la place et les droits.</source>
+        <translation>Die Kopie %1 konnte nicht geschrieben werden: prüfen Sie Platz und Rechte.</translation>
+    </message>
+    <message>
+        <source>Restaurer la copie du %1 ?</source>
+        <translation>Die Kopie vom %1 wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Elle contient %1.</source>
+        <translation>Sie enthält %1.</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base : %1.</source>
+        <translation>Gegenüber der Datei in Gebrauch: %1.</translation>
+    </message>
+    <message>
+        <source>Une copie de la base actuelle est faite d&apos;abord : la restaurer à son tour annule ce geste.</source>
+        <translation>Zuerst wird die jetzige Datei kopiert: wird diese Kopie wiederhergestellt, ist alles wie zuvor.</translation>
+    </message>
+    <message>
+        <source>La copie du %1 est en place.</source>
+        <translation>Die Kopie vom %1 ist eingesetzt.</translation>
+    </message>
+    <message>
+        <source>La base d&apos;avant est dans la copie %1.</source>
+        <translation>Die Datei von vorher ist in der Kopie %1.</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
         <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>&amp;Copies de sécurité</source>
+        <translation>Si&amp;cherungskopien</translation>
+    </message>
+</context>
+<context>
+    <name>MotsCopies</name>
+    <message>
+        <source>inconnue</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>départ du programme</source>
+        <translation>Programmstart</translation>
+    </message>
+    <message>
+        <source>remise à zéro</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>suppression</source>
+        <translation>Löschung</translation>
+    </message>
+    <message>
+        <source>nouveau tirage</source>
+        <translation>neue Auslosung</translation>
+    </message>
+    <message>
+        <source>annulation</source>
+        <translation>Rücknahme</translation>
+    </message>
+    <message>
+        <source>restauration</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>à la demande</source>
+        <translation>auf Wunsch</translation>
+    </message>
+    <message>
+        <source>fichier disparu ou changé</source>
+        <translation>Datei verschwunden oder geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de plus</source>
+        <translation>
+            <numerusform>%n Wettbewerb mehr</numerusform>
+            <numerusform>%n Wettbewerbe mehr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de moins</source>
+        <translation>
+            <numerusform>%n Wettbewerb weniger</numerusform>
+            <numerusform>%n Wettbewerbe weniger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de plus</source>
+        <translation>
+            <numerusform>%n Mannschaft mehr</numerusform>
+            <numerusform>%n Mannschaften mehr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de moins</source>
+        <translation>
+            <numerusform>%n Mannschaft weniger</numerusform>
+            <numerusform>%n Mannschaften weniger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de plus</source>
+        <translation>
+            <numerusform>%n Ergebnis mehr</numerusform>
+            <numerusform>%n Ergebnisse mehr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de moins</source>
+        <translation>
+            <numerusform>%n Ergebnis weniger</numerusform>
+            <numerusform>%n Ergebnisse weniger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de plus</source>
+        <translation>
+            <numerusform>%n bekannter Spieler mehr</numerusform>
+            <numerusform>%n bekannte Spieler mehr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de moins</source>
+        <translation>
+            <numerusform>%n bekannter Spieler weniger</numerusform>
+            <numerusform>%n bekannte Spieler weniger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de plus</source>
+        <translation>
+            <numerusform>%n Verein mehr</numerusform>
+            <numerusform>%n Vereine mehr</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de moins</source>
+        <translation>
+            <numerusform>%n Verein weniger</numerusform>
+            <numerusform>%n Vereine weniger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n Wettbewerb</numerusform>
+            <numerusform>%n Wettbewerbe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n Mannschaft</numerusform>
+            <numerusform>%n Mannschaften</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s)</source>
+        <translation>
+            <numerusform>%n Ergebnis</numerusform>
+            <numerusform>%n Ergebnisse</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copie du</source>
+        <translation>Kopie vom</translation>
+    </message>
+    <message>
+        <source>Raison</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Wettbewerbe</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Mannschaften</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Ergebnisse</translation>
     </message>
 </context>
 </TS>

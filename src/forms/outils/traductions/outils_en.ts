@@ -2,10 +2,299 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="fr_FR">
 <context>
+    <name>CopiesSecurite</name>
+    <message>
+        <source>Copies de sécurité</source>
+        <translation>Safety copies</translation>
+    </message>
+    <message>
+        <source>Concours de la copie choisie</source>
+        <translation>Competitions in the chosen copy</translation>
+    </message>
+    <message>
+        <source>Restaurer</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>Copier maintenant</source>
+        <translation>Copy now</translation>
+    </message>
+    <message>
+        <source>Copier vers...</source>
+        <translation>Copy to...</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base</source>
+        <translation>Compared with the base</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Competitions</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Teams</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rounds</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Results</translation>
+    </message>
+    <message>
+        <source>Base en service : %1.</source>
+        <translation>Base in use: %1.</translation>
+    </message>
+    <message>
+        <source>lecture en cours</source>
+        <translation>being read</translation>
+    </message>
+    <message>
+        <source>copie illisible</source>
+        <translation>copy cannot be read</translation>
+    </message>
+    <message>
+        <source>identique</source>
+        <translation>identical</translation>
+    </message>
+    <message>
+        <source>mêmes nombres, contenu différent</source>
+        <translation>same numbers, different contents</translation>
+    </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite : %1</source>
+        <translation>The copy could not be made: %1</translation>
+    </message>
+    <message>
+        <source>La dernière copie contient déjà tout : %1.</source>
+        <translation>The last copy already holds everything: %1.</translation>
+    </message>
+    <message>
+        <source>Copie faite : %1.</source>
+        <translation>Copy made: %1.</translation>
+    </message>
+    <message>
+        <source>Copier la base vers</source>
+        <translation>Copy the base to</translation>
+    </message>
+    <message>
+        <source>La copie %1 est écrite, relue et complète.</source>
+        <translation>The copy %1 is written, read back and complete.</translation>
+    </message>
+    <message>
+        <source>%1 est la base en service : choisissez un autre nom.</source>
+        <translation>%1 is the base in use: choose another name.</translation>
+    </message>
+    <message>
+        <source>Ce qui a été écrit dans %1 ne se relit pas : rien n&apos;y est resté. Essayez un autre support.</source>
+        <translation>What was written to %1 cannot be read back: nothing has been left there. Try another medium.</translation>
+    </message>
+    <message>
+        <source>La copie %1 n&apos;a pas pu être écrite : regardez la place et les droits.</source>
+        <translation>The copy %1 could not be written: check the room and the rights.</translation>
+    </message>
+    <message>
+        <source>Restaurer la copie du %1 ?</source>
+        <translation>Restore the copy of %1?</translation>
+    </message>
+    <message>
+        <source>Elle contient %1.</source>
+        <translation>It holds %1.</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base : %1.</source>
+        <translation>Compared with the base: %1.</translation>
+    </message>
+    <message>
+        <source>Une copie de la base actuelle est faite d&apos;abord : la restaurer à son tour annule ce geste.</source>
+        <translation>A copy of the present base is made first: restoring that one undoes this.</translation>
+    </message>
+    <message>
+        <source>La copie du %1 est en place.</source>
+        <translation>The copy of %1 is in place.</translation>
+    </message>
+    <message>
+        <source>La base d&apos;avant est dans la copie %1.</source>
+        <translation>The base of before is in the copy %1.</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
         <translation>&amp;Tools</translation>
+    </message>
+    <message>
+        <source>&amp;Copies de sécurité</source>
+        <translation>Safety &amp;copies</translation>
+    </message>
+</context>
+<context>
+    <name>MotsCopies</name>
+    <message>
+        <source>inconnue</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>départ du programme</source>
+        <translation>program start</translation>
+    </message>
+    <message>
+        <source>remise à zéro</source>
+        <translation>season purge</translation>
+    </message>
+    <message>
+        <source>suppression</source>
+        <translation>removal</translation>
+    </message>
+    <message>
+        <source>nouveau tirage</source>
+        <translation>new draw</translation>
+    </message>
+    <message>
+        <source>annulation</source>
+        <translation>cancellation</translation>
+    </message>
+    <message>
+        <source>restauration</source>
+        <translation>restoration</translation>
+    </message>
+    <message>
+        <source>à la demande</source>
+        <translation>on request</translation>
+    </message>
+    <message>
+        <source>fichier disparu ou changé</source>
+        <translation>file gone or changed</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de plus</source>
+        <translation>
+            <numerusform>%n competition more</numerusform>
+            <numerusform>%n competitions more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de moins</source>
+        <translation>
+            <numerusform>%n competition fewer</numerusform>
+            <numerusform>%n competitions fewer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de plus</source>
+        <translation>
+            <numerusform>%n team more</numerusform>
+            <numerusform>%n teams more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de moins</source>
+        <translation>
+            <numerusform>%n team fewer</numerusform>
+            <numerusform>%n teams fewer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de plus</source>
+        <translation>
+            <numerusform>%n result more</numerusform>
+            <numerusform>%n results more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de moins</source>
+        <translation>
+            <numerusform>%n result fewer</numerusform>
+            <numerusform>%n results fewer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de plus</source>
+        <translation>
+            <numerusform>%n known player more</numerusform>
+            <numerusform>%n known players more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de moins</source>
+        <translation>
+            <numerusform>%n known player fewer</numerusform>
+            <numerusform>%n known players fewer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de plus</source>
+        <translation>
+            <numerusform>%n club more</numerusform>
+            <numerusform>%n clubs more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de moins</source>
+        <translation>
+            <numerusform>%n club fewer</numerusform>
+            <numerusform>%n clubs fewer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n competition</numerusform>
+            <numerusform>%n competitions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n team</numerusform>
+            <numerusform>%n teams</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s)</source>
+        <translation>
+            <numerusform>%n result</numerusform>
+            <numerusform>%n results</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copie du</source>
+        <translation>Copy of</translation>
+    </message>
+    <message>
+        <source>Raison</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Competitions</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Teams</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Results</translation>
     </message>
 </context>
 </TS>

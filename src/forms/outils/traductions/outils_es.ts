@@ -2,10 +2,299 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="fr_FR">
 <context>
+    <name>CopiesSecurite</name>
+    <message>
+        <source>Copies de sécurité</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Concours de la copie choisie</source>
+        <translation>Concursos de la copia elegida</translation>
+    </message>
+    <message>
+        <source>Restaurer</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Copier maintenant</source>
+        <translation>Copiar ahora</translation>
+    </message>
+    <message>
+        <source>Copier vers...</source>
+        <translation>Copiar en...</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base</source>
+        <translation>Respecto a la base</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Concursos</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Equipos</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rondas</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>Base en service : %1.</source>
+        <translation>Base en uso: %1.</translation>
+    </message>
+    <message>
+        <source>lecture en cours</source>
+        <translation>leyendo</translation>
+    </message>
+    <message>
+        <source>copie illisible</source>
+        <translation>copia ilegible</translation>
+    </message>
+    <message>
+        <source>identique</source>
+        <translation>idéntica</translation>
+    </message>
+    <message>
+        <source>mêmes nombres, contenu différent</source>
+        <translation>mismas cantidades, contenido distinto</translation>
+    </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite : %1</source>
+        <translation>No se ha podido hacer la copia: %1</translation>
+    </message>
+    <message>
+        <source>La dernière copie contient déjà tout : %1.</source>
+        <translation>La última copia ya lo contiene todo: %1.</translation>
+    </message>
+    <message>
+        <source>Copie faite : %1.</source>
+        <translation>Copia hecha: %1.</translation>
+    </message>
+    <message>
+        <source>Copier la base vers</source>
+        <translation>Copiar la base en</translation>
+    </message>
+    <message>
+        <source>La copie %1 est écrite, relue et complète.</source>
+        <translation>La copia %1 está escrita, releída y completa.</translation>
+    </message>
+    <message>
+        <source>%1 est la base en service : choisissez un autre nom.</source>
+        <translation>%1 es la base en uso: elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>Ce qui a été écrit dans %1 ne se relit pas : rien n&apos;y est resté. Essayez un autre support.</source>
+        <translation>Lo escrito en %1 no se puede releer: no ha quedado nada allí. Pruebe otro soporte.</translation>
+    </message>
+    <message>
+        <source>La copie %1 n&apos;a pas pu être écrite : regardez la place et les droits.</source>
+        <translation>No se ha podido escribir la copia %1: revise el espacio y los permisos.</translation>
+    </message>
+    <message>
+        <source>Restaurer la copie du %1 ?</source>
+        <translation>¿Restaurar la copia del %1?</translation>
+    </message>
+    <message>
+        <source>Elle contient %1.</source>
+        <translation>Contiene %1.</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base : %1.</source>
+        <translation>Respecto a la base: %1.</translation>
+    </message>
+    <message>
+        <source>Une copie de la base actuelle est faite d&apos;abord : la restaurer à son tour annule ce geste.</source>
+        <translation>Antes se hace una copia de la base actual: restaurarla a su vez anula este gesto.</translation>
+    </message>
+    <message>
+        <source>La copie du %1 est en place.</source>
+        <translation>La copia del %1 está en su sitio.</translation>
+    </message>
+    <message>
+        <source>La base d&apos;avant est dans la copie %1.</source>
+        <translation>La base anterior está en la copia %1.</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
         <translation>&amp;Herramientas</translation>
+    </message>
+    <message>
+        <source>&amp;Copies de sécurité</source>
+        <translation>&amp;Copias de seguridad</translation>
+    </message>
+</context>
+<context>
+    <name>MotsCopies</name>
+    <message>
+        <source>inconnue</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>départ du programme</source>
+        <translation>inicio del programa</translation>
+    </message>
+    <message>
+        <source>remise à zéro</source>
+        <translation>puesta a cero</translation>
+    </message>
+    <message>
+        <source>suppression</source>
+        <translation>supresión</translation>
+    </message>
+    <message>
+        <source>nouveau tirage</source>
+        <translation>nuevo sorteo</translation>
+    </message>
+    <message>
+        <source>annulation</source>
+        <translation>anulación</translation>
+    </message>
+    <message>
+        <source>restauration</source>
+        <translation>restauración</translation>
+    </message>
+    <message>
+        <source>à la demande</source>
+        <translation>a petición</translation>
+    </message>
+    <message>
+        <source>fichier disparu ou changé</source>
+        <translation>archivo desaparecido o cambiado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de plus</source>
+        <translation>
+            <numerusform>%n concurso más</numerusform>
+            <numerusform>%n concursos más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de moins</source>
+        <translation>
+            <numerusform>%n concurso menos</numerusform>
+            <numerusform>%n concursos menos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de plus</source>
+        <translation>
+            <numerusform>%n equipo más</numerusform>
+            <numerusform>%n equipos más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de moins</source>
+        <translation>
+            <numerusform>%n equipo menos</numerusform>
+            <numerusform>%n equipos menos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de plus</source>
+        <translation>
+            <numerusform>%n resultado más</numerusform>
+            <numerusform>%n resultados más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de moins</source>
+        <translation>
+            <numerusform>%n resultado menos</numerusform>
+            <numerusform>%n resultados menos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de plus</source>
+        <translation>
+            <numerusform>%n jugador conocido más</numerusform>
+            <numerusform>%n jugadores conocidos más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de moins</source>
+        <translation>
+            <numerusform>%n jugador conocido menos</numerusform>
+            <numerusform>%n jugadores conocidos menos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de plus</source>
+        <translation>
+            <numerusform>%n club más</numerusform>
+            <numerusform>%n clubes más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de moins</source>
+        <translation>
+            <numerusform>%n club menos</numerusform>
+            <numerusform>%n clubes menos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n concurso</numerusform>
+            <numerusform>%n concursos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n equipo</numerusform>
+            <numerusform>%n equipos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s)</source>
+        <translation>
+            <numerusform>%n resultado</numerusform>
+            <numerusform>%n resultados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copie du</source>
+        <translation>Copia del</translation>
+    </message>
+    <message>
+        <source>Raison</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Concursos</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Equipos</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Resultados</translation>
     </message>
 </context>
 </TS>

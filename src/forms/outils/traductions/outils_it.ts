@@ -2,10 +2,299 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="fr_FR">
 <context>
+    <name>CopiesSecurite</name>
+    <message>
+        <source>Copies de sécurité</source>
+        <translation>Copie di sicurezza</translation>
+    </message>
+    <message>
+        <source>Concours de la copie choisie</source>
+        <translation>Gare della copia scelta</translation>
+    </message>
+    <message>
+        <source>Restaurer</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Copier maintenant</source>
+        <translation>Copia adesso</translation>
+    </message>
+    <message>
+        <source>Copier vers...</source>
+        <translation>Copia in...</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base</source>
+        <translation>Rispetto alla base</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Gare</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Luogo</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Squadre</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Turni</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Risultati</translation>
+    </message>
+    <message>
+        <source>Base en service : %1.</source>
+        <translation>Base in uso: %1.</translation>
+    </message>
+    <message>
+        <source>lecture en cours</source>
+        <translation>lettura in corso</translation>
+    </message>
+    <message>
+        <source>copie illisible</source>
+        <translation>copia illeggibile</translation>
+    </message>
+    <message>
+        <source>identique</source>
+        <translation>identica</translation>
+    </message>
+    <message>
+        <source>mêmes nombres, contenu différent</source>
+        <translation>stessi numeri, contenuto diverso</translation>
+    </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite : %1</source>
+        <translation>Non è stato possibile fare la copia: %1</translation>
+    </message>
+    <message>
+        <source>La dernière copie contient déjà tout : %1.</source>
+        <translation>L&apos;ultima copia contiene già tutto: %1.</translation>
+    </message>
+    <message>
+        <source>Copie faite : %1.</source>
+        <translation>Copia fatta: %1.</translation>
+    </message>
+    <message>
+        <source>Copier la base vers</source>
+        <translation>Copia la base in</translation>
+    </message>
+    <message>
+        <source>La copie %1 est écrite, relue et complète.</source>
+        <translation>La copia %1 è scritta, riletta e completa.</translation>
+    </message>
+    <message>
+        <source>%1 est la base en service : choisissez un autre nom.</source>
+        <translation>%1 è la base in uso: scegliete un altro nome.</translation>
+    </message>
+    <message>
+        <source>Ce qui a été écrit dans %1 ne se relit pas : rien n&apos;y est resté. Essayez un autre support.</source>
+        <translation>Ciò che è stato scritto in %1 non si rilegge: non vi è rimasto nulla. Provate un altro supporto.</translation>
+    </message>
+    <message>
+        <source>La copie %1 n&apos;a pas pu être écrite : regardez la place et les droits.</source>
+        <translation>Non è stato possibile scrivere la copia %1: controllate lo spazio e i diritti.</translation>
+    </message>
+    <message>
+        <source>Restaurer la copie du %1 ?</source>
+        <translation>Ripristinare la copia del %1?</translation>
+    </message>
+    <message>
+        <source>Elle contient %1.</source>
+        <translation>Contiene %1.</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base : %1.</source>
+        <translation>Rispetto alla base: %1.</translation>
+    </message>
+    <message>
+        <source>Une copie de la base actuelle est faite d&apos;abord : la restaurer à son tour annule ce geste.</source>
+        <translation>Prima si fa una copia della base attuale: ripristinarla annulla questo gesto.</translation>
+    </message>
+    <message>
+        <source>La copie du %1 est en place.</source>
+        <translation>La copia del %1 è al suo posto.</translation>
+    </message>
+    <message>
+        <source>La base d&apos;avant est dans la copie %1.</source>
+        <translation>La base di prima è nella copia %1.</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
         <translation>&amp;Strumenti</translation>
+    </message>
+    <message>
+        <source>&amp;Copies de sécurité</source>
+        <translation>&amp;Copie di sicurezza</translation>
+    </message>
+</context>
+<context>
+    <name>MotsCopies</name>
+    <message>
+        <source>inconnue</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>départ du programme</source>
+        <translation>avvio del programma</translation>
+    </message>
+    <message>
+        <source>remise à zéro</source>
+        <translation>azzeramento</translation>
+    </message>
+    <message>
+        <source>suppression</source>
+        <translation>eliminazione</translation>
+    </message>
+    <message>
+        <source>nouveau tirage</source>
+        <translation>nuovo sorteggio</translation>
+    </message>
+    <message>
+        <source>annulation</source>
+        <translation>annullamento</translation>
+    </message>
+    <message>
+        <source>restauration</source>
+        <translation>ripristino</translation>
+    </message>
+    <message>
+        <source>à la demande</source>
+        <translation>a richiesta</translation>
+    </message>
+    <message>
+        <source>fichier disparu ou changé</source>
+        <translation>file sparito o cambiato</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de plus</source>
+        <translation>
+            <numerusform>%n gara in più</numerusform>
+            <numerusform>%n gare in più</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de moins</source>
+        <translation>
+            <numerusform>%n gara in meno</numerusform>
+            <numerusform>%n gare in meno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de plus</source>
+        <translation>
+            <numerusform>%n squadra in più</numerusform>
+            <numerusform>%n squadre in più</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de moins</source>
+        <translation>
+            <numerusform>%n squadra in meno</numerusform>
+            <numerusform>%n squadre in meno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de plus</source>
+        <translation>
+            <numerusform>%n risultato in più</numerusform>
+            <numerusform>%n risultati in più</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de moins</source>
+        <translation>
+            <numerusform>%n risultato in meno</numerusform>
+            <numerusform>%n risultati in meno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de plus</source>
+        <translation>
+            <numerusform>%n giocatore noto in più</numerusform>
+            <numerusform>%n giocatori noti in più</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de moins</source>
+        <translation>
+            <numerusform>%n giocatore noto in meno</numerusform>
+            <numerusform>%n giocatori noti in meno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de plus</source>
+        <translation>
+            <numerusform>%n società in più</numerusform>
+            <numerusform>%n società in più</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de moins</source>
+        <translation>
+            <numerusform>%n società in meno</numerusform>
+            <numerusform>%n società in meno</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n gara</numerusform>
+            <numerusform>%n gare</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n squadra</numerusform>
+            <numerusform>%n squadre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s)</source>
+        <translation>
+            <numerusform>%n risultato</numerusform>
+            <numerusform>%n risultati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copie du</source>
+        <translation>Copia del</translation>
+    </message>
+    <message>
+        <source>Raison</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Gare</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Squadre</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Risultati</translation>
     </message>
 </context>
 </TS>

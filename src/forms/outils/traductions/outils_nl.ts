@@ -2,10 +2,299 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="fr_FR">
 <context>
+    <name>CopiesSecurite</name>
+    <message>
+        <source>Copies de sécurité</source>
+        <translation>Veiligheidskopieën</translation>
+    </message>
+    <message>
+        <source>Concours de la copie choisie</source>
+        <translation>Wedstrijden in de gekozen kopie</translation>
+    </message>
+    <message>
+        <source>Restaurer</source>
+        <translation>Terugzetten</translation>
+    </message>
+    <message>
+        <source>Copier maintenant</source>
+        <translation>Nu kopiëren</translation>
+    </message>
+    <message>
+        <source>Copier vers...</source>
+        <translation>Kopiëren naar...</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base</source>
+        <translation>Vergeleken met de basis</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Wedstrijden</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Teams</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rondes</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Uitslagen</translation>
+    </message>
+    <message>
+        <source>Base en service : %1.</source>
+        <translation>Basis in gebruik: %1.</translation>
+    </message>
+    <message>
+        <source>lecture en cours</source>
+        <translation>wordt gelezen</translation>
+    </message>
+    <message>
+        <source>copie illisible</source>
+        <translation>kopie onleesbaar</translation>
+    </message>
+    <message>
+        <source>identique</source>
+        <translation>gelijk</translation>
+    </message>
+    <message>
+        <source>mêmes nombres, contenu différent</source>
+        <translation>zelfde aantallen, andere inhoud</translation>
+    </message>
+    <message>
+        <source>La copie n&apos;a pas pu être faite : %1</source>
+        <translation>De kopie kon niet worden gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>La dernière copie contient déjà tout : %1.</source>
+        <translation>De laatste kopie bevat alles al: %1.</translation>
+    </message>
+    <message>
+        <source>Copie faite : %1.</source>
+        <translation>Kopie gemaakt: %1.</translation>
+    </message>
+    <message>
+        <source>Copier la base vers</source>
+        <translation>Basis kopiëren naar</translation>
+    </message>
+    <message>
+        <source>La copie %1 est écrite, relue et complète.</source>
+        <translation>De kopie %1 is geschreven, teruggelezen en volledig.</translation>
+    </message>
+    <message>
+        <source>%1 est la base en service : choisissez un autre nom.</source>
+        <translation>%1 is de basis in gebruik: kies een andere naam.</translation>
+    </message>
+    <message>
+        <source>Ce qui a été écrit dans %1 ne se relit pas : rien n&apos;y est resté. Essayez un autre support.</source>
+        <translation>Wat naar %1 is geschreven, kan niet worden teruggelezen: er is niets achtergebleven. Probeer een ander medium.</translation>
+    </message>
+    <message>
+        <source>La copie %1 n&apos;a pas pu être écrite : regardez la place et les droits.</source>
+        <translation>De kopie %1 kon niet worden geschreven: controleer de ruimte en de rechten.</translation>
+    </message>
+    <message>
+        <source>Restaurer la copie du %1 ?</source>
+        <translation>De kopie van %1 terugzetten?</translation>
+    </message>
+    <message>
+        <source>Elle contient %1.</source>
+        <translation>Zij bevat %1.</translation>
+    </message>
+    <message>
+        <source>Par rapport à la base : %1.</source>
+        <translation>Vergeleken met de basis: %1.</translation>
+    </message>
+    <message>
+        <source>Une copie de la base actuelle est faite d&apos;abord : la restaurer à son tour annule ce geste.</source>
+        <translation>Eerst wordt de huidige basis gekopieerd: die terugzetten maakt dit ongedaan.</translation>
+    </message>
+    <message>
+        <source>La copie du %1 est en place.</source>
+        <translation>De kopie van %1 is teruggezet.</translation>
+    </message>
+    <message>
+        <source>La base d&apos;avant est dans la copie %1.</source>
+        <translation>De basis van daarvoor staat in de kopie %1.</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
         <translation>&amp;Extra</translation>
+    </message>
+    <message>
+        <source>&amp;Copies de sécurité</source>
+        <translation>Veiligheids&amp;kopieën</translation>
+    </message>
+</context>
+<context>
+    <name>MotsCopies</name>
+    <message>
+        <source>inconnue</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>départ du programme</source>
+        <translation>start van het programma</translation>
+    </message>
+    <message>
+        <source>remise à zéro</source>
+        <translation>wissen</translation>
+    </message>
+    <message>
+        <source>suppression</source>
+        <translation>verwijdering</translation>
+    </message>
+    <message>
+        <source>nouveau tirage</source>
+        <translation>nieuwe loting</translation>
+    </message>
+    <message>
+        <source>annulation</source>
+        <translation>annulering</translation>
+    </message>
+    <message>
+        <source>restauration</source>
+        <translation>terugzetting</translation>
+    </message>
+    <message>
+        <source>à la demande</source>
+        <translation>op verzoek</translation>
+    </message>
+    <message>
+        <source>fichier disparu ou changé</source>
+        <translation>bestand weg of gewijzigd</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de plus</source>
+        <translation>
+            <numerusform>%n wedstrijd meer</numerusform>
+            <numerusform>%n wedstrijden meer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours de moins</source>
+        <translation>
+            <numerusform>%n wedstrijd minder</numerusform>
+            <numerusform>%n wedstrijden minder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de plus</source>
+        <translation>
+            <numerusform>%n team meer</numerusform>
+            <numerusform>%n teams meer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) de moins</source>
+        <translation>
+            <numerusform>%n team minder</numerusform>
+            <numerusform>%n teams minder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de plus</source>
+        <translation>
+            <numerusform>%n uitslag meer</numerusform>
+            <numerusform>%n uitslagen meer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s) de moins</source>
+        <translation>
+            <numerusform>%n uitslag minder</numerusform>
+            <numerusform>%n uitslagen minder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de plus</source>
+        <translation>
+            <numerusform>%n bekende speler meer</numerusform>
+            <numerusform>%n bekende spelers meer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n joueur(s) connu(s) de moins</source>
+        <translation>
+            <numerusform>%n bekende speler minder</numerusform>
+            <numerusform>%n bekende spelers minder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de plus</source>
+        <translation>
+            <numerusform>%n club meer</numerusform>
+            <numerusform>%n clubs meer</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s) de moins</source>
+        <translation>
+            <numerusform>%n club minder</numerusform>
+            <numerusform>%n clubs minder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n wedstrijd</numerusform>
+            <numerusform>%n wedstrijden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n team</numerusform>
+            <numerusform>%n teams</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n résultat(s)</source>
+        <translation>
+            <numerusform>%n uitslag</numerusform>
+            <numerusform>%n uitslagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copie du</source>
+        <translation>Kopie van</translation>
+    </message>
+    <message>
+        <source>Raison</source>
+        <translation>Reden</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Wedstrijden</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Teams</translation>
+    </message>
+    <message>
+        <source>Résultats</source>
+        <translation>Uitslagen</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDialog>
+
+#include <optional>
+
+class QPushButton;
+class QTableWidget;
+struct BoiteListe;
+
+/// The box that offers a list: a row is taken by its button, by Enter or by a double click.
+class ListeAChoisir : public QDialog
+{
+    Q_OBJECT
+
+public:
+    ListeAChoisir(const BoiteListe &liste, QWidget *parent);
+
+    std::optional<int> choisie() const;
+
+private:
+    void remplit(const BoiteListe &liste);
+
+    QTableWidget *m_lignes;
+    QPushButton *m_accepter;
+};
+
+/// Makes \p table a list to choose a row from: whole rows, nothing to edit, heads as wide as their contents, rows high
+/// enough for a finger.
+void appreteListe(QTableWidget &table);
