@@ -156,6 +156,11 @@ TEST_F(TirageResultats, UneCopieAvantCeQuiNeRevientPas)
     store::BaseNative avant(copies.filePath(copies.entryList({u"*-tirage.mdb"_qs}, QDir::Files).value(0)),
                             motDePasseBase, store::BaseNative::Mode::LectureSeule);
     EXPECT_EQ(avant.valeurUnique(u"select count(*) from scores where lancee"_qs).entier(), 2);
+    joueTour();
+    prog.partage().TourCourant = 0;
+    controle(u"tirage_suivant"_qs)->show();
+    prog.boites.attend(u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
+    tire();
 
     // At a start without one the work goes on.
     prog.termine();

@@ -49,14 +49,17 @@ void Journee::compose(quint32 graine)
                                      {m_partage.ConcoursCourant, 2, u"Corrigé"_qs, {{u"N"_qs, u"P"_qs, u"L"_qs}}}));
     });
     ajoute([this] { exige(donnees::RetireEquipe(m_partage.BaseDonnees, m_partage.ConcoursCourant, 1)); });
-    ajoute([this] { LanceTourSuivant(m_partage, m_operateur); });
+    ajoute([this] { std::ignore = LanceTourSuivant(m_partage); });
     ajoute([this] { std::ignore = SauveBase(m_partage, RaisonCopie::Demande); });
-    ajoute([this] { ConfirmeTirage(m_partage, m_operateur); });
+    ajoute([this] {
+        exige(!SauveBase(m_partage, RaisonCopie::Tirage).echouee());
+        RefaitTirage(m_partage);
+    });
     ajoute([this, equipes] { inscrit(equipes + 1); });
     for (int i = 0; i < (equipes + 1) / 2; ++i)
         ajoute([this, i] { saisit(i); });
     for (int tour = 2; tour <= 3; ++tour) {
-        ajoute([this] { LanceTourSuivant(m_partage, m_operateur); });
+        ajoute([this] { std::ignore = LanceTourSuivant(m_partage); });
         for (int i = 0; i < (equipes + 1) / 2; ++i)
             ajoute([this, i] { saisit(i); });
         ajoute([this] { m_partage.BaseDonnees.native().consolide(); });

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "commun/contenu.h"
-#include "engine/interlocuteur.h"
 #include "fenetres/formulaires.h"
 #include "maintenance/purge.h"
 
@@ -9,7 +8,7 @@
 #include <vector>
 
 /// An operator who agrees to everything.
-class ToujoursOui : public Boites, public Interlocuteur
+class ToujoursOui : public Boites
 {
 public:
     ReponseBoite MsgBox(const QString &, int drapeaux, const QString &) override
@@ -21,12 +20,6 @@ public:
     QString ShowOpen(const BoiteFichier &) override { return {}; }
     QString ShowSave(const BoiteFichier &) override { return {}; }
     std::optional<int> Choisit(const BoiteListe &) override { return {}; }
-    bool demande(const QString &) override { return true; }
-    bool continueSansCopie(const QString &) override { return true; }
-    void informe(const QString &) override {}
-    void avertit(const QString &) override {}
-    void annonce(const QString &) override {}
-    void progresse(QStringView) override {}
 };
 
 /// A day at the table, as a row of operations that a seed determines. Each begins with what the file holds, so that a

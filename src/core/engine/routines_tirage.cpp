@@ -1,12 +1,12 @@
 #include "engine/routines_tirage.h"
 
 #include "engine/controle_tours.h"
-#include "engine/interlocuteur.h"
 #include "engine/tirage_tour1.h"
-#include "garde/sauvegarde.h"
 #include "partage/routines.h"
 
 #include <QHash>
+
+#include <utility>
 
 using moteur::LigneClassement;
 using moteur::Rencontre;
@@ -183,14 +183,6 @@ void metLeFichierAJour(Partage &partage)
     }
 }
 
-void avertitSelonStatut(Interlocuteur &interlocuteur, moteur::StatutTirage statut)
-{
-    if (statut == moteur::StatutTirage::MemeClub)
-        interlocuteur.avertit(u"Attention il y a une rencontre opposant deux équipes d'un même club"_qs);
-    else if (statut == moteur::StatutTirage::DejaRencontrees)
-        interlocuteur.avertit(u"Attention deux équipes se sont déjà rencontrées"_qs);
-}
-
 } // namespace
 
 void CalculClassement(Partage &partage, const QString &concours)
@@ -219,25 +211,21 @@ std::vector<LigneClassement> LitClassement(Partage &partage)
     return lignes;
 }
 
-bool ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
+ObstacleAuTirage ConfirmeTirage(Partage &partage)
 {
     const QString tirage = u"select * from scores where concours=%1 and tableau=1"_qs.arg(partage.ConcoursCourant);
     const auto existe = [&](const QString &sql) {
         return !partage.BaseDonnees.OpenRecordset(sql, store::dbOpenSnapshot).Eof();
     };
-    if (existe(tirage + u" and (not isnull(score_1) and not isnull(score_2))"_qs)) {
-        interlocuteur.informe(u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
-        return true;
-    }
-    if (!existe(tirage)) {
-        TirageTour1(partage, interlocuteur, 1);
-        return true;
-    }
-    if (!interlocuteur.demande(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs))
-        return true;
-    const BilanCopie copie = SauveBase(partage, RaisonCopie::Tirage);
-    if (copie.echouee() && !interlocuteur.continueSansCopie(copie.cause))
-        return false;
+    if (existe(tirage + u" and (not isnull(score_1) and not isnull(score_2))"_qs))
+        return ObstacleAuTirage::ResultatsTombes;
+    if (existe(tirage))
+        return ObstacleAuTirage::TirageSansResultat;
+    return TirageTour1(partage, 1) ? ObstacleAuTirage::Aucun : ObstacleAuTirage::DejaTire;
+}
+
+void RefaitTirage(Partage &partage)
+{
     // As one group: a power cut leaves the old draw or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
         for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
@@ -247,22 +235,21 @@ bool ConfirmeTirage(Partage &partage, Interlocuteur &interlocuteur)
     });
     partage.TourCourant = premierTour;
     metLeFichierAJour(partage);
-    return true;
 }
 
-void TirageTour1(Partage &partage, Interlocuteur &interlocuteur, qint16 tableau, int)
+bool TirageTour1(Partage &partage, qint16 tableau, int)
 {
-    if (tourDejaTire(partage, tableau, premierTour)) {
-        interlocuteur.informe(partage.mes(114) + u' ' + partage.mes(15) + u' ' + partage.mes(115));
+    const bool dejaTire = tourDejaTire(partage, tableau, premierTour);
+    if (dejaTire)
         fixeTourPrincipal(partage, premierTour);
-    } else {
+    else
         ecritTirageTour1(partage, tableau);
-    }
     partage.TourCourant = premierTour;
     metLeFichierAJour(partage);
+    return !dejaTire;
 }
 
-void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur)
+void TirageSuivant(Partage &partage, const SuiviTirage &suivi)
 {
     const std::vector<LigneClassement> avant = LitClassement(partage);
     std::vector<LigneClassement> apres = avant;
@@ -278,21 +265,25 @@ void TirageSuivant(Partage &partage, Interlocuteur &interlocuteur)
                                                  .jouees = jouees,
                                                  .tourpri = partage.TourCourant,
                                                  .repeche = partage.AvecRepechage},
-                                                [&](QStringView signe) { interlocuteur.progresse(signe); });
+                                                [&](QStringView signe) {
+                                                    if (suivi.signe)
+                                                        suivi.signe(signe);
+                                                });
     partage.BaseDonnees.EcritEnGroupe([&] { metAJourClassement(partage, avant, apres); });
 }
 
-bool LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
+BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi)
 {
     if (partage.TourCourant <= 0 || !dernierTourTire(partage))
-        return ConfirmeTirage(partage, interlocuteur);
+        return {.obstacle = ConfirmeTirage(partage)};
     const int tour = partage.TourCourant + 1;
     partage.EssaisTirage = 0;
     do {
         ++partage.EssaisTirage;
         CalculClassement(partage, QString::number(partage.ConcoursCourant));
-        interlocuteur.annonce(u"Tirage en cours"_qs);
-        TirageSuivant(partage, interlocuteur);
+        if (suivi.essai)
+            suivi.essai();
+        TirageSuivant(partage, suivi);
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
     const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
@@ -303,9 +294,7 @@ bool LanceTourSuivant(Partage &partage, Interlocuteur &interlocuteur)
     });
     partage.TourCourant = qint16(tour);
     metLeFichierAJour(partage);
-    avertitSelonStatut(interlocuteur, partage.TabTirage.statut);
-    partage.TabTirage = {};
-    return true;
+    return {.statut = std::exchange(partage.TabTirage, {}).statut};
 }
 
 void ReprendTour(Partage &partage)

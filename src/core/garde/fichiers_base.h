@@ -11,8 +11,8 @@ public:
     /// Removes the base file \p fichier and, before it, what the engine keeps beside it: a new file of that name must
     /// not find them. Throws store::Erreur.
     virtual void supprime(const QString &fichier) const;
-    /// Removes what the engine keeps beside the closed base \p fichier. Throws store::Erreur while there are rows in it:
-    /// somebody else has the base open then.
+    /// Removes what the engine keeps beside the closed base \p fichier. Throws store::Erreur while there are rows in
+    /// it: somebody else has the base open then.
     virtual void supprimeJournaux(const QString &fichier) const;
     /// Rewrites the closed base \p source into the new file \p cible, and proves that the new file can be read. Throws
     /// store::Erreur; \p cible is gone again then.

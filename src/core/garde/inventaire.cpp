@@ -12,13 +12,12 @@ using store::Instruction;
 namespace {
 
 // A round may be drawn in several brackets, and a result wait in any: all count.
-const QString requeteConcours =
-    u"select c.concours, c.date, c.lieu, c.type,"
-    " (select count(distinct e.equipe) from equipes e where e.concours = c.concours),"
-    " (select max(s.tour) from scores s where s.concours = c.concours),"
-    " (select count(*) from scores s where s.concours = c.concours and s.Equipe_2 <> 0"
-    "  and not (s.score_1 is null and s.score_2 is null))"
-    " from concours c order by c.concours"_qs;
+const QString requeteConcours = u"select c.concours, c.date, c.lieu, c.type,"
+                                " (select count(distinct e.equipe) from equipes e where e.concours = c.concours),"
+                                " (select max(s.tour) from scores s where s.concours = c.concours),"
+                                " (select count(*) from scores s where s.concours = c.concours and s.Equipe_2 <> 0"
+                                "  and not (s.score_1 is null and s.score_2 is null))"
+                                " from concours c order by c.concours"_qs;
 
 template<typename Membre>
 qint64 total(const std::vector<ConcoursTenu> &concours, Membre membre)

@@ -32,7 +32,8 @@ void prouve(const QString &fichier)
     BaseNative base(fichier, motDePasseBase, BaseNative::Mode::LectureSeule);
     store::verifieNature(base, store::Schema(base));
     if (base.valeurUnique(u"pragma integrity_check(1)"_qs).texte() != u"ok")
-        throw Erreur(Erreur::FichierEndommage, u"Le fichier %1 est endommagé."_qs.arg(QDir::toNativeSeparators(fichier)));
+        throw Erreur(Erreur::FichierEndommage,
+                     u"Le fichier %1 est endommagé."_qs.arg(QDir::toNativeSeparators(fichier)));
 }
 
 /// The competition at hand may not be in the restored base, or stand at another round there.
@@ -72,8 +73,7 @@ void PrepareRestauration(const Partage &partage, const QString &copie)
         prouve(prepare);
     } catch (const Erreur &erreur) {
         AbandonneRestauration(partage.DossierProgramme);
-        throw Erreur(erreur.numero(),
-                     u"La copie %1 n'est pas complète."_qs.arg(QDir::toNativeSeparators(copie)));
+        throw Erreur(erreur.numero(), u"La copie %1 n'est pas complète."_qs.arg(QDir::toNativeSeparators(copie)));
     }
 }
 

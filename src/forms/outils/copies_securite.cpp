@@ -153,9 +153,12 @@ QString CopiesSecurite::differences(const Ligne &ligne) const
 void CopiesSecurite::montreLigne(int ligne)
 {
     const Ligne &montree = m_lignes[std::size_t(ligne)];
-    QStringList textes = montree.inventaire
-        ? MotsCopies::ligne(partage(), montree.copie, *montree.inventaire)
-        : QStringList{MotsCopies::moment(partage(), montree.copie), MotsCopies::raison(montree.copie.raison), {}, {}, {}};
+    QStringList textes = montree.inventaire ? MotsCopies::ligne(partage(), montree.copie, *montree.inventaire)
+                                            : QStringList{MotsCopies::moment(partage(), montree.copie),
+                                                          MotsCopies::raison(montree.copie.raison),
+                                                          {},
+                                                          {},
+                                                          {}};
     textes.insert(colonneEcart, differences(montree));
     ecrit(*m_ui->Copies, ligne, textes);
 }
@@ -173,7 +176,8 @@ void CopiesSecurite::montreConcours()
     const Ligne *ligne = choisie();
     const bool lisible = ligne != nullptr && ligne->inventaire.has_value();
     m_ui->Restaurer->setEnabled(lisible);
-    m_ui->Difference->setText(ligne == nullptr ? QString() : tr("Par rapport à la base : %1.").arg(differences(*ligne)));
+    m_ui->Difference->setText(ligne == nullptr ? QString()
+                                               : tr("Par rapport à la base : %1.").arg(differences(*ligne)));
     m_ui->Concours->setRowCount(lisible ? int(ligne->inventaire->concours.size()) : 0);
     for (int i = 0; i < m_ui->Concours->rowCount(); ++i) {
         const ConcoursTenu &tenu = ligne->inventaire->concours[std::size_t(i)];
@@ -204,9 +208,9 @@ void CopiesSecurite::Copier_maintenant_Click()
 void CopiesSecurite::Copier_vers_Click()
 {
     const QString propose = u"VarloBase-%1-%2.mdb"_qs.arg(partage().horloge.jour().toString(u"yyyyMMdd"_qs),
-                                                         partage().horloge.heure().toString(u"HHmm"_qs));
-    const QString fichier = boites().ShowSave(
-        {.DialogTitle = tr("Copier la base vers"), .DefaultExt = u"mdb"_qs, .FileName = propose});
+                                                          partage().horloge.heure().toString(u"HHmm"_qs));
+    const QString fichier =
+        boites().ShowSave({.DialogTitle = tr("Copier la base vers"), .DefaultExt = u"mdb"_qs, .FileName = propose});
     if (fichier.isEmpty())
         return;
     std::optional<EchecCopieVers> echec;
@@ -220,7 +224,8 @@ void CopiesSecurite::Copier_vers_Click()
     else if (*echec == EchecCopieVers::BaseElleMeme)
         MsgBox(tr("%1 est la base en service : choisissez un autre nom.").arg(affiche), vbExclamation);
     else if (*echec == EchecCopieVers::Relecture)
-        MsgBox(tr("Ce qui a été écrit dans %1 ne se relit pas : rien n'y est resté. Essayez un autre support.").arg(affiche),
+        MsgBox(tr("Ce qui a été écrit dans %1 ne se relit pas : rien n'y est resté. Essayez un autre support.")
+                   .arg(affiche),
                vbExclamation);
     else
         MsgBox(tr("La copie %1 n'a pas pu être écrite : regardez la place et les droits.").arg(affiche), vbExclamation);

@@ -39,17 +39,22 @@ QString MotsCopies::ecart(const Inventaire &copie, const Inventaire &base)
         if (difference != 0)
             parties += difference > 0 ? plus(int(difference)) : moins(int(-difference));
     };
-    compare(qint64(copie.concours.size()) - qint64(base.concours.size()),
-            [](int n) { return tr("%n concours de plus", nullptr, n); },
-            [](int n) { return tr("%n concours de moins", nullptr, n); });
-    compare(copie.equipes() - base.equipes(), [](int n) { return tr("%n équipe(s) de plus", nullptr, n); },
-            [](int n) { return tr("%n équipe(s) de moins", nullptr, n); });
-    compare(copie.resultats() - base.resultats(), [](int n) { return tr("%n résultat(s) de plus", nullptr, n); },
-            [](int n) { return tr("%n résultat(s) de moins", nullptr, n); });
-    compare(copie.joueurs - base.joueurs, [](int n) { return tr("%n joueur(s) connu(s) de plus", nullptr, n); },
-            [](int n) { return tr("%n joueur(s) connu(s) de moins", nullptr, n); });
-    compare(copie.clubs - base.clubs, [](int n) { return tr("%n club(s) de plus", nullptr, n); },
-            [](int n) { return tr("%n club(s) de moins", nullptr, n); });
+    compare(
+        qint64(copie.concours.size()) - qint64(base.concours.size()),
+        [](int n) { return tr("%n concours de plus", nullptr, n); },
+        [](int n) { return tr("%n concours de moins", nullptr, n); });
+    compare(
+        copie.equipes() - base.equipes(), [](int n) { return tr("%n équipe(s) de plus", nullptr, n); },
+        [](int n) { return tr("%n équipe(s) de moins", nullptr, n); });
+    compare(
+        copie.resultats() - base.resultats(), [](int n) { return tr("%n résultat(s) de plus", nullptr, n); },
+        [](int n) { return tr("%n résultat(s) de moins", nullptr, n); });
+    compare(
+        copie.joueurs - base.joueurs, [](int n) { return tr("%n joueur(s) connu(s) de plus", nullptr, n); },
+        [](int n) { return tr("%n joueur(s) connu(s) de moins", nullptr, n); });
+    compare(
+        copie.clubs - base.clubs, [](int n) { return tr("%n club(s) de plus", nullptr, n); },
+        [](int n) { return tr("%n club(s) de moins", nullptr, n); });
     return parties.join(u", "_qs);
 }
 

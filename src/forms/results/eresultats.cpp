@@ -2,7 +2,6 @@
 
 #include "donnees/rencontres.h"
 #include "engine/routines_resultats.h"
-#include "engine/routines_tirage.h"
 #include "fenetres/copie_prealable.h"
 #include "fenetres/formulaires.h"
 #include "fenetres/sablier.h"
@@ -258,10 +257,13 @@ void EResultats::tirage_suivant_Click()
     const Sablier sablier;
     formulaires().Decharge(formes::Groupes);
     m_signes = m_ui->tour_P1->text();
-    if (!LanceTourSuivant(partage(), *this)) {
+    const BilanLancement bilan =
+        LanceTourSuivant(partage(), {[this] { montreEssai(); }, [this](QStringView signe) { montreSigne(signe); }});
+    if (bilan.obstacle != ObstacleAuTirage::Aucun && !recommenceTirage(bilan.obstacle)) {
         afficheEtat(Moment::ChangementConcours);
         return;
     }
+    avertitSelonStatut(bilan.statut);
     m_ui->tirage_suivant->hide();
     m_ui->Label2->setText(u"Tour N° %1"_qs.arg(partage().TourCourant));
     const qint64 attendus =
@@ -272,36 +274,42 @@ void EResultats::tirage_suivant_Click()
     SetFocus(m_ui->Equipe1);
 }
 
-bool EResultats::demande(const QString &question)
+/// Round 1 has not been drawn since \p obstacle is there: the operator decides. False when the old draw was kept for
+/// want of a copy.
+bool EResultats::recommenceTirage(ObstacleAuTirage obstacle)
 {
-    return MsgBox(question, vbYesNo | vbExclamation) == ReponseBoite::Oui;
+    if (obstacle != ObstacleAuTirage::TirageSansResultat) {
+        MsgBox(obstacle == ObstacleAuTirage::DejaTire ? mes(114) + u' ' + mes(15) + u' ' + mes(115)
+                                                      : u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
+        return true;
+    }
+    if (MsgBox(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs, vbYesNo | vbExclamation)
+        != ReponseBoite::Oui)
+        return true;
+    if (!GardeUneCopie(contexte(), RaisonCopie::Tirage))
+        return false;
+    RefaitTirage(partage());
+    return true;
 }
 
-bool EResultats::continueSansCopie(const QString &cause)
+void EResultats::avertitSelonStatut(moteur::StatutTirage statut)
 {
-    return ContinueSansCopie(contexte().boites, cause);
+    if (statut == moteur::StatutTirage::MemeClub)
+        MsgBox(u"Attention il y a une rencontre opposant deux équipes d'un même club"_qs, vbExclamation);
+    else if (statut == moteur::StatutTirage::DejaRencontrees)
+        MsgBox(u"Attention deux équipes se sont déjà rencontrées"_qs, vbExclamation);
 }
 
-void EResultats::informe(const QString &texte)
+void EResultats::montreEssai()
 {
-    MsgBox(texte);
-}
-
-void EResultats::avertit(const QString &texte)
-{
-    MsgBox(texte, vbExclamation);
-}
-
-void EResultats::annonce(const QString &texte)
-{
-    m_signes = texte;
-    m_ui->tour_P1->setText(texte);
+    m_signes = u"Tirage en cours"_qs;
+    m_ui->tour_P1->setText(m_signes);
     m_dernierSigne.start();
     DoEvents();
 }
 
 /// The draw tells a sign for every pair; the screen follows often enough to show that the program is at work.
-void EResultats::progresse(QStringView signe)
+void EResultats::montreSigne(QStringView signe)
 {
     m_signes += signe;
     if (m_dernierSigne.isValid() && m_dernierSigne.elapsed() < signeDeVieMs)

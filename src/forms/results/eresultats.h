@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/interlocuteur.h"
+#include "engine/routines_tirage.h"
 #include "fenetres/formulaire.h"
 #include "fenetres/nom_forme.h"
 
@@ -14,8 +14,8 @@ class EResultats;
 }
 
 /// Results: a match is called up by one team's number, the loser's score completes it, and the next round is drawn from
-/// here. It answers the engine for the operator.
-class EResultats : public Formulaire, private Interlocuteur
+/// here.
+class EResultats : public Formulaire
 {
     Q_OBJECT
 
@@ -91,13 +91,10 @@ private:
     void annuleTirage();
     void annuleTour();
 
-    // Interlocuteur
-    bool demande(const QString &question) override;
-    void informe(const QString &texte) override;
-    bool continueSansCopie(const QString &cause) override;
-    void avertit(const QString &texte) override;
-    void annonce(const QString &texte) override;
-    void progresse(QStringView signe) override;
+    bool recommenceTirage(ObstacleAuTirage obstacle);
+    void avertitSelonStatut(moteur::StatutTirage statut);
+    void montreEssai();
+    void montreSigne(QStringView signe);
 
     std::unique_ptr<Ui::EResultats> m_ui;
     bool m_tirageEnCours = false;

@@ -50,7 +50,8 @@ ListeAChoisir::ListeAChoisir(const BoiteListe &liste, QWidget *parent)
     connect(boutons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(boutons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_lignes, &QTableWidget::itemDoubleClicked, this, &QDialog::accept);
-    connect(m_lignes, &QTableWidget::itemSelectionChanged, this, [this] { m_accepter->setEnabled(choisie().has_value()); });
+    connect(m_lignes, &QTableWidget::itemSelectionChanged, this,
+            [this] { m_accepter->setEnabled(choisie().has_value()); });
 
     auto *colonne = new QVBoxLayout(this);
     colonne->addWidget(texte);

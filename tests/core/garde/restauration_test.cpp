@@ -100,7 +100,8 @@ TEST_F(Restauration, TheInventoryCountsTeamsRoundsAndResultsOfEachCompetition)
     EXPECT_EQ(premier.equipes, 3);
     EXPECT_EQ(premier.tours, 2);
     EXPECT_EQ(premier.resultats, 1) << "neither the bye nor the match that waits";
-    EXPECT_EQ(inventaire.concours.back(), (ConcoursTenu{.numero = 3, .jour = {}, .lieu = u"Salle vide"_qs, .type = {}}));
+    EXPECT_EQ(inventaire.concours.back(),
+              (ConcoursTenu{.numero = 3, .jour = {}, .lieu = u"Salle vide"_qs, .type = {}}));
     EXPECT_EQ(inventaire.equipes(), 6);
     EXPECT_EQ(inventaire.resultats(), 2);
     EXPECT_EQ(inventaire.joueurs, 1);

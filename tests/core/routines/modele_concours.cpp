@@ -88,10 +88,7 @@ Concours::Clic Concours::clique(SourceAleatoire &alea, bool reponse)
             && (table.statut == StatutTirage::DejaRencontrees
                 || (table.statut == StatutTirage::MemeClub && tourCourant == 1));
     }
-    if (table.statut == StatutTirage::MemeClub)
-        clic.dits += u"avertit : Attention il y a une rencontre opposant deux équipes d'un même club"_qs;
-    if (table.statut == StatutTirage::DejaRencontrees)
-        clic.dits += u"avertit : Attention deux équipes se sont déjà rencontrées"_qs;
+    clic.bilan.statut = table.statut;
     tourpri = ++tourCourant;
     ecritTour(table, clic.classement);
     return clic;
@@ -100,11 +97,11 @@ Concours::Clic Concours::clique(SourceAleatoire &alea, bool reponse)
 void Concours::confirme(SourceAleatoire &alea, bool reponse, Clic &clic)
 {
     if (ferme()) {
-        clic.dits += u"informe : Tirage Impossible, Il y a déjà des résultats de tombés"_qs;
+        clic.bilan.obstacle = ObstacleAuTirage::ResultatsTombes;
         return;
     }
     if (!rencontres.empty()) {
-        clic.dits += u"demande : ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs;
+        clic.bilan.obstacle = ObstacleAuTirage::TirageSansResultat;
         if (!reponse)
             return;
     }

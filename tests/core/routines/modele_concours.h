@@ -2,6 +2,8 @@
 
 #include "modele_lent.h"
 
+#include "engine/routines_tirage.h"
+
 #include <QStringList>
 
 #include <map>
@@ -21,10 +23,10 @@ struct Concours
         bool joue = true; ///< Takes part in the main bracket.
     };
 
-    /// What the operator is told after a click on the draw button, and what the last attempt has left behind.
+    /// What a click on the draw button leads to, and what the last attempt has left behind.
     struct Clic
     {
-        QStringList dits;
+        BilanLancement bilan;
         int essais = 0;
         std::vector<moteur::LigneClassement> classement; ///< In order of rank.
         Journal journal;

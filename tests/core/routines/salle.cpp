@@ -1,7 +1,6 @@
 #include "salle.h"
 
 #include "engine/routines_resultats.h"
-#include "engine/routines_tirage.h"
 #include "partage/concours_courant.h"
 
 using moteur::LigneClassement;
@@ -23,31 +22,11 @@ std::optional<int> optionnel(const Recordset &ligne, QStringView champ)
 
 } // namespace
 
-bool OperateurEssai::demande(const QString &question)
-{
-    dits += u"demande : "_qs + question;
-    return reponse;
-}
-
-bool OperateurEssai::continueSansCopie(const QString &cause)
-{
-    dits += u"sans copie : "_qs + cause;
-    return reponseSansCopie;
-}
-
-void OperateurEssai::avertit(const QString &texte)
-{
-    dits += u"avertit : "_qs + texte;
-}
-
 Salle::Salle(quint32 graine)
     : alea(graine)
     , partage(base.dossier(), alea, horloge)
 {
     partage.BaseDonnees = base.ouvre();
-    partage.mes.pose(114, u"Attention, le"_qs);
-    partage.mes.pose(15, u"tirage"_qs);
-    partage.mes.pose(115, u"du tour 1 a déjà été fait"_qs);
 }
 
 qint32 Salle::inscrit(const ConcoursInscrit &concours)
@@ -107,6 +86,15 @@ std::vector<LigneClassement> Salle::tbclass()
 int Salle::tourpri()
 {
     return int(nombre(u"select tourpri from concours where concours = %1"_qs.arg(partage.ConcoursCourant)));
+}
+
+Salle::Clic Salle::clique(bool recommence)
+{
+    Clic clic;
+    clic.bilan = LanceTourSuivant(partage, {.essai = [&] { ++clic.essais; }, .signe = {}});
+    if (clic.bilan.obstacle == ObstacleAuTirage::TirageSansResultat && recommence)
+        RefaitTirage(partage);
+    return clic;
 }
 
 bool Salle::saisit(int equipe1, int equipe2, const QString &score1, const QString &score2)

@@ -4,29 +4,10 @@
 #include "commun/base_essai.h"
 #include "commun/concours_en_base.h"
 #include "engine/classement.h"
-#include "engine/interlocuteur.h"
+#include "engine/routines_tirage.h"
 #include "partage/partage.h"
 
-#include <QStringList>
-
-/// The engine's operator: what it was told is kept, a question is answered by `reponse`.
-class OperateurEssai : public Interlocuteur
-{
-public:
-    bool demande(const QString &question) override;
-    bool continueSansCopie(const QString &cause) override;
-    void informe(const QString &texte) override { dits += u"informe : "_qs + texte; }
-    void avertit(const QString &texte) override;
-    void annonce(const QString &) override { ++annonces; }
-    void progresse(QStringView) override {}
-
-    QStringList dits;
-    int annonces = 0;
-    bool reponse = false;
-    bool reponseSansCopie = false;
-};
-
-/// A base, the shared state on it, and an operator: all that the routines around the draws need.
+/// A base and the shared state on it: all that the routines around the draws need.
 class Salle
 {
 public:
@@ -42,6 +23,13 @@ public:
     /// Rows of `tbclass` as the index `rankkey` walks them.
     std::vector<moteur::LigneClassement> tbclass();
     int tourpri();
+    /// A click for the next round: where it meets a draw without results, \p recommence draws it anew.
+    struct Clic
+    {
+        BilanLancement bilan;
+        int essais = 0;
+    };
+    Clic clique(bool recommence = false);
     /// EnregistreScore, in the current competition.
     bool saisit(int equipe1, int equipe2, const QString &score1, const QString &score2);
     qint64 nombre(const QString &sql) { return native().valeurUnique(sql).entier(); }
@@ -51,5 +39,4 @@ public:
     AleaFixe alea;
     Horloge horloge;
     Partage partage;
-    OperateurEssai operateur;
 };

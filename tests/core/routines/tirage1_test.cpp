@@ -15,16 +15,13 @@ using moteur::Rencontre;
 
 namespace {
 
-const QString refus = u"informe : Tirage Impossible, Il y a déjà des résultats de tombés"_qs;
-const QString question = u"demande : ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs;
-
 class PremierTirage : public testing::Test
 {
 protected:
     void SetUp() override
     {
         autre = salle.inscrit({.equipes = equipes(8)});
-        LanceTourSuivant(salle.partage, salle.operateur);
+        salle.clique();
         for (const qint32 numero : {autre, autre + 1}) {
             for (const QString &table : {u"tnequipes"_qs, u"tirages_pro"_qs})
                 salle.native().executeScript(
@@ -32,7 +29,6 @@ protected:
                         numero));
         }
         concours = salle.inscrit({.equipes = equipes(7)});
-        salle.operateur = {};
     }
 
     std::vector<moteur::EquipeInscrite> equipes(int nombre) { return essai::inscrit(nombre, {}, sort); }
@@ -50,34 +46,30 @@ protected:
 
 TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
 {
-    LanceTourSuivant(salle.partage, salle.operateur);
+    EXPECT_EQ(salle.clique().bilan.obstacle, ObstacleAuTirage::Aucun);
     const std::vector<Rencontre> tirees = salle.scores();
     const Rencontre &premiere = tirees.front();
     // One score alone is no result.
     salle.native().executeScript(
         u"update scores set score_1 = 13 where concours = %1 and rencontre = 1"_qs.arg(concours));
-    ConfirmeTirage(salle.partage, salle.operateur);
-    EXPECT_EQ(salle.operateur.dits, QStringList(question));
+    EXPECT_EQ(ConfirmeTirage(salle.partage), ObstacleAuTirage::TirageSansResultat);
     salle.saisit(premiere.equipe1, premiere.equipe2, u"13"_qs, u"2"_qs);
     const std::vector<Rencontre> jouees = salle.scores();
-    salle.operateur.reponse = true;
-    ConfirmeTirage(salle.partage, salle.operateur);
-    EXPECT_EQ(salle.operateur.dits, QStringList({question, refus}));
+    EXPECT_EQ(ConfirmeTirage(salle.partage), ObstacleAuTirage::ResultatsTombes);
     EXPECT_EQ(salle.scores(), jouees);
 }
 
 TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
 {
-    LanceTourSuivant(salle.partage, salle.operateur);
+    salle.clique();
     const std::vector<Rencontre> tirees = salle.scores();
     const QStringList contenu = Contenu(salle.native());
 
-    ConfirmeTirage(salle.partage, salle.operateur);
-    EXPECT_EQ(salle.operateur.dits, QStringList(question));
+    salle.partage.TourCourant = 0;
+    EXPECT_EQ(salle.clique(false).bilan.obstacle, ObstacleAuTirage::TirageSansResultat);
     EXPECT_EQ(Contenu(salle.native()), contenu);
 
-    salle.operateur.reponse = true;
-    ConfirmeTirage(salle.partage, salle.operateur);
+    salle.clique(true);
     EXPECT_NE(salle.scores(), tirees);
     EXPECT_EQ(salle.scores().size(), tirees.size());
     EXPECT_EQ(salle.tourpri(), 1);
@@ -89,14 +81,13 @@ TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
     EXPECT_EQ(lignes(u"scores"_qs, autre), 4);
 }
 
-TEST_F(PremierTirage, DejaTireLeDitEtNeTouchePasAuxRencontres)
+TEST_F(PremierTirage, DejaTireNeTouchePasAuxRencontres)
 {
-    LanceTourSuivant(salle.partage, salle.operateur);
+    salle.clique();
     const std::vector<Rencontre> tirees = salle.scores();
     salle.native().executeScript(u"update concours set tourpri = 4"_qs);
     salle.partage.TourCourant = 4;
-    TirageTour1(salle.partage, salle.operateur, 1);
-    EXPECT_EQ(salle.operateur.dits, QStringList(u"informe : Attention, le tirage du tour 1 a déjà été fait"_qs));
+    EXPECT_FALSE(TirageTour1(salle.partage, 1));
     EXPECT_EQ(salle.scores(), tirees);
     EXPECT_EQ(salle.tourpri(), 1);
     EXPECT_EQ(salle.partage.TourCourant, 1);
@@ -108,11 +99,10 @@ TEST_F(PremierTirage, SansEquipesOuPresque)
 {
     for (int nombre : {0, 1}) {
         salle.inscrit({.equipes = equipes(nombre)});
-        LanceTourSuivant(salle.partage, salle.operateur);
+        salle.clique();
         EXPECT_TRUE(salle.scores().empty());
         EXPECT_EQ(salle.tourpri(), 1);
         EXPECT_EQ(salle.partage.TourCourant, 1);
-        EXPECT_EQ(salle.operateur.dits, QStringList());
     }
 }
 
@@ -120,7 +110,7 @@ TEST_F(PremierTirage, SeulesLesEquipesDuTableauPrincipalJouent)
 {
     salle.native().executeScript(
         u"update evolution set principal = 0 where concours = %1 and equipe in (2, 5)"_qs.arg(concours));
-    LanceTourSuivant(salle.partage, salle.operateur);
+    salle.clique();
     std::vector<int> jouent;
     for (const Rencontre &ligne : salle.scores()) {
         jouent.push_back(ligne.equipe1);
@@ -172,10 +162,9 @@ protected:
 
 TEST_F(EcritureCoupee, UnActeEstEntierOuNAPasEuLieu)
 {
-    salle.operateur.reponse = true;
-    const auto tire = [this] { LanceTourSuivant(salle.partage, salle.operateur); };
+    const auto tire = [this] { salle.clique(); };
     coupe("first draw", tire);
-    coupe("new draw", [this] { ConfirmeTirage(salle.partage, salle.operateur); });
+    coupe("new draw", [this] { RefaitTirage(salle.partage); });
     EXPECT_EQ(salle.scores().size(), 4u);
     joue();
     const std::vector<Rencontre> tour1 = salle.scores(1);

@@ -28,7 +28,8 @@ protected:
     bool lues() const
     {
         const QWidget *restaurer = prog.controle(u"CopiesSecurite"_qs, u"Restaurer"_qs);
-        return QTest::qWaitFor([&] { return restaurer->isEnabled() && ecart(liste()->rowCount() - 1) != u"lecture en cours"; });
+        return QTest::qWaitFor(
+            [&] { return restaurer->isEnabled() && ecart(liste()->rowCount() - 1) != u"lecture en cours"; });
     }
     qint64 concours() { return prog.valeur(u"select count(*) from concours"_qs).entier(); }
     void clique(const QString &bouton) { prog.clique(u"CopiesSecurite"_qs, bouton); }
