@@ -15,7 +15,7 @@ class Joueurs : public Inscription
 protected:
     void ouvreJoueurs()
     {
-        forme(u"Accueil"_qs)->parentWidget()->findChild<QAction *>(u"mnu_joueurs"_qs)->trigger();
+        menu(u"mnu_joueurs"_qs)->trigger();
         ASSERT_TRUE(QTest::qWaitFor([&] { return forme(J) == QApplication::activeWindow(); }));
     }
     bool coche(const QString &nom) { return qobject_cast<QRadioButton *>(controle(J, nom))->isChecked(); }

@@ -22,7 +22,7 @@ protected:
 
     void ouvre()
     {
-        prog.torvik()->findChild<QAction *>(u"traduction"_qs)->trigger();
+        prog.menu(u"traduction"_qs)->trigger();
         QCoreApplication::processEvents();
         combo = prog.controle<QComboBox>(u"langues"_qs, u"Qlang"_qs);
         ASSERT_NE(combo, nullptr);
@@ -40,7 +40,7 @@ protected:
 
     QString actives() { return prog.valeur(u"select group_concat(numero) from traduc where actif"_qs).texte(); }
 
-    QString menuResultats() { return prog.torvik()->findChild<QAction *>(u"Mnu_resultats"_qs)->text(); }
+    QString menuResultats() { return prog.menu(u"Mnu_resultats"_qs)->text(); }
 
     QString boutonAnnuler()
     {

@@ -221,7 +221,7 @@ TEST_F(Listes, APickedPlayerIsReadIntoTheFileOfPlayers)
         execute(u"insert into equipes (concours, equipe, nom, prenom, licence, societe, ne, sexe) values "
                 "(0, %1, 'NOM%1', 'P', 'L%1', 'DUP', '1960-01-31', 'F')"_qs.arg(numero));
     }
-    forme(u"Accueil"_qs)->parentWidget()->findChild<QAction *>(u"mnu_joueurs"_qs)->trigger();
+    menu(u"mnu_joueurs"_qs)->trigger();
     active(u"Ejoueurs"_qs);
     clic(u"Ejoueurs"_qs, u"Command1"_qs);
     active(P);

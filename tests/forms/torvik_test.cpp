@@ -54,8 +54,8 @@ TEST(FenetrePrincipale, DemarreSurLAccueil)
     EXPECT_TRUE(visible(prog, u"Accueil"_qs));
     EXPECT_EQ(prog.controle(u""_qs, u"f_concours"_qs)->toolTip(), prog.partage().mes(1));
     EXPECT_EQ(prog.controle(u""_qs, u"f_resultats"_qs)->toolTip(), prog.partage().mes(4));
-    EXPECT_EQ(prog.torvik()->findChild<QAction *>(u"Mnu_resultats"_qs)->text(), prog.partage().mes(4));
-    EXPECT_EQ(prog.torvik()->findChild<QMenu *>(u"Mnu_accueil"_qs)->title(), u"     ?"_qs);
+    EXPECT_EQ(prog.menu(u"Mnu_resultats"_qs)->text(), prog.partage().mes(4));
+    EXPECT_EQ(prog.controle<QMenu>(u""_qs, u"Mnu_accueil"_qs)->title(), u"     ?"_qs);
     EXPECT_EQ(prog.partage().ConcoursCourant, 0);
 }
 
@@ -128,9 +128,9 @@ TEST(FenetrePrincipale, UneFamilleALaFois)
     prog.ouvre(u"f_equipes"_qs);
     EXPECT_FALSE(prog.formulaires().estChargee(u"EResultats"_qs));
     prog.ouvre(u"f_resultats"_qs);
-    prog.torvik()->findChild<QAction *>(u"mnu_joueurs"_qs)->trigger();
+    prog.menu(u"mnu_joueurs"_qs)->trigger();
     EXPECT_FALSE(prog.formulaires().estChargee(u"EResultats"_qs));
-    prog.torvik()->findChild<QAction *>(u"Mnu_concours"_qs)->trigger();
+    prog.menu(u"Mnu_concours"_qs)->trigger();
     EXPECT_TRUE(visible(prog, u"Econcours"_qs));
     prog.ouvre(u"f_accueil"_qs);
     EXPECT_TRUE(visible(prog, u"Accueil"_qs));
@@ -146,10 +146,10 @@ TEST(FenetrePrincipale, ClicsSurLeFond)
     ProgrammePilote prog;
     ASSERT_TRUE(prog.demarre());
     QWidget *fond = prog.controle(u""_qs, u"Terrain"_qs);
-    const QList<QAction *> menus{prog.torvik()->findChild<QAction *>(u"Mnu_concours"_qs),
-                                 prog.torvik()->findChild<QMenu *>(u"Equipes"_qs)->menuAction(),
-                                 prog.torvik()->findChild<QAction *>(u"Mnu_resultats"_qs),
-                                 prog.torvik()->findChild<QMenu *>(u"Mnu_accueil"_qs)->menuAction()};
+    const QList<QAction *> menus{prog.menu(u"Mnu_concours"_qs),
+                                 prog.controle<QMenu>(u""_qs, u"Equipes"_qs)->menuAction(),
+                                 prog.menu(u"Mnu_resultats"_qs),
+                                 prog.controle<QMenu>(u""_qs, u"Mnu_accueil"_qs)->menuAction()};
     for (const bool attendu : {false, true}) {
         QTest::mouseClick(fond, Qt::RightButton);
         for (const QAction *menu : menus)
@@ -231,7 +231,7 @@ TEST(FenetrePrincipale, UneBaseVideeDeSesLanguesLesRetrouve)
             base.executeScript(perte);
         }
         ASSERT_TRUE(prog.demarre());
-        EXPECT_EQ(prog.torvik()->findChild<QAction *>(u"Mnu_concours"_qs)->text(), u"Concours"_qs);
+        EXPECT_EQ(prog.menu(u"Mnu_concours"_qs)->text(), u"Concours"_qs);
         EXPECT_EQ(prog.valeur(u"select group_concat(numero || actif, ' ') from traduc"_qs).texte(),
                   u"1-1 20 30 40 50 60"_qs);
         EXPECT_GT(prog.valeur(u"select count(distinct lang) from typconcours"_qs).entier(), 5);

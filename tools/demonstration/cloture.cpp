@@ -186,9 +186,7 @@ void Cloture::purge()
 
 void Cloture::choisit(const QString &entree)
 {
-    auto *action = m_main.fenetre(u"Torvik"_qs)->findChild<QAction *>(entree);
-    exige(action != nullptr, u"Le menu n'a pas d'entrée %1."_qs.arg(entree));
-    action->trigger();
+    m_main.menu(entree)->trigger();
     exige(m_boites.faute().isEmpty(), m_boites.faute());
 }
 

@@ -57,7 +57,7 @@ qint64 Registre::nombre(const QString &lignes)
 
 void Registre::declenche(const QString &action)
 {
-    m_main.fenetre(u"Torvik"_qs)->findChild<QAction *>(action)->trigger();
+    m_main.menu(action)->trigger();
     QCoreApplication::processEvents();
 }
 

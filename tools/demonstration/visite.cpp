@@ -61,7 +61,7 @@ QStringList Visite::images()
 
 void Visite::choisit(const QString &langue)
 {
-    m_main.fenetre(u"Torvik"_qs)->findChild<QAction *>(u"traduction"_qs)->trigger();
+    m_main.menu(u"traduction"_qs)->trigger();
     auto *liste = m_main.controle<QComboBox>(u"langues"_qs, u"Qlang"_qs);
     exige(QTest::qWaitForWindowActive(m_main.fenetre(u"langues"_qs)), u"Le choix de la langue ne vient pas devant."_qs);
     liste->setFocus();

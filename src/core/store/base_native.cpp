@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
+#include <QVersionNumber>
 
 #include <sqlite3.h>
 
@@ -251,7 +252,8 @@ BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode m
     try {
         ouvre(motDePasse, mode, false);
     } catch (const Erreur &erreur) {
-        if (erreur.numero() != Erreur::MotDePasse || valeurUnique(u"pragma cipher_version"_qs).texte() < u"4"_qs) {
+        const auto moteur = QVersionNumber::fromString(valeurUnique(u"pragma cipher_version"_qs).texte());
+        if (erreur.numero() != Erreur::MotDePasse || moteur.majorVersion() < 4) {
             ferme();
             throw;
         }

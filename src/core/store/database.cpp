@@ -54,9 +54,6 @@ Moteur::Moteur(const QString &fichier, const QString &motDePasse)
     base.metEnService();
     reserveBase(base.fichier());
     creeTablesDeTravail(base);
-    // One statement of the program names this word after its table, as if it were a second one: with a single row it
-    // changes nothing in the answer.
-    base.execute(u"create temp view dbOpensnapshot as select 1"_qs);
 }
 
 void Moteur::relit()
@@ -83,12 +80,11 @@ Recordset Database::OpenRecordset(QStringView source, int type)
 {
     const Schema &schema = moteur().schema;
     const Table *table = schema.table(source.trimmed());
-    if (table != nullptr && type != dbOpenSnapshot)
+    if (table != nullptr)
         return Recordset(std::make_unique<RecordsetTable>(m_moteur, table));
     if (type == dbOpenTable)
         throw Erreur(Erreur::ObjetInconnu, u"La table %1 n'existe pas."_qs.arg(source));
-    const InstructionTraduite traduite =
-        Traduit(table != nullptr ? QString(u"select * from [%1]"_qs.arg(table->nom)) : source.toString(), schema);
+    const InstructionTraduite traduite = Traduit(source.toString(), schema);
     const Table *modifiable = type == dbOpenSnapshot ? nullptr : schema.table(traduite.tableUnique);
     return Recordset(
         std::make_unique<RecordsetRequete>(m_moteur, traduite.sql, modifiable, !traduite.tableUnique.isEmpty()));

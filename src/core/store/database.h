@@ -35,8 +35,9 @@ public:
     bool estOuverte() const { return m_moteur != nullptr; }
     QString fichier() const;
 
-    /// \p source is the name of a table, or a statement. Type 1 gives a walk over the whole table, on which Index and
-    /// Seek work; type 4 a result that cannot be changed; without a type, a `select *` on one table can be changed.
+    /// \p source is the name of a table, or a statement. A table gives a walk over the whole of it, on which Index and
+    /// Seek work. A statement of type 4 gives a result that cannot be changed; without a type, a `select *` on one
+    /// table can be changed.
     Recordset OpenRecordset(QStringView source, int type = 0);
     /// Runs one INSERT, UPDATE or DELETE; gives the number of rows that it changed. An `insert ... select` passes over
     /// the rows that a key refuses.

@@ -41,7 +41,6 @@ TEST_F(Dialecte, UnderstandsTheStatementsOfTheProgram)
                    u"isnull(score_2)) and concours=1")
                   .entier(),
               1);
-    EXPECT_EQ(seul(u"Select max(concours) as lequel from concours, dbOpensnapshot").entier(), 1);
     EXPECT_EQ(seul(u"select equipe from equipes where trim([nom]) + left(trim([prenom]),1) like 'étéz'").entier(), 1);
     EXPECT_EQ(seul(u"select equipe + 1 from [Equipes] where [concours] = 1").entier(), 2);
     EXPECT_EQ(seul(u"select lieu from concours where lieu = 'l''étoile; D''AŸ'").texte(), u"L'Étoile; d'Aÿ");

@@ -42,7 +42,7 @@ protected:
         prog.ouvre(u"chrono"_qs);
         ASSERT_NE(forme(), nullptr);
         forme()->prendSon(std::make_unique<SonNote>(joues));
-        forme()->findChild<QTimer *>(u"Timer1"_qs)->stop();
+        forme()->controle<QTimer>(u"Timer1"_qs)->stop();
     }
 
     FrmHorloge *forme() { return qobject_cast<FrmHorloge *>(prog.formulaires().forme(nom)); }
@@ -132,7 +132,7 @@ TEST_F(BoiteAOutils, OuverteEtFermeeParLeMemeBouton)
 
 TEST_F(BoiteAOutils, ChronometreJusteApresUnBlocage)
 {
-    const auto *timer = forme()->findChild<QTimer *>(u"Timer2"_qs);
+    const auto *timer = forme()->controle<QTimer>(u"Timer2"_qs);
     clique(u"start"_qs);
     EXPECT_FALSE(controle<QPushButton>(u"start"_qs)->isEnabled());
     prog.horloge.millisecondes += 3'725'678; // over an hour without a tick
@@ -224,7 +224,7 @@ TEST_F(BoiteAOutils, TirageEtapeParEtape)
     EXPECT_EQ(texte(u"Label7"_qs), u"Résultats"_qs);
     limite(u"999"_qs);
     clique(u"lancer"_qs);
-    const auto timer = [&](const QString &lequel) { return forme()->findChild<QTimer *>(lequel); };
+    const auto timer = [&](const QString &lequel) { return forme()->controle<QTimer>(lequel); };
     for (const QString &bloque : {u"lancer"_qs, u"RAZ"_qs, u"Maxvaleur"_qs})
         EXPECT_FALSE(controle<QWidget>(bloque)->isEnabled());
     EXPECT_GE(timer(u"Timer14"_qs)->interval(), 500);
@@ -281,7 +281,7 @@ TEST_F(BoiteAOutils, BatASecondePleine)
     EXPECT_TRUE(QTest::qWaitFor([&] { return texte(u"Heure"_qs) == u"09:30:01"_qs; }, 2000));
     prog.horloge.instant = QTime(9, 30, 1, 990);
     forme()->Timer1_Timer();
-    EXPECT_LT(forme()->findChild<QTimer *>(u"Timer1"_qs)->interval(), 20);
+    EXPECT_LT(forme()->controle<QTimer>(u"Timer1"_qs)->interval(), 20);
 }
 
 } // namespace

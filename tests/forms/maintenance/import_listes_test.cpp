@@ -23,7 +23,7 @@ protected:
         ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
         fichier.write(octets);
     }
-    void choisit(const QString &entree) { prog.torvik()->findChild<QAction *>(entree)->trigger(); }
+    void choisit(const QString &entree) { prog.menu(entree)->trigger(); }
     qint64 nombre(const QString &table) { return prog.valeur(u"select count(*) from "_qs + table).entier(); }
 
     ProgrammePilote prog;

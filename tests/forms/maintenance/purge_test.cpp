@@ -90,7 +90,7 @@ protected:
               u"insert into tnequipes (concours) values (1)"_qs, u"insert into tirages_pro (concours) values (1)"_qs})
             prog.base().native().execute(sql);
     }
-    void clique() { prog.torvik()->findChild<QAction *>(u"mnu_base"_qs)->trigger(); }
+    void clique() { prog.menu(u"mnu_base"_qs)->trigger(); }
     void purge(const FichiersBase &fichiers, const QString &boite)
     {
         prog.boites.attend(attention, ReponseBoite::Oui);

@@ -110,9 +110,7 @@ TEST_F(Copies, ACopyIsMadeOnceAndElsewhereAndADamagedOneIsTold)
     abimee.close();
     prog.touche(Qt::Key_Escape);
     EXPECT_FALSE(prog.formulaires().estChargee(u"CopiesSecurite"_qs));
-    auto *entree = prog.torvik()->findChild<QAction *>(u"mnu_CopiesSecurite"_qs);
-    ASSERT_NE(entree, nullptr);
-    entree->trigger();
+    prog.menu(u"mnu_CopiesSecurite"_qs)->trigger();
     ASSERT_TRUE(lues());
     EXPECT_EQ(ecart(1), u"copie illisible"_qs);
     liste()->selectRow(1);

@@ -41,6 +41,13 @@ QWidget *Gestes::cherche(const QString &forme, const QString &nom) const
     return trouve;
 }
 
+QAction *Gestes::menu(const QString &nom) const
+{
+    auto *trouvee = fenetre({})->findChild<QAction *>(nom);
+    exige(trouvee != nullptr, u"Le menu n'a pas d'entrée %1."_qs.arg(nom));
+    return trouvee;
+}
+
 QString Gestes::texte(const QString &forme, const QString &nom) const
 {
     const QWidget *widget = cherche(forme, nom);

@@ -3,6 +3,7 @@
 #include "app/programme.h"
 #include "pilote/incident.h"
 
+#include <QAction>
 #include <QWidget>
 
 namespace pilote {
@@ -22,6 +23,8 @@ public:
     {
         return qobject_cast<Widget *>(cherche(forme, nom));
     }
+    /// Entry \p nom of the menus of the main window; a missing one throws.
+    QAction *menu(const QString &nom) const;
     /// Text of the field, list, label or button \p nom.
     QString texte(const QString &forme, const QString &nom) const;
     /// Name of the control that has the focus, a combo for its editor; empty without one.
