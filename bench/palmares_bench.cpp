@@ -13,9 +13,9 @@
 namespace {
 
 /// Every round has as many matches as teams allow: the list at its longest.
-std::vector<moteur::Rencontre> toursComplets(int equipes, int tours)
+std::vector<moteur::Partie> toursComplets(int equipes, int tours)
 {
-    std::vector<moteur::Rencontre> rencontres;
+    std::vector<moteur::Partie> rencontres;
     for (int tour = 1; tour <= tours; ++tour) {
         for (int equipe = 1; equipe < equipes; equipe += 2) {
             const int perdant = (equipe + tour) % 13;

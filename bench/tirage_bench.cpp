@@ -53,7 +53,7 @@ BENCHMARK(TirageSuivantUnSeulClub)->ArgName("equipes")->Arg(10000)->Unit(benchma
 /// The ranking alone, from matches already in memory.
 void Classement(benchmark::State &etat)
 {
-    const std::vector<moteur::Rencontre> rencontres = concoursJoue(int(etat.range(0)), int(etat.range(1))).rencontres();
+    const std::vector<moteur::Partie> rencontres = concoursJoue(int(etat.range(0)), int(etat.range(1))).rencontres();
     AleaFixe alea(1);
     for ([[maybe_unused]] auto _ : etat)
         benchmark::DoNotOptimize(moteur::etablitClassement(rencontres, alea));

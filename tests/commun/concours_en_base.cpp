@@ -45,7 +45,7 @@ qint32 poseConcours(store::Database &base, const ConcoursInscrit &inscrit)
     return numero;
 }
 
-void poseRencontres(store::Database &base, qint32 concours, const std::vector<moteur::Rencontre> &rencontres)
+void poseRencontres(store::Database &base, qint32 concours, const std::vector<moteur::Partie> &rencontres)
 {
     base.EcritEnGroupe([&] {
         Instruction ajout(base.native(),
@@ -53,7 +53,7 @@ void poseRencontres(store::Database &base, qint32 concours, const std::vector<mo
                           u"score_1, score_2, score_reel, repechage) "
                           u"values (?, 1, ?, ?, ?, ?, ?, ?, -1, ?)"_qs);
         int tours = 0;
-        for (const moteur::Rencontre &r : rencontres) {
+        for (const moteur::Partie &r : rencontres) {
             ajoute(ajout, {concours, r.tour, r.rencontre, r.equipe1, r.equipe2, r.score1, r.score2, r.repechage});
             tours = std::max(tours, r.tour);
         }

@@ -20,4 +20,4 @@ struct ConcoursInscrit
 qint32 poseConcours(store::Database &base, const ConcoursInscrit &inscrit);
 
 /// Writes drawn and played matches of bracket 1, and the last of their rounds as that of the competition.
-void poseRencontres(store::Database &base, qint32 concours, const std::vector<moteur::Rencontre> &rencontres);
+void poseRencontres(store::Database &base, qint32 concours, const std::vector<moteur::Partie> &rencontres);

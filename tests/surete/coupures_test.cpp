@@ -412,7 +412,7 @@ TEST_F(Coupures, ARestorationCutAtAnyCallLeavesOneOfTheTwoBasesWhole)
         Restaure(partage, FichiersBase());
     };
     const auto ouvre = [&](Partage &partage) {
-        partage.EspaceTravail = &partage.moteur.Workspaces(0);
+        partage.EspaceTravail = &partage.moteurBase.Workspaces(0);
         AbandonneRestauration(base.dossier());
         partage.BaseDonnees = base.ouvre();
     };

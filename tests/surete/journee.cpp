@@ -36,7 +36,7 @@ Journee::Journee(const QString &dossier, quint32 graine)
     , m_graine(graine)
     , m_partage(dossier, m_alea, m_horloge)
 {
-    m_partage.EspaceTravail = &m_partage.moteur.Workspaces(0);
+    m_partage.EspaceTravail = &m_partage.moteurBase.Workspaces(0);
     compose(graine);
 }
 

@@ -25,7 +25,7 @@ public:
     const QStringList &fautes() const { return m_fautes; }
 
 private:
-    using Rencontre = moteur::Rencontre;
+    using Rencontre = moteur::Partie;
     using Tour = std::vector<Rencontre>;
     using Paire = std::pair<int, int>;
     struct Comptes

@@ -69,9 +69,9 @@ bool Resultats::termine() const
 }
 
 /// The sheet of the round: what the organiser reads the numbers from.
-std::vector<Resultats::Rencontre> Resultats::attendues() const
+std::vector<Resultats::Paire> Resultats::attendues() const
 {
-    std::vector<Rencontre> rencontres;
+    std::vector<Paire> rencontres;
     store::Recordset lignes = m_programme.partage().BaseDonnees.OpenRecordset(
         u"select equipe_1, equipe_2 from scores where concours = %1 and tour = %2 and equipe_2 > 0 and isnull(score_1) "
         u"order by equipe_1"_qs.arg(m_programme.partage().ConcoursCourant)
@@ -84,7 +84,7 @@ std::vector<Resultats::Rencontre> Resultats::attendues() const
 
 int Resultats::saisitTour()
 {
-    std::vector<Rencontre> rencontres = attendues();
+    std::vector<Paire> rencontres = attendues();
     m_hasard.melange(rencontres);
     const int nombre = int(rencontres.size());
     for (int place = 0; place < nombre; ++place)
@@ -96,7 +96,7 @@ int Resultats::saisitTour()
 }
 
 /// The first round shows every gesture that its matches leave room for; later on chance picks them.
-void Resultats::joue(const Rencontre &rencontre, int place, int nombre)
+void Resultats::joue(const Paire &rencontre, int place, int nombre)
 {
     const bool premierTour = tour() == 1;
     if ((premierTour && place == nombre - 1) || m_hasard.chance(pourcentMot)) {
@@ -114,7 +114,7 @@ void Resultats::joue(const Rencontre &rencontre, int place, int nombre)
         corrigeParLesVues(rencontre);
 }
 
-Resultats::Score Resultats::tireScore(const Rencontre &rencontre)
+Resultats::Score Resultats::tireScore(const Paire &rencontre)
 {
     const int force1 = m_plateau.equipe(rencontre.equipe1).force + 20;
     const int force2 = m_plateau.equipe(rencontre.equipe2).force + 20;
@@ -124,7 +124,7 @@ Resultats::Score Resultats::tireScore(const Rencontre &rencontre)
 }
 
 /// Types the number of one of the two teams: the match comes up in its own order.
-void Resultats::appelle(const Rencontre &rencontre, QStringView image)
+void Resultats::appelle(const Paire &rencontre, QStringView image)
 {
     m_main.exigeFocus(forme, u"Equipe1"_qs);
     m_main.tape(QString::number(m_hasard.chance(50) ? rencontre.equipe1 : rencontre.equipe2));
@@ -137,7 +137,7 @@ void Resultats::appelle(const Rencontre &rencontre, QStringView image)
 
 /// The loser's score alone says it all. When the second team has lost, its field is reached by the tab key or by the
 /// winner's score, typed first.
-void Resultats::tapeScore(const Rencontre &rencontre, const Score &score, QStringView image)
+void Resultats::tapeScore(const Paire &rencontre, const Score &score, QStringView image)
 {
     appelle(rencontre, image);
     saisitScore(score);
@@ -180,7 +180,7 @@ void Resultats::ouvreVues()
     m_photographe.prend(u"vue-joues", *m_main.fenetre(joues));
 }
 
-void Resultats::tapeMot(const Rencontre &rencontre)
+void Resultats::tapeMot(const Paire &rencontre)
 {
     appelle(rencontre);
     m_main.tape(m_programme.partage().mes(motForfait));
@@ -189,7 +189,7 @@ void Resultats::tapeMot(const Rencontre &rencontre)
     verifie(rencontre, {scoreForfait, gagnant, true});
 }
 
-void Resultats::doubleClique(const Rencontre &rencontre, bool premierGagne)
+void Resultats::doubleClique(const Paire &rencontre, bool premierGagne)
 {
     appelle(rencontre);
     m_main.doubleClique(m_main.controle(forme, premierGagne ? u"Equipe1"_qs : u"Equipe2"_qs));
@@ -198,7 +198,7 @@ void Resultats::doubleClique(const Rencontre &rencontre, bool premierGagne)
 }
 
 /// Calls a match up again and gives it another score.
-void Resultats::corrige(const Rencontre &rencontre)
+void Resultats::corrige(const Paire &rencontre)
 {
     const Score score = tireScore(rencontre);
     tapeScore(rencontre, score, u"resultats-correction");
@@ -206,7 +206,7 @@ void Resultats::corrige(const Rencontre &rencontre)
 
 /// The views beside the entry: a match is told to be on the ground and taken back, a team is looked up, the played
 /// matches are sorted, and the last one comes back into the entry by a click.
-void Resultats::corrigeParLesVues(const Rencontre &rencontre)
+void Resultats::corrigeParLesVues(const Paire &rencontre)
 {
     m_main.clique(m_main.controle(u"manqres"_qs, u"classement"_qs));
     if (m_main.controle<FlexGrid>(u"manqres"_qs, u"les_resultats_0"_qs)->Rows() > 1) {
@@ -261,7 +261,7 @@ void Resultats::montreLettres()
     QTest::keyRelease(champ, Qt::Key_Alt);
 }
 
-void Resultats::verifie(const Rencontre &rencontre, const Score &score)
+void Resultats::verifie(const Paire &rencontre, const Score &score)
 {
     m_main.exigeFocus(forme, u"Equipe1"_qs);
     for (const QString &champ : {u"Equipe1"_qs, u"Equipe2"_qs, u"Score1"_qs, u"Score2"_qs})

@@ -32,7 +32,7 @@ public:
 private:
     static constexpr QStringView imageAppel = u"resultats-rencontre-appelee";
 
-    struct Rencontre
+    struct Paire
     {
         int equipe1;
         int equipe2;
@@ -44,20 +44,20 @@ private:
         bool reel;
     };
 
-    std::vector<Rencontre> attendues() const;
-    void joue(const Rencontre &rencontre, int place, int nombre);
-    Score tireScore(const Rencontre &rencontre);
-    void appelle(const Rencontre &rencontre, QStringView image = imageAppel);
-    void tapeScore(const Rencontre &rencontre, const Score &score, QStringView image = imageAppel);
+    std::vector<Paire> attendues() const;
+    void joue(const Paire &rencontre, int place, int nombre);
+    Score tireScore(const Paire &rencontre);
+    void appelle(const Paire &rencontre, QStringView image = imageAppel);
+    void tapeScore(const Paire &rencontre, const Score &score, QStringView image = imageAppel);
     void saisitScore(const Score &score);
-    void tapeMot(const Rencontre &rencontre);
-    void doubleClique(const Rencontre &rencontre, bool premierGagne);
-    void corrige(const Rencontre &rencontre);
-    void corrigeParLesVues(const Rencontre &rencontre);
+    void tapeMot(const Paire &rencontre);
+    void doubleClique(const Paire &rencontre, bool premierGagne);
+    void corrige(const Paire &rencontre);
+    void corrigeParLesVues(const Paire &rencontre);
     void basculeLancee();
     void montreDetail();
     void montreLettres();
-    void verifie(const Rencontre &rencontre, const Score &score);
+    void verifie(const Paire &rencontre, const Score &score);
     void photographie(QStringView nom);
 
     Programme &m_programme;

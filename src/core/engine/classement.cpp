@@ -35,7 +35,7 @@ void gagne(LigneClassement &ligne)
 }
 
 /// Side that has won, 1 or 2; 0 when no side stands at 13. With both at 13 the first has won.
-int vainqueur(const Rencontre &rencontre)
+int vainqueur(const Partie &rencontre)
 {
     if (rencontre.score1 == scoreGagnant)
         return 1;
@@ -58,7 +58,7 @@ public:
     {
     }
 
-    void compte(const Rencontre &rencontre)
+    void compte(const Partie &rencontre)
     {
         comptePremiere(rencontre);
         if (rencontre.equipe2 > 0)
@@ -72,7 +72,7 @@ public:
     }
 
 private:
-    void comptePremiere(const Rencontre &rencontre)
+    void comptePremiere(const Partie &rencontre)
     {
         const std::size_t connues = m_lignes.size();
         LigneClassement &ligne = ligneDe(rencontre.equipe1);
@@ -90,7 +90,7 @@ private:
         }
     }
 
-    void compteSeconde(const Rencontre &rencontre)
+    void compteSeconde(const Partie &rencontre)
     {
         LigneClassement &ligne = ligneDe(rencontre.equipe2);
         compteResultat(ligne, 2, vainqueur(rencontre));
@@ -113,10 +113,10 @@ private:
 
 } // namespace
 
-std::vector<LigneClassement> etablitClassement(std::span<const Rencontre> rencontres, SourceAleatoire &alea)
+std::vector<LigneClassement> etablitClassement(std::span<const Partie> rencontres, SourceAleatoire &alea)
 {
     Classeur classeur(alea);
-    for (const Rencontre &rencontre : rencontres)
+    for (const Partie &rencontre : rencontres)
         classeur.compte(rencontre);
     return std::move(classeur).lignes();
 }

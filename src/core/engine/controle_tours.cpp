@@ -19,7 +19,7 @@ bool tirageARefaire(StatutTirage statut, int tourCourant, int essais)
     return statut == StatutTirage::DejaRencontrees || (statut == StatutTirage::MemeClub && tourCourant == 1);
 }
 
-std::vector<Rencontre> rencontresDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour)
+std::vector<Partie> rencontresDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour)
 {
     std::unordered_set<int> remontees;
     for (const LigneClassement &ligne : classement) {
@@ -27,11 +27,11 @@ std::vector<Rencontre> rencontresDuTour(const TabTirage &table, std::span<const 
             remontees.insert(ligne.equipe);
     }
 
-    std::vector<Rencontre> rencontres;
+    std::vector<Partie> rencontres;
     rencontres.reserve(table.lignes.size());
     for (const LigneTirage &ligne : table.lignes) {
-        Rencontre &rencontre =
-            rencontres.emplace_back(Rencontre{.tour = tour, .equipe1 = ligne.equipe1, .equipe2 = ligne.equipe2});
+        Partie &rencontre =
+            rencontres.emplace_back(Partie{.tour = tour, .equipe1 = ligne.equipe1, .equipe2 = ligne.equipe2});
         if (remontees.contains(ligne.equipe1))
             rencontre.repechage = 1;
         if (ligne.equipe2 == 0) {

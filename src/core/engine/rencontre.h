@@ -10,7 +10,7 @@ inline constexpr int scoreGagnant = 13;
 inline constexpr int scoreConcedeExempt = 7;
 
 /// One row of `scores`: a match, drawn or played.
-struct Rencontre
+struct Partie
 {
     int tour = 0;
     int rencontre = 0; ///< Number within the round, from 1; 0 from round 2 on.
@@ -20,7 +20,7 @@ struct Rencontre
     std::optional<int> score2 = std::nullopt;
     std::optional<int> repechage = std::nullopt; ///< 1 or 2: the side that was pulled up.
 
-    bool operator==(const Rencontre &) const = default;
+    bool operator==(const Partie &) const = default;
 };
 
 } // namespace moteur

@@ -9,7 +9,7 @@
 #include <utility>
 
 using moteur::LigneClassement;
-using moteur::Rencontre;
+using moteur::Partie;
 using store::Instruction;
 using store::Valeur;
 
@@ -22,9 +22,9 @@ std::optional<int> optionnel(const Instruction &ligne, int colonne)
     return ligne.estNulle(colonne) ? std::nullopt : std::optional(int(ligne.nombre(colonne)));
 }
 
-std::vector<Rencontre> litRencontres(Partage &partage, qint64 concours)
+std::vector<Partie> litRencontres(Partage &partage, qint64 concours)
 {
-    std::vector<Rencontre> rencontres;
+    std::vector<Partie> rencontres;
     Instruction lecture(partage.BaseDonnees.native(),
                         u"select tour, equipe_1, equipe_2, score_1, score_2, repechage from scores where concours = ? "
                         u"order by tour, equipe_1, rowid"_qs);
@@ -99,12 +99,12 @@ std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage)
     return paires;
 }
 
-void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Rencontre> &rencontres)
+void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Partie> &rencontres)
 {
     Instruction ajout(partage.BaseDonnees.native(),
                       u"insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2, score_1, score_2, "
                       u"repechage) values (?, ?, ?, ?, ?, ?, ?, ?, ?)"_qs);
-    for (const Rencontre &rencontre : rencontres) {
+    for (const Partie &rencontre : rencontres) {
         const Valeur champs[] = {partage.ConcoursCourant, tableau,           rencontre.tour,
                                  rencontre.rencontre,     rencontre.equipe1, rencontre.equipe2,
                                  rencontre.score1,        rencontre.score2,  rencontre.repechage};

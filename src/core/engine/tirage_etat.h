@@ -85,14 +85,14 @@ public:
     void execute();
 
 private:
-    struct Rencontre
+    struct PaireDeRangs
     {
         int rang1 = aucun;
         int rang2 = aucun;
     };
 
     void situeEquipes();
-    int ligneDe(const Rencontre &rencontre) const;
+    int ligneDe(const PaireDeRangs &rencontre) const;
     void corrige(int i);
     bool convient(int i);
     bool dejaRencontrees(int i) const;
@@ -102,7 +102,7 @@ private:
 
     Etat &m_etat;
     const SigneTirage &m_signe;
-    std::vector<Rencontre> m_jouees;
+    std::vector<PaireDeRangs> m_jouees;
     std::vector<quint64> m_cles;
     std::vector<int> m_lignes;
 };

@@ -35,7 +35,7 @@ ControleRepetitions::ControleRepetitions(Etat &etat, std::span<const PaireJouee>
         const auto seconde = rangs.find(jouee.equipe2);
         const bool connues = premiere != rangs.end() && seconde != rangs.end();
         // A team without a ranking row stands in no pair: its meeting is read, and matches nothing.
-        m_jouees.push_back(connues ? Rencontre{premiere->second, seconde->second} : Rencontre{});
+        m_jouees.push_back(connues ? PaireDeRangs{premiere->second, seconde->second} : PaireDeRangs{});
         if (connues)
             m_cles.push_back(cle(premiere->second, seconde->second));
     }
@@ -46,7 +46,7 @@ void ControleRepetitions::execute()
 {
     m_etat.change = false;
     situeEquipes();
-    for (const Rencontre &jouee : m_jouees) {
+    for (const PaireDeRangs &jouee : m_jouees) {
         m_signe(u".");
         if (const int i = ligneDe(jouee); i > 0)
             corrige(i);
@@ -69,7 +69,7 @@ void ControleRepetitions::situe(int i)
 
 /// Row in which the two teams stand against each other again, 0 when they do not. Each team stands in one row only,
 /// so no second row can hold the pair.
-int ControleRepetitions::ligneDe(const Rencontre &rencontre) const
+int ControleRepetitions::ligneDe(const PaireDeRangs &rencontre) const
 {
     const int equipe = rencontre.rang1 != aucun ? rencontre.rang1 : rencontre.rang2;
     if (equipe == aucun)

@@ -27,14 +27,14 @@ public:
         separeClubs(1);
     }
 
-    std::vector<Rencontre> rencontres() const
+    std::vector<Partie> rencontres() const
     {
-        std::vector<Rencontre> resultat;
+        std::vector<Partie> resultat;
         resultat.reserve(m_paires.size());
-        const auto ecrit = [&resultat](int equipe1, int equipe2) -> Rencontre & {
+        const auto ecrit = [&resultat](int equipe1, int equipe2) -> Partie & {
             const int numero = static_cast<int>(resultat.size()) + 1;
             return resultat.emplace_back(
-                Rencontre{.tour = 1, .rencontre = numero, .equipe1 = equipe1, .equipe2 = equipe2});
+                Partie{.tour = 1, .rencontre = numero, .equipe1 = equipe1, .equipe2 = equipe2});
         };
         for (std::size_t i = 0; i + 1 < m_paires.size(); ++i)
             ecrit(ligne(m_paires[i][0]).equipe, ligne(m_paires[i][1]).equipe);
@@ -134,7 +134,7 @@ private:
 
 } // namespace
 
-std::vector<Rencontre> tireTour1(std::span<const EquipeInscrite> equipes, int exemptPrecedent, SourceAleatoire &alea)
+std::vector<Partie> tireTour1(std::span<const EquipeInscrite> equipes, int exemptPrecedent, SourceAleatoire &alea)
 {
     if (equipes.size() < 2)
         return {};

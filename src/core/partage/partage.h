@@ -23,7 +23,7 @@ struct Partage
     const Horloge &horloge;
 
     // Store
-    store::DBEngine moteur;
+    store::DBEngine moteurBase;
     store::Workspace *EspaceTravail = nullptr;
     store::Database BaseDonnees;
     bool AvecCopies = true; ///< Safety copies are made.

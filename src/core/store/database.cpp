@@ -46,7 +46,7 @@ void creeTablesDeTravail(BaseNative &base)
 
 } // namespace
 
-Moteur::Moteur(const QString &fichier, const QString &motDePasse)
+BaseOuverte::BaseOuverte(const QString &fichier, const QString &motDePasse)
     : base(fichier, motDePasse, BaseNative::Mode::LectureEcriture)
     , schema(base)
 {
@@ -56,7 +56,7 @@ Moteur::Moteur(const QString &fichier, const QString &motDePasse)
     creeTablesDeTravail(base);
 }
 
-void Moteur::relit()
+void BaseOuverte::relit()
 {
     schema = Schema(base);
     for (const QStringView nom : tablesDeTravail)
@@ -66,51 +66,51 @@ void Moteur::relit()
 
 QString Database::fichier() const
 {
-    return moteur().base.fichier();
+    return ouverte().base.fichier();
 }
 
-Moteur &Database::moteur() const
+BaseOuverte &Database::ouverte() const
 {
-    if (m_moteur == nullptr)
+    if (m_ouverte == nullptr)
         throw Erreur(Erreur::Ferme, u"La base est fermée."_qs);
-    return *m_moteur;
+    return *m_ouverte;
 }
 
 Recordset Database::OpenRecordset(QStringView source, int type)
 {
-    const Schema &schema = moteur().schema;
+    const Schema &schema = ouverte().schema;
     const Table *table = schema.table(source.trimmed());
     if (table != nullptr)
-        return Recordset(std::make_unique<RecordsetTable>(m_moteur, table));
+        return Recordset(std::make_unique<RecordsetTable>(m_ouverte, table));
     if (type == dbOpenTable)
         throw Erreur(Erreur::ObjetInconnu, u"La table %1 n'existe pas."_qs.arg(source));
     const InstructionTraduite traduite = Traduit(source.toString(), schema);
     const Table *modifiable = type == dbOpenSnapshot ? nullptr : schema.table(traduite.tableUnique);
     return Recordset(
-        std::make_unique<RecordsetRequete>(m_moteur, traduite.sql, modifiable, !traduite.tableUnique.isEmpty()));
+        std::make_unique<RecordsetRequete>(m_ouverte, traduite.sql, modifiable, !traduite.tableUnique.isEmpty()));
 }
 
 int Database::Execute(QStringView instruction)
 {
-    BaseNative &base = moteur().base;
+    BaseNative &base = ouverte().base;
     const int avant = base.changements();
-    base.execute(Traduit(instruction, moteur().schema).sql);
+    base.execute(Traduit(instruction, ouverte().schema).sql);
     return base.changements() - avant;
 }
 
 QStringList Database::TableDefs() const
 {
-    return moteur().schema.tables();
+    return ouverte().schema.tables();
 }
 
 void Database::Close()
 {
-    m_moteur.reset();
+    m_ouverte.reset();
 }
 
 void Database::EcritEnGroupe(const std::function<void()> &ecriture)
 {
-    BaseNative &base = moteur().base;
+    BaseNative &base = ouverte().base;
     const bool exterieur = m_groupes == 0;
     base.execute(exterieur ? u"begin immediate"_qs : u"savepoint groupe"_qs);
     ++m_groupes;
@@ -129,12 +129,12 @@ void Database::EcritEnGroupe(const std::function<void()> &ecriture)
 
 void Database::RelitSchema()
 {
-    moteur().relit();
+    ouverte().relit();
 }
 
 BaseNative &Database::native()
 {
-    return moteur().base;
+    return ouverte().base;
 }
 
 Database Workspace::OpenDatabase(const QString &nom, bool, bool lectureSeule, const QString &connexion) const
@@ -143,7 +143,7 @@ Database Workspace::OpenDatabase(const QString &nom, bool, bool lectureSeule, co
         throw Erreur(Erreur::LectureSeule, u"La base s'ouvre toujours en écriture."_qs);
     const QString motDePasse = motDePasseDe(connexion);
     prouveAvecJournaux(nom, motDePasse);
-    return Database(std::make_shared<Moteur>(nom, motDePasse));
+    return Database(std::make_shared<BaseOuverte>(nom, motDePasse));
 }
 
 Workspace &DBEngine::Workspaces(int numero)

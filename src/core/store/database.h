@@ -11,9 +11,9 @@
 namespace store {
 
 /// What all recordsets of one open file share.
-struct Moteur
+struct BaseOuverte
 {
-    Moteur(const QString &fichier, const QString &motDePasse);
+    BaseOuverte(const QString &fichier, const QString &motDePasse);
     void relit();
 
     BaseNative base;
@@ -32,7 +32,7 @@ public:
     Database &operator=(Database &&) noexcept = default;
     ~Database() = default;
 
-    bool estOuverte() const { return m_moteur != nullptr; }
+    bool estOuverte() const { return m_ouverte != nullptr; }
     QString fichier() const;
 
     /// \p source is the name of a table, or a statement. A table gives a walk over the whole of it, on which Index and
@@ -60,14 +60,14 @@ public:
 
 private:
     friend class Workspace;
-    explicit Database(std::shared_ptr<Moteur> moteur)
-        : m_moteur(std::move(moteur))
+    explicit Database(std::shared_ptr<BaseOuverte> ouverte)
+        : m_ouverte(std::move(ouverte))
     {
     }
 
-    Moteur &moteur() const;
+    BaseOuverte &ouverte() const;
 
-    std::shared_ptr<Moteur> m_moteur;
+    std::shared_ptr<BaseOuverte> m_ouverte;
     int m_groupes = 0;
 };
 

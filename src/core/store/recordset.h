@@ -7,7 +7,7 @@
 
 namespace store {
 
-struct Moteur;
+struct BaseOuverte;
 class RecordsetBase;
 
 /// A field of the current row: reads as a Valeur, takes one when it is assigned.

@@ -11,8 +11,8 @@ namespace store {
 class RecordsetBase
 {
 public:
-    RecordsetBase(std::shared_ptr<Moteur> moteur, const Table *table)
-        : m_moteur(std::move(moteur))
+    RecordsetBase(std::shared_ptr<BaseOuverte> ouverte, const Table *table)
+        : m_ouverte(std::move(ouverte))
         , m_table(table)
     {
     }
@@ -47,12 +47,12 @@ protected:
     virtual void ligneChangee() = 0;
     virtual void ligneRetiree() = 0;
 
-    BaseNative &base() const { return m_moteur->base; }
+    BaseNative &base() const { return m_ouverte->base; }
     const Table &table() const { return *m_table; }
     void exigeLigne();
     void annuleEcriture();
 
-    std::shared_ptr<Moteur> m_moteur;
+    std::shared_ptr<BaseOuverte> m_ouverte;
     const Table *m_table;
     bool m_sansReponse = false;
 
@@ -72,7 +72,7 @@ private:
 class RecordsetTable final : public RecordsetBase
 {
 public:
-    RecordsetTable(std::shared_ptr<Moteur> moteur, const Table *table);
+    RecordsetTable(std::shared_ptr<BaseOuverte> ouverte, const Table *table);
     ~RecordsetTable() override;
     Q_DISABLE_COPY_MOVE(RecordsetTable)
 
@@ -122,7 +122,7 @@ class RecordsetRequete final : public RecordsetBase
 {
 public:
     /// \p table is the table whose rows can be changed, null when none can.
-    RecordsetRequete(std::shared_ptr<Moteur> moteur, const QString &sql, const Table *table, bool avecRowid);
+    RecordsetRequete(std::shared_ptr<BaseOuverte> ouverte, const QString &sql, const Table *table, bool avecRowid);
 
     bool Eof() override { return m_courante >= m_lignes.size(); }
     void MoveFirst() override;

@@ -2,9 +2,9 @@
 
 namespace store {
 
-RecordsetRequete::RecordsetRequete(std::shared_ptr<Moteur> moteur, const QString &sql, const Table *tableModifiable,
-                                   bool avecRowid)
-    : RecordsetBase(std::move(moteur), tableModifiable)
+RecordsetRequete::RecordsetRequete(std::shared_ptr<BaseOuverte> ouverte, const QString &sql,
+                                   const Table *tableModifiable, bool avecRowid)
+    : RecordsetBase(std::move(ouverte), tableModifiable)
     , m_avecRowid(avecRowid)
 {
     Instruction instruction(base(), sql);

@@ -2,8 +2,8 @@
 
 namespace store {
 
-RecordsetTable::RecordsetTable(std::shared_ptr<Moteur> moteur, const Table *tableOuverte)
-    : RecordsetBase(std::move(moteur), tableOuverte)
+RecordsetTable::RecordsetTable(std::shared_ptr<BaseOuverte> ouverte, const Table *tableOuverte)
+    : RecordsetBase(std::move(ouverte), tableOuverte)
     , m_selection(u"select rowid, * from [%1] "_qs.arg(tableOuverte->nom))
     , m_ordre(u" order by rowid"_qs)
 {

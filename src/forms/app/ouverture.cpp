@@ -78,7 +78,7 @@ QString remedie(const Contexte &contexte, const Erreur &erreur)
 
 void OuvreBase(const Contexte &contexte)
 {
-    contexte.partage.EspaceTravail = &contexte.partage.moteur.Workspaces(0);
+    contexte.partage.EspaceTravail = &contexte.partage.moteurBase.Workspaces(0);
     AbandonneRestauration(contexte.partage.DossierProgramme);
     QStringList nouvelles;
     // Each remedy takes away what it stands against, so that the next one meets something else.

@@ -4,7 +4,7 @@
 #include "donnees/equipes.h"
 #include "grille/flexgrid.h"
 #include "partage/partage.h"
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 #include "store/passe_erreur.h"
 
 #include <algorithm>
@@ -33,13 +33,13 @@ const QString bat = u" bat "_qs;
 class FeuilleDetail
 {
 public:
-    FeuilleDetail(const Contexte &contexte, Cadre &cadre, Orientation orientation)
+    FeuilleDetail(const Contexte &contexte, Feuille &feuille, Orientation orientation)
         : m_partage(contexte.partage)
-        , m_cadre(cadre)
-        , m_papier(cadre.papier())
+        , m_feuille(feuille)
+        , m_papier(feuille.papier())
         , m_orientation(orientation)
     {
-        m_cadre.setEntete([this] { entete(); });
+        m_feuille.setEntete([this] { entete(); });
     }
 
     void equipes();
@@ -49,13 +49,13 @@ private:
     void entete();
     void equipe(std::span<const donnees::Membre> membres);
     void tour(const QString &nom);
-    void membresDuGagnant(const QString &phrase, MembresMontres montres);
+    void membresDeLaPhrase(const QString &phrase, MembresMontres montres);
     void membres(const QString &phrase);
     void ligneMembre(const QString &puce, const donnees::Membre &membre, const QString &club);
     QString clubConnu(const donnees::Membre &membre) const;
 
     Partage &m_partage;
-    Cadre &m_cadre;
+    Feuille &m_feuille;
     Imprimante &m_papier;
     Orientation m_orientation;
     QString m_tour; ///< Name under which the current match stands.
@@ -64,8 +64,8 @@ private:
 void FeuilleDetail::entete()
 {
     m_papier.setOrientation(m_orientation);
-    m_cadre.ecritConcours(14, m_papier.Width() - 4500);
-    m_cadre.ecritTitre(18, 4000, u"Liste des équipes"_qs);
+    m_feuille.ecritConcours(14, m_papier.Width() - 4500);
+    m_feuille.ecritTitre(18, 4000, u"Liste des équipes"_qs);
     m_papier.FontSize = tailleTexte;
     m_papier.FontBold = false;
     m_papier.Print({});
@@ -84,13 +84,13 @@ QString FeuilleDetail::clubConnu(const donnees::Membre &membre) const
 
 void FeuilleDetail::ligneMembre(const QString &puce, const donnees::Membre &membre, const QString &club)
 {
-    m_cadre.ecritLigne(colonnesMembre, {puce + membre.nom + u' ' + membre.prenom, membre.licence, club});
-    m_cadre.saute();
+    m_feuille.ecritLigne(colonnesMembre, {puce + membre.nom + u' ' + membre.prenom, membre.licence, club});
+    m_feuille.saute();
 }
 
 void FeuilleDetail::equipes()
 {
-    m_cadre.commence();
+    m_feuille.commence();
     PasseErreur([&] {
         const std::vector<donnees::Membre> joueurs =
             donnees::MembresDuConcours(m_partage.BaseDonnees, m_partage.ConcoursCourant);
@@ -98,7 +98,7 @@ void FeuilleDetail::equipes()
         for (std::size_t i = 0; i < joueurs.size(); i += pas)
             equipe(std::span(joueurs).subspan(i, std::min(pas, joueurs.size() - i)));
     });
-    m_cadre.termine();
+    m_feuille.termine();
 }
 
 /// The next players in the list, as many as a team has: a team that lacks one borrows from the team behind it.
@@ -106,7 +106,7 @@ void FeuilleDetail::equipe(std::span<const donnees::Membre> membres)
 {
     m_papier.FontSize = tailleTexte;
     m_papier.CurrentY += avantMembre;
-    m_cadre.ecrit(gauchePhrase, QString::number(membres.front().equipe), colonnesMembre.front() - ecartNumero);
+    m_feuille.ecrit(gauchePhrase, QString::number(membres.front().equipe), colonnesMembre.front() - ecartNumero);
     for (const donnees::Membre &membre : membres) {
         const QString club = clubConnu(membre);
         ligneMembre(u"- "_qs, membre, donnees::EstPanache(club) ? u"."_qs : club);
@@ -116,21 +116,21 @@ void FeuilleDetail::equipe(std::span<const donnees::Membre> membres)
 
 void FeuilleDetail::palmares(const ZonePalmares &zone, MembresMontres montres)
 {
-    m_cadre.commence();
+    m_feuille.commence();
     for (int ligne = zone.premiere; ligne <= zone.derniere; ++ligne) {
         const QString nomTour = zone.grille.TextMatrix(ligne, 0);
         const QString phrase = zone.grille.TextMatrix(ligne, 1);
         // A round and its first match stay together, and above the footer.
         if (!nomTour.isEmpty())
-            m_cadre.garde(hauteurTour);
+            m_feuille.garde(hauteurTour);
         m_papier.CurrentY += avantLigne;
         if (!nomTour.isEmpty())
             tour(nomTour);
-        m_cadre.ecritRencontre(gauchePhrase, phrase, zone.grille.TextMatrix(ligne, 2), margeScore);
-        PasseErreur([&] { membresDuGagnant(phrase, montres); });
-        m_cadre.saute();
+        m_feuille.ecritRencontre(gauchePhrase, phrase, zone.grille.TextMatrix(ligne, 2), margeScore);
+        PasseErreur([&] { membresDeLaPhrase(phrase, montres); });
+        m_feuille.saute();
     }
-    m_cadre.termine();
+    m_feuille.termine();
 }
 
 void FeuilleDetail::tour(const QString &nom)
@@ -143,7 +143,7 @@ void FeuilleDetail::tour(const QString &nom)
     m_papier.FontBold = false;
 }
 
-void FeuilleDetail::membresDuGagnant(const QString &phrase, MembresMontres montres)
+void FeuilleDetail::membresDeLaPhrase(const QString &phrase, MembresMontres montres)
 {
     if (phrase.contains(bat)) {
         const QStringList cotes = phrase.split(bat);
@@ -174,19 +174,19 @@ void FeuilleDetail::membres(const QString &phrase)
 
 bool ImprimeDetail(const Contexte &contexte)
 {
-    const std::unique_ptr<Cadre> cadre = Cadre::ouvre(contexte);
-    if (cadre == nullptr)
+    const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte);
+    if (feuille == nullptr)
         return false;
-    FeuilleDetail(contexte, *cadre, Orientation::Portrait).equipes();
+    FeuilleDetail(contexte, *feuille, Orientation::Portrait).equipes();
     return true;
 }
 
 bool ImprimeDetail(const Contexte &contexte, const ZonePalmares &zone, MembresMontres montres)
 {
-    const std::unique_ptr<Cadre> cadre = Cadre::ouvre(contexte);
-    if (cadre == nullptr)
+    const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte);
+    if (feuille == nullptr)
         return false;
-    FeuilleDetail(contexte, *cadre, zone.paysage ? Orientation::Paysage : Orientation::Portrait)
+    FeuilleDetail(contexte, *feuille, zone.paysage ? Orientation::Paysage : Orientation::Portrait)
         .palmares(zone, montres);
     return true;
 }

@@ -3,7 +3,7 @@
 #include "donnees/equipes.h"
 #include "grille/flexgrid.h"
 #include "partage/partage.h"
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 #include "store/passe_erreur.h"
 
 #include <algorithm>
@@ -58,15 +58,15 @@ struct Rangee
 class FeuilleEquipe
 {
 public:
-    FeuilleEquipe(const Contexte &contexte, Cadre &cadre, QString texte, GenreFeuille genre, bool avecNoms)
+    FeuilleEquipe(const Contexte &contexte, Feuille &feuille, QString texte, GenreFeuille genre, bool avecNoms)
         : m_partage(contexte.partage)
-        , m_cadre(cadre)
-        , m_papier(cadre.papier())
+        , m_feuille(feuille)
+        , m_papier(feuille.papier())
         , m_texte(std::move(texte))
         , m_genre(genre)
         , m_numero(avecNoms || genre == GenreFeuille::Club ? 0 : numeroDe(m_texte))
     {
-        m_cadre.setEntete([this] { m_papier.CurrentY = hautSuite; });
+        m_feuille.setEntete([this] { m_papier.CurrentY = hautSuite; });
     }
 
     void imprime(const FlexGrid &palmares);
@@ -87,7 +87,7 @@ private:
     void imprimeRangee(const Rangee &rangee);
 
     Partage &m_partage;
-    Cadre &m_cadre;
+    Feuille &m_feuille;
     Imprimante &m_papier;
     QString m_texte;
     GenreFeuille m_genre;
@@ -195,7 +195,7 @@ double FeuilleEquipe::tailleCommune(const QStringList &corps, const std::vector<
 {
     m_papier.FontSize = tailleTexte;
     const auto fait = [this](const QString &texte, int largeur) {
-        m_papier.FontSize = m_cadre.tailleQuiTient(texte, largeur);
+        m_papier.FontSize = m_feuille.tailleQuiTient(texte, largeur);
     };
     for (const Rangee &rangee : rangees) {
         for (const QString &ligne : rangee.phrase)
@@ -218,7 +218,7 @@ void FeuilleEquipe::imprime(const FlexGrid &palmares)
     imprimeCorps(corps);
     for (const Rangee &rangee : lignes)
         imprimeRangee(rangee);
-    m_cadre.termine();
+    m_feuille.termine();
 }
 
 void FeuilleEquipe::entete()
@@ -226,9 +226,9 @@ void FeuilleEquipe::entete()
     m_papier.FontSize = 18;
     m_papier.FontBold = false;
     m_papier.CurrentY = 20;
-    m_cadre.ecrit(300, m_partage.DateConcours + u' ' + m_partage.LieuConcours, m_papier.ScaleWidth());
+    m_feuille.ecrit(300, m_partage.DateConcours + u' ' + m_partage.LieuConcours, m_papier.ScaleWidth());
     m_papier.Print(finDeLigne + finDeLigne);
-    m_cadre.ecritTitre(20, gaucheTitre, titre());
+    m_feuille.ecritTitre(20, gaucheTitre, titre());
     m_papier.Print({});
     m_papier.FontSize = tailleTexte;
     m_papier.Print(finDeLigne);
@@ -240,12 +240,12 @@ void FeuilleEquipe::imprimeCorps(const QStringList &corps)
 {
     m_papier.FontItalic = true;
     for (const QString &ligne : corps) {
-        m_cadre.ecrit(0, ligne, m_papier.ScaleWidth());
+        m_feuille.ecrit(0, ligne, m_papier.ScaleWidth());
         m_papier.Print({});
-        m_cadre.saute();
+        m_feuille.saute();
     }
     m_papier.Print({});
-    m_cadre.saute();
+    m_feuille.saute();
     m_papier.FontItalic = false;
     m_papier.CurrentY += 100;
     m_papier.Line(0, m_papier.CurrentY, m_papier.Width(), m_papier.CurrentY);
@@ -262,12 +262,12 @@ void FeuilleEquipe::imprimeRangee(const Rangee &rangee)
         m_papier.FontBold = false;
     }
     for (const QString &ligne : rangee.phrase) {
-        m_cadre.ecrit(gauchePhrase, ligne, finPhrase());
+        m_feuille.ecrit(gauchePhrase, ligne, finPhrase());
         if (&ligne == &rangee.phrase.back())
-            m_cadre.ecrit(m_papier.Width() - margeScore, rangee.score, m_papier.ScaleWidth());
+            m_feuille.ecrit(m_papier.Width() - margeScore, rangee.score, m_papier.ScaleWidth());
         m_papier.Print({});
     }
-    m_cadre.saute();
+    m_feuille.saute();
 }
 
 } // namespace
@@ -275,6 +275,6 @@ void FeuilleEquipe::imprimeRangee(const Rangee &rangee)
 void ImprimeEquipe(const Contexte &contexte, const FlexGrid &palmares, bool avecNoms, const QString &texte,
                    GenreFeuille genre)
 {
-    if (const std::unique_ptr<Cadre> cadre = Cadre::ouvre(contexte, mise))
-        FeuilleEquipe(contexte, *cadre, texte, genre, avecNoms).imprime(palmares);
+    if (const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte, mise))
+        FeuilleEquipe(contexte, *feuille, texte, genre, avecNoms).imprime(palmares);
 }

@@ -2,7 +2,7 @@
 
 #include "grille/flexgrid.h"
 #include "noms/formes.h"
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 
 #include <algorithm>
 #include <vector>
@@ -24,9 +24,9 @@ constexpr MiseEnPage mise{.bordFin = MiseEnPage::Papier, .fin = 2015};
 class FeuilleListe
 {
 public:
-    FeuilleListe(Cadre &cadre, FlexGrid &grille, bool joueurs)
-        : m_cadre(cadre)
-        , m_papier(cadre.papier())
+    FeuilleListe(Feuille &feuille, FlexGrid &grille, bool joueurs)
+        : m_feuille(feuille)
+        , m_papier(feuille.papier())
         , m_grille(grille)
         , m_joueurs(joueurs)
     {
@@ -34,7 +34,7 @@ public:
         m_places = joueurs ? std::vector{150, 900, largeur - 7500, largeur - 6000, largeur - 3300, largeur - 2000}
                            : std::vector{400, 1500, 4500, 6000, largeur - 1500};
         m_places.resize(std::min(m_places.size(), std::size_t(grille.Cols())));
-        m_cadre.setEntete([this] { entete(); });
+        m_feuille.setEntete([this] { entete(); });
     }
 
     void imprime();
@@ -46,7 +46,7 @@ private:
     void ligne(int numero);
     void cellules(int numero);
 
-    Cadre &m_cadre;
+    Feuille &m_feuille;
     Imprimante &m_papier;
     FlexGrid &m_grille;
     bool m_joueurs;
@@ -82,14 +82,14 @@ void FeuilleListe::titreJoueurs()
     m_papier.CurrentX = 500;
     m_papier.CurrentY += 200;
     m_papier.Print(u"Logiciel VarloTour"_qs);
-    m_cadre.ecritTitre(tailleTitre, gaucheTitre, u"Liste des joueurs pré-enregistrés"_qs);
+    m_feuille.ecritTitre(tailleTitre, gaucheTitre, u"Liste des joueurs pré-enregistrés"_qs);
 }
 
 void FeuilleListe::titreInscriptions()
 {
-    m_cadre.ecritConcours(14, m_papier.Width() - 4500);
+    m_feuille.ecritConcours(14, m_papier.Width() - 4500);
     m_papier.CurrentY += 200;
-    m_cadre.ecritTitre(tailleTitre, gaucheTitre, u"Liste des inscriptions"_qs);
+    m_feuille.ecritTitre(tailleTitre, gaucheTitre, u"Liste des inscriptions"_qs);
     m_papier.CurrentY += 130;
 }
 
@@ -98,7 +98,7 @@ void FeuilleListe::cellules(int numero)
     QStringList textes;
     for (std::size_t c = 0; c < m_places.size(); ++c)
         textes += m_grille.TextMatrix(numero, int(c)).trimmed();
-    m_cadre.ecritLigne(m_places, textes);
+    m_feuille.ecritLigne(m_places, textes);
 }
 
 void FeuilleListe::ligne(int numero)
@@ -117,12 +117,12 @@ void FeuilleListe::imprime()
     if (derniere == 0)
         derniere = m_grille.Rows() - 1;
     m_papier.CurrentY = 0;
-    m_cadre.commence();
+    m_feuille.commence();
     for (int numero = std::max(premiere, 1); numero <= derniere; ++numero) {
-        m_cadre.saute(avantLigne + hauteurTexte);
+        m_feuille.saute(avantLigne + hauteurTexte);
         ligne(numero);
     }
-    m_cadre.termine();
+    m_feuille.termine();
     m_papier.FontBold = false;
 }
 
@@ -130,7 +130,7 @@ void FeuilleListe::imprime()
 
 void ImprimeListe(const Contexte &contexte, NomForme forme, FlexGrid &grille)
 {
-    const std::unique_ptr<Cadre> cadre = Cadre::ouvre(contexte, mise);
-    if (cadre != nullptr)
-        FeuilleListe(*cadre, grille, forme == formes::listjo).imprime();
+    const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte, mise);
+    if (feuille != nullptr)
+        FeuilleListe(*feuille, grille, forme == formes::listjo).imprime();
 }

@@ -1,7 +1,7 @@
 #include "printing/imprime_palmares.h"
 
 #include "grille/flexgrid.h"
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 
 namespace {
 
@@ -14,22 +14,22 @@ constexpr int avantTour = 150;
 constexpr int apresTour = 80;
 constexpr int hauteurLigne = 330;
 
-void entete(Cadre &cadre, Orientation orientation)
+void entete(Feuille &feuille, Orientation orientation)
 {
-    Imprimante &papier = cadre.papier();
+    Imprimante &papier = feuille.papier();
     papier.setOrientation(orientation);
-    cadre.ecritConcours(18, papier.Width() - 4500);
+    feuille.ecritConcours(18, papier.Width() - 4500);
     papier.FontSize = 14;
     papier.Print({});
 }
 
-void ligne(Cadre &cadre, const FlexGrid &grille, int numero)
+void ligne(Feuille &feuille, const FlexGrid &grille, int numero)
 {
-    Imprimante &papier = cadre.papier();
+    Imprimante &papier = feuille.papier();
     int gauche = gauchePhrase;
     const QString tour = grille.TextMatrix(numero, 0);
     if (!tour.isEmpty())
-        cadre.saute(avantLigne + avantTour + hauteurLigne);
+        feuille.saute(avantLigne + avantTour + hauteurLigne);
     papier.CurrentY += avantLigne;
     if (!tour.isEmpty()) {
         papier.FontBold = true;
@@ -40,21 +40,21 @@ void ligne(Cadre &cadre, const FlexGrid &grille, int numero)
         gauche = std::max(gauche, papier.CurrentX + apresTour);
     }
     papier.FontBold = false;
-    cadre.ecritRencontre(gauche, grille.TextMatrix(numero, 1), grille.TextMatrix(numero, 2), margeScore);
-    cadre.saute();
+    feuille.ecritRencontre(gauche, grille.TextMatrix(numero, 1), grille.TextMatrix(numero, 2), margeScore);
+    feuille.saute();
 }
 
 } // namespace
 
 bool ImprimePalmares(const Contexte &contexte, const ZonePalmares &zone)
 {
-    const std::unique_ptr<Cadre> cadre = Cadre::ouvre(contexte);
-    if (cadre == nullptr)
+    const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte);
+    if (feuille == nullptr)
         return false;
-    cadre->setEntete([&] { entete(*cadre, zone.paysage ? Orientation::Paysage : Orientation::Portrait); });
-    cadre->commence();
+    feuille->setEntete([&] { entete(*feuille, zone.paysage ? Orientation::Paysage : Orientation::Portrait); });
+    feuille->commence();
     for (int numero = zone.premiere; numero <= zone.derniere; ++numero)
-        ligne(*cadre, zone.grille, numero);
-    cadre->termine();
+        ligne(*feuille, zone.grille, numero);
+    feuille->termine();
     return true;
 }

@@ -6,7 +6,7 @@
 #include "engine/rangs.h"
 #include "engine/routines_tirage.h"
 #include "partage/routines.h"
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 #include "store/passe_erreur.h"
 
 #include <array>
@@ -35,15 +35,15 @@ constexpr MiseEnPage mise{.bordFin = MiseEnPage::Papier, .pied = 800};
 class FeuilleTirage
 {
 public:
-    FeuilleTirage(const Contexte &contexte, Cadre &cadre, ModeTirage mode, QString titre, QString etat)
+    FeuilleTirage(const Contexte &contexte, Feuille &feuille, ModeTirage mode, QString titre, QString etat)
         : m_contexte(contexte)
-        , m_cadre(cadre)
-        , m_papier(cadre.papier())
+        , m_feuille(feuille)
+        , m_papier(feuille.papier())
         , m_mode(mode)
         , m_titre(std::move(titre))
         , m_etat(std::move(etat))
     {
-        m_cadre.setEntete([this] { entete(); });
+        m_feuille.setEntete([this] { entete(); });
     }
 
     void tirage(int tour);
@@ -61,7 +61,7 @@ private:
     QString noteClub(const QString &licence) const;
 
     const Contexte &m_contexte;
-    Cadre &m_cadre;
+    Feuille &m_feuille;
     Imprimante &m_papier;
     ModeTirage m_mode;
     QString m_titre;
@@ -71,8 +71,8 @@ private:
 void FeuilleTirage::entete()
 {
     m_papier.setOrientation(Orientation::Portrait);
-    m_cadre.ecritConcours(18, m_papier.ScaleWidth() - 4500);
-    m_cadre.ecritTitre(28, 2800, m_titre);
+    m_feuille.ecritConcours(18, m_papier.ScaleWidth() - 4500);
+    m_feuille.ecritTitre(28, 2800, m_titre);
     m_papier.FontSize = 14;
     m_papier.Print({});
     if (m_mode == ModeTirage::Tirage) {
@@ -80,7 +80,7 @@ void FeuilleTirage::entete()
         m_papier.Print(u"Terrain"_qs, false);
     } else {
         m_papier.FontItalic = true;
-        m_cadre.ecrit(traitGauche, m_etat, m_papier.ScaleWidth());
+        m_feuille.ecrit(traitGauche, m_etat, m_papier.ScaleWidth());
         m_papier.Print({});
         m_papier.FontItalic = false;
     }
@@ -94,8 +94,8 @@ void FeuilleTirage::titresColonnes()
     trait();
     m_papier.CurrentY += 120;
     if (m_mode == ModeTirage::Classement)
-        m_cadre.ecritLigne(colonnes,
-                           {u"Clt  "_qs, u"Equipe"_qs, u"J"_qs, u"G"_qs, u"P"_qs, u"Pp"_qs, u"Pc"_qs, u"Ga"_qs});
+        m_feuille.ecritLigne(colonnes,
+                             {u"Clt  "_qs, u"Equipe"_qs, u"J"_qs, u"G"_qs, u"P"_qs, u"Pp"_qs, u"Pc"_qs, u"Ga"_qs});
     trait();
     m_papier.CurrentY += 40;
     trait();
@@ -111,7 +111,7 @@ QString FeuilleTirage::clubDe(qint64 equipe) const
 void FeuilleTirage::tirage(int tour)
 {
     Partage &partage = m_contexte.partage;
-    m_cadre.commence();
+    m_feuille.commence();
     const std::vector<donnees::Rencontre> rencontres =
         donnees::RencontresDuTour(partage.BaseDonnees, partage.ConcoursCourant, tour, donnees::OrdreDuTour::Tirage);
     if (!rencontres.empty()) {
@@ -121,15 +121,15 @@ void FeuilleTirage::tirage(int tour)
         bool premiere = true;
         for (const donnees::Rencontre &jouee : rencontres) {
             if (!premiere) {
-                m_cadre.saute(pasRencontre + hauteurRencontre);
+                m_feuille.saute(pasRencontre + hauteurRencontre);
                 m_papier.CurrentY += pasRencontre;
             }
             premiere = false;
             PasseErreur([&] { rencontre(jouee.equipe1, jouee.equipe2); });
         }
-        m_cadre.saute();
+        m_feuille.saute();
     }
-    m_cadre.termine();
+    m_feuille.termine();
 }
 
 void FeuilleTirage::rencontre(qint64 equipe1, qint64 equipe2)
@@ -156,12 +156,12 @@ void FeuilleTirage::cote(int x, const QString &numero, const QString &club, int 
     m_papier.CurrentY += 200;
     m_papier.FontSize = 14;
     m_papier.FontBold = false;
-    m_cadre.ecrit(m_papier.CurrentX, club, fin);
+    m_feuille.ecrit(m_papier.CurrentX, club, fin);
 }
 
 void FeuilleTirage::classement(bool detail)
 {
-    m_cadre.commence();
+    m_feuille.commence();
     m_papier.CurrentY += 550;
     const std::vector<moteur::LigneClassement> rangs = LitClassement(m_contexte.partage);
     const std::vector<std::optional<int>> positions = moteur::positionsParNiveau(rangs);
@@ -170,37 +170,37 @@ void FeuilleTirage::classement(bool detail)
         if (detail)
             PasseErreur([&] { joueurs = membres(rangs[i].equipe); });
         if (i > 0) {
-            m_cadre.saute(pasRang + hauteurRang);
+            m_feuille.saute(pasRang + hauteurRang);
             // A team and its players stand on one page.
             if (!joueurs.empty())
-                m_cadre.garde(2 * pasRang + hauteurRang + int(joueurs.size() - 1) * hauteurMembre);
+                m_feuille.garde(2 * pasRang + hauteurRang + int(joueurs.size() - 1) * hauteurMembre);
             m_papier.CurrentY += pasRang;
         }
         PasseErreur([&] { ligne(rangs[i], positions[i]); });
         if (detail)
             imprimeMembres(joueurs);
     }
-    m_cadre.saute();
-    m_cadre.termine();
+    m_feuille.saute();
+    m_feuille.termine();
 }
 
 /// The dash has a place of its own: the blanks that align a position are narrower than its figures.
 void FeuilleTirage::ligne(const moteur::LigneClassement &rang, const std::optional<int> &position)
 {
     if (position)
-        m_cadre.ecrit(colonnes[0], *position < 100 ? aligneDroite(*position, 4) : QString::number(*position),
-                      finPosition);
-    m_cadre.ecrit(gaucheTiret, u"-"_qs, colonnes[1]);
-    m_cadre.ecrit(colonnes[1], aligneDroite(rang.equipe, 4), colonnes[2]);
+        m_feuille.ecrit(colonnes[0], *position < 100 ? aligneDroite(*position, 4) : QString::number(*position),
+                        finPosition);
+    m_feuille.ecrit(gaucheTiret, u"-"_qs, colonnes[1]);
+    m_feuille.ecrit(colonnes[1], aligneDroite(rang.equipe, 4), colonnes[2]);
     m_papier.FontSize = 10;
-    m_cadre.ecrit(m_papier.CurrentX, clubDe(rang.equipe), colonnes[2] - ecartTextes);
+    m_feuille.ecrit(m_papier.CurrentX, clubDe(rang.equipe), colonnes[2] - ecartTextes);
     m_papier.FontSize = 14;
     const auto points = [](const std::optional<int> &nombre) {
         return aligneDroite(nombre ? QString::number(*nombre) : QString(), 4);
     };
-    m_cadre.ecritLigne(std::span(colonnes).subspan(2),
-                       {aligneDroite(rang.gagnées + rang.perdues, 2), aligneDroite(rang.gagnées, 2),
-                        aligneDroite(rang.perdues, 2), points(rang.pp), points(rang.pc), points(rang.ga)});
+    m_feuille.ecritLigne(std::span(colonnes).subspan(2),
+                         {aligneDroite(rang.gagnées + rang.perdues, 2), aligneDroite(rang.gagnées, 2),
+                          aligneDroite(rang.perdues, 2), points(rang.pp), points(rang.pc), points(rang.ga)});
 }
 
 /// A line for each player of a team.
@@ -224,9 +224,9 @@ void FeuilleTirage::imprimeMembres(const QStringList &joueurs)
     m_papier.FontSize = 12;
     m_papier.FontBold = false;
     for (const QString &joueur : joueurs) {
-        m_cadre.ecrit(gaucheMembre, joueur, m_papier.ScaleWidth());
+        m_feuille.ecrit(gaucheMembre, joueur, m_papier.ScaleWidth());
         m_papier.Print({});
-        m_cadre.saute();
+        m_feuille.saute();
     }
     m_papier.FontSize = 14;
     m_papier.FontBold = gras;
@@ -247,13 +247,13 @@ QString FeuilleTirage::noteClub(const QString &licence) const
 
 void ImprimeTirage(const Contexte &contexte, ModeTirage mode, bool detail, int tour, const QString &etat)
 {
-    const std::unique_ptr<Cadre> cadre = Cadre::ouvre(contexte, mise);
-    if (cadre == nullptr)
+    const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte, mise);
+    if (feuille == nullptr)
         return;
     const QString titre = mode == ModeTirage::Tirage ? u"Tour N° "_qs + QString::number(tour) : u"Classement"_qs;
-    FeuilleTirage feuille(contexte, *cadre, mode, titre, etat);
+    FeuilleTirage contenu(contexte, *feuille, mode, titre, etat);
     if (mode == ModeTirage::Tirage)
-        feuille.tirage(tour);
+        contenu.tirage(tour);
     else
-        feuille.classement(detail);
+        contenu.classement(detail);
 }

@@ -38,7 +38,7 @@ QString enCapitales(const QString &texte)
     return mots.join(u' ');
 }
 
-QString cadre(const QString &texte, int largeur)
+QString feuille(const QString &texte, int largeur)
 {
     return texte.leftJustified(largeur, u' ', true);
 }
@@ -161,8 +161,8 @@ void palmares::charge()
         if (tour == 1) {
             effaceSelection(grille);
             grille.move(enPixels(gaucheGrille), enPixels(hautGrille));
-            grille.setFormatString(u'<' + cadre(enCapitales(mes(98)), 15) + u"|<"_qs + cadre(mes(2), 20) + u"|<"_qs
-                                   + cadre(mes(4), 10));
+            grille.setFormatString(u'<' + feuille(enCapitales(mes(98)), 15) + u"|<"_qs + feuille(mes(2), 20) + u"|<"_qs
+                                   + feuille(mes(4), 10));
             prepareGrille(grille);
         }
         ajouteTour(grille, tour);

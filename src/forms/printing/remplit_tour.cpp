@@ -5,7 +5,7 @@
 #include "grille/flexgrid.h"
 #include "partage/partage.h"
 #include "partage/routines.h"
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 
 namespace {
 

@@ -12,7 +12,7 @@ constexpr int largeurJoueur = 40;
 constexpr int largeurLicence = 15;
 constexpr int retraitMembre = 50;
 
-QString cadre(const QString &texte, int largeur)
+QString complete(const QString &texte, int largeur)
 {
     return texte.leftJustified(largeur, u' ', true);
 }
@@ -24,14 +24,14 @@ const QString FichierEquipes::nom = QStringLiteral("listEquipes.csv");
 void FichierEquipes::titres(const QString &equipe, const QString &societe, const QString &joueur,
                             const QString &licence)
 {
-    ligne(cadre(equipe, largeurTitreEquipe) + cadre(societe, largeurSociete) + cadre(joueur, largeurJoueur)
-          + cadre(licence, largeurLicence));
+    ligne(complete(equipe, largeurTitreEquipe) + complete(societe, largeurSociete) + complete(joueur, largeurJoueur)
+          + complete(licence, largeurLicence));
 }
 
 void FichierEquipes::membre(const QString &joueur, const QString &licence, const QString &equipe, const QString &club)
 {
-    ligne(QString(retraitMembre, u' ') + cadre(joueur, largeurJoueur) + cadre(licence, largeurLicence));
-    ligne(cadre(equipe, largeurEquipe) + cadre(club, largeurSociete));
+    ligne(QString(retraitMembre, u' ') + complete(joueur, largeurJoueur) + complete(licence, largeurLicence));
+    ligne(complete(equipe, largeurEquipe) + complete(club, largeurSociete));
 }
 
 QString FichierEquipes::ecrit(const QString &chemin) const

@@ -34,7 +34,7 @@ protected:
     void oublieTris() { m_tris.clear(); }
 
     /// \p titre followed by blanks, or cut, to \p largeur columns.
-    static QString cadre(const QString &titre, int largeur) { return titre.leftJustified(largeur, u' ', true); }
+    static QString complete(const QString &titre, int largeur) { return titre.leftJustified(largeur, u' ', true); }
 
 private:
     struct Tri

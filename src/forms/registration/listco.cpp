@@ -24,8 +24,8 @@ void Listco::LegendesListco()
 
 QString Listco::format() const
 {
-    return cadre(mes(1), 15) + u"|<"_qs + cadre(mes(7), 20) + u"|<"_qs + cadre(mes(8), 55) + u"|<"_qs
-        + cadre(mes(10), 30) + u"|<"_qs + cadre(u"Catégorie"_qs, 30);
+    return complete(mes(1), 15) + u"|<"_qs + complete(mes(7), 20) + u"|<"_qs + complete(mes(8), 55) + u"|<"_qs
+        + complete(mes(10), 30) + u"|<"_qs + complete(u"Catégorie"_qs, 30);
 }
 
 void Listco::Form_Load()

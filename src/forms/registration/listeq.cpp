@@ -63,8 +63,8 @@ void listeq::LegendesListeq()
 
 QString listeq::format() const
 {
-    return u'<' + cadre(mes(17), 7) + u"|<"_qs + cadre(mes(19) + u'-' + mes(20), 40) + u"|<"_qs + cadre(mes(21), 15)
-        + u"|<"_qs + cadre(mes(18), 30);
+    return u'<' + complete(mes(17), 7) + u"|<"_qs + complete(mes(19) + u'-' + mes(20), 40) + u"|<"_qs
+        + complete(mes(21), 15) + u"|<"_qs + complete(mes(18), 30);
 }
 
 void listeq::Form_Activate()

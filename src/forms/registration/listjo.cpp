@@ -51,8 +51,8 @@ void listjo::Form_Load()
 
 QString listjo::format() const
 {
-    return u"< N° |<"_qs + cadre(mes(19) + u'-' + mes(20), 40) + u"|<"_qs + cadre(mes(21), 15) + u"|<"_qs
-        + cadre(mes(18), 30) + u"|<Date nais.     |<Sexe"_qs;
+    return u"< N° |<"_qs + complete(mes(19) + u'-' + mes(20), 40) + u"|<"_qs + complete(mes(21), 15) + u"|<"_qs
+        + complete(mes(18), 30) + u"|<Date nais.     |<Sexe"_qs;
 }
 
 QString listjo::clubRetenu() const

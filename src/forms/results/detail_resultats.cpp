@@ -24,7 +24,7 @@ void DetailResultats::placePres(const Formulaire &saisie)
 {
     const QRect zone = formulaires().zoneLibre();
     Move(gaucheLibre(saisie, saisie.Left() - Width()), enTwips(zone.top()));
-    setFixedHeight(zone.height() - formulaires().cadre(*this).height());
+    setFixedHeight(zone.height() - formulaires().tailleCadre(*this).height());
     m_ui->scores->resize(m_ui->scores->width(), height() - m_ui->scores->y() - m_ui->scores->x());
 }
 

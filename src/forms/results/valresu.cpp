@@ -81,7 +81,7 @@ void valresu::ajusteLargeur()
         colonnes += grille.LargeurAffichee(colonne);
     const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
     const int largeur = std::max(largeurGrille, colonnes + cadre);
-    const int libre = enPixels(largeurLibre) - formulaires().cadre(*this).width();
+    const int libre = enPixels(largeurLibre) - formulaires().tailleCadre(*this).width();
     const int marge = std::clamp((libre - largeur) / 2, 0, gaucheGrille);
     grille.setGeometry(marge, marge, largeur, height() - 2 * marge);
     if (minimumWidth() != largeur + 2 * marge) {
@@ -96,7 +96,7 @@ void valresu::placePres(const Formulaire &saisie)
 {
     const QRect zone = formulaires().zoneLibre();
     // The size that was asked for: the desktop may still be carrying out an earlier one.
-    const QSize cadre = formulaires().cadre(*this);
+    const QSize cadre = formulaires().tailleCadre(*this);
     const int largeur = enTwips(minimumWidth() + cadre.width());
     const int droite = std::min(saisie.Left() + saisie.Width(), Ecran::Width() - largeur);
     const bool tient = droite >= saisie.Left() + saisie.Width() - enTwips(margeSaisie + cadre.width() / 2);

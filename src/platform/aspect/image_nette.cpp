@@ -19,11 +19,11 @@ void ImageNette::setEtiree(bool etiree)
 
 void ImageNette::paintEvent(QPaintEvent *)
 {
-    QRectF cadre = rect();
+    QRectF place = rect();
     if (!m_etiree) {
         const QSizeF taille = m_dessin.defaultSize();
-        cadre = QRectF((width() - taille.width()) / 2, height() - taille.height(), taille.width(), taille.height());
+        place = QRectF((width() - taille.width()) / 2, height() - taille.height(), taille.width(), taille.height());
     }
     QPainter peintre(this);
-    m_dessin.render(&peintre, cadre);
+    m_dessin.render(&peintre, place);
 }

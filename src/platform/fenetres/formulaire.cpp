@@ -99,7 +99,7 @@ int Formulaire::Top() const
 
 QSize Formulaire::tailleCadre() const
 {
-    return formulaires().cadre(*this);
+    return formulaires().tailleCadre(*this);
 }
 
 int Formulaire::Width() const

@@ -113,7 +113,7 @@ void Formulaires::MontreSansFocus(NomForme nom)
         devant->activateWindow();
 }
 
-QSize Formulaires::cadre(const QWidget &fenetre)
+QSize Formulaires::tailleCadre(const QWidget &fenetre)
 {
     for (const QWidget *modele : {&fenetre, static_cast<const QWidget *>(m_devant)}) {
         if (const QSize sien = modele == nullptr ? QSize(0, 0) : bordures(*modele); !sien.isNull())

@@ -56,7 +56,7 @@ public:
 
     /// What the desktop's frame adds to the size of a window, in pixels. A desktop gives a window its frame once the
     /// window stands; until then what it gave to others counts.
-    QSize cadre(const QWidget &fenetre);
+    QSize tailleCadre(const QWidget &fenetre);
     /// The same of a window that stands, null as long as it has no frame.
     static QSize bordures(const QWidget &fenetre);
     /// What of the desktop the menus and buttons of the main window and the desktop's own bars leave free, in pixels.

@@ -29,9 +29,9 @@ public:
         if (!option.state.testFlag(QStyle::State_Selected) || !index.data(Qt::BackgroundRole).isValid())
             return;
         const QColor choix = option.palette.color(QPalette::Highlight);
-        const QRect &cadre = option.rect;
-        peintre->fillRect(QRect(cadre.topLeft(), QSize(cadre.width(), TraitChoix)), choix);
-        peintre->fillRect(cadre.adjusted(0, cadre.height() - TraitChoix, 0, 0), choix);
+        const QRect &contour = option.rect;
+        peintre->fillRect(QRect(contour.topLeft(), QSize(contour.width(), TraitChoix)), choix);
+        peintre->fillRect(contour.adjusted(0, contour.height() - TraitChoix, 0, 0), choix);
     }
 
 protected:

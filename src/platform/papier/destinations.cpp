@@ -110,9 +110,12 @@ QMargins DestinationImprimante::marges() const
     QPageLayout disposition = m_imprimante->pageLayout();
     disposition.setUnits(QPageLayout::Point);
     const QMarginsF points = disposition.minimumMargins();
-    const auto enTwips = [](double valeur, int auMoins) { return std::max(int(std::lround(valeur * 20)), auMoins); };
-    return {enTwips(points.left(), margesHabituelles.left()), enTwips(points.top(), margesHabituelles.top()),
-            enTwips(points.right(), margesHabituelles.right()), enTwips(points.bottom(), margesHabituelles.bottom())};
+    const auto margeEnTwips = [](double valeur, int auMoins) {
+        return std::max(int(std::lround(valeur * 20)), auMoins);
+    };
+    return {margeEnTwips(points.left(), margesHabituelles.left()), margeEnTwips(points.top(), margesHabituelles.top()),
+            margeEnTwips(points.right(), margesHabituelles.right()),
+            margeEnTwips(points.bottom(), margesHabituelles.bottom())};
 }
 
 int DestinationImprimante::copies() const

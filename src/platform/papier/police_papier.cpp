@@ -7,7 +7,7 @@ namespace {
 constexpr int twipsParPoint = 20;
 
 /// One pixel stands for one twip, so that the measures of the font are twips.
-QFont enTwips(const QString &famille, double points, bool gras, bool italique)
+QFont policeEnTwips(const QString &famille, double points, bool gras, bool italique)
 {
     QFont police(famille);
     police.setStyleHint(QFont::Serif);
@@ -22,7 +22,7 @@ QFont enTwips(const QString &famille, double points, bool gras, bool italique)
 } // namespace
 
 PolicePapier::PolicePapier(const QString &famille, double points, bool gras, bool italique)
-    : m_police(enTwips(famille, points, gras, italique))
+    : m_police(policeEnTwips(famille, points, gras, italique))
     , m_mesures(m_police)
 {
 }

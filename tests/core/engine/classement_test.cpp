@@ -6,11 +6,11 @@
 #include <map>
 
 using moteur::LigneClassement;
-using moteur::Rencontre;
+using moteur::Partie;
 
 namespace {
 
-std::map<int, LigneClassement> classe(const std::vector<Rencontre> &rencontres, quint32 graine = 1)
+std::map<int, LigneClassement> classe(const std::vector<Partie> &rencontres, quint32 graine = 1)
 {
     AleaFixe alea(graine);
     std::map<int, LigneClassement> lignes;

@@ -8,7 +8,7 @@
 namespace essai {
 
 using moteur::LigneClassement;
-using moteur::Rencontre;
+using moteur::Partie;
 
 std::vector<moteur::EquipeInscrite> inscrit(int nombre, const Melange &melange, std::mt19937 &sort)
 {
@@ -47,7 +47,7 @@ bool Concours::joueTour(const Saisie &saisie)
             return false;
         tireSuivant();
     }
-    for (Rencontre &rencontre : m_rencontres) {
+    for (Partie &rencontre : m_rencontres) {
         if (rencontre.tour == m_tourpri && rencontre.equipe2 > 0)
             saisitResultat(rencontre, saisie);
     }
@@ -70,7 +70,7 @@ void Concours::tireSuivant()
     std::ranges::copy(moteur::rencontresDuTour(table, lignes, m_tourpri), std::back_inserter(m_rencontres));
 }
 
-void Concours::saisitResultat(Rencontre &rencontre, const Saisie &saisie)
+void Concours::saisitResultat(Partie &rencontre, const Saisie &saisie)
 {
     int gagnant = 13;
     int perdant = int(m_sort() % 13);
@@ -83,10 +83,10 @@ void Concours::saisitResultat(Rencontre &rencontre, const Saisie &saisie)
     rencontre.score2 = premiere ? perdant : gagnant;
 }
 
-std::vector<Rencontre> Concours::rencontres() const
+std::vector<Partie> Concours::rencontres() const
 {
-    std::vector<Rencontre> triees = m_rencontres;
-    std::ranges::stable_sort(triees, {}, [](const Rencontre &r) { return std::tuple(r.tour, r.equipe1); });
+    std::vector<Partie> triees = m_rencontres;
+    std::ranges::stable_sort(triees, {}, [](const Partie &r) { return std::tuple(r.tour, r.equipe1); });
     return triees;
 }
 
@@ -106,7 +106,7 @@ std::vector<QString> Concours::clubs(const std::vector<LigneClassement> &classem
 std::vector<moteur::PaireJouee> Concours::jouees() const
 {
     std::vector<moteur::PaireJouee> paires;
-    for (const Rencontre &rencontre : m_rencontres)
+    for (const Partie &rencontre : m_rencontres)
         paires.push_back({rencontre.equipe1, rencontre.equipe2});
     return paires;
 }

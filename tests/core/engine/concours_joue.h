@@ -40,7 +40,7 @@ public:
     bool repeche() const { return m_repeche; }
     const std::vector<moteur::EquipeInscrite> &equipes() const { return m_equipes; }
     /// All matches, by round and first team.
-    std::vector<moteur::Rencontre> rencontres() const;
+    std::vector<moteur::Partie> rencontres() const;
     /// Ranking, clubs in its order and meetings, as a draw of the next round reads them.
     std::vector<moteur::LigneClassement> classement();
     std::vector<QString> clubs(const std::vector<moteur::LigneClassement> &classement) const;
@@ -48,7 +48,7 @@ public:
 
 private:
     void tireSuivant();
-    void saisitResultat(moteur::Rencontre &rencontre, const Saisie &saisie);
+    void saisitResultat(moteur::Partie &rencontre, const Saisie &saisie);
     bool chance(int pourcent) { return int(m_sort() % 100) < pourcent; }
 
     std::vector<moteur::EquipeInscrite> m_equipes;
@@ -56,7 +56,7 @@ private:
     AleaFixe m_alea;
     std::mt19937 m_sort;
     int m_tourpri = 0;
-    std::vector<moteur::Rencontre> m_rencontres;
+    std::vector<moteur::Partie> m_rencontres;
 };
 
 } // namespace essai

@@ -59,7 +59,7 @@ TEST(ControleTours, RencontresAEcrire)
                                                              {.equipe = 4, .repechage = 1},
                                                              {.equipe = 7, .repechage = 0},
                                                              {.equipe = 6, .repechage = 1}};
-    const std::vector<moteur::Rencontre> attendues = {
+    const std::vector<moteur::Partie> attendues = {
         {.tour = 4, .equipe1 = 8, .equipe2 = 3, .repechage = 2},
         {.tour = 4, .equipe1 = 4, .equipe2 = 7, .repechage = 1},
         {.tour = 4, .equipe1 = 1, .equipe2 = 2, .repechage = 2}, // the second side has the last word

@@ -334,7 +334,7 @@ moteur::TabTirage tirageSuivant(const moteur::DonneesTirage &donnees, Journal &j
     return Modele(donnees, journal).tire();
 }
 
-std::vector<moteur::Rencontre> tirageTour1(const std::vector<moteur::EquipeInscrite> &equipes, SourceAleatoire &alea)
+std::vector<moteur::Partie> tirageTour1(const std::vector<moteur::EquipeInscrite> &equipes, SourceAleatoire &alea)
 {
     const int n = int(equipes.size());
     if (n <= 1)
@@ -373,7 +373,7 @@ std::vector<moteur::Rencontre> tirageTour1(const std::vector<moteur::EquipeInscr
         }
     }
 
-    std::vector<moteur::Rencontre> rencontres;
+    std::vector<moteur::Partie> rencontres;
     for (std::size_t i = 0; i <= fin; ++i) {
         const bool exempt = n % 2 == 1 && i == fin;
         rencontres.push_back({.tour = 1,

@@ -32,6 +32,6 @@ struct Journal
 
 moteur::TabTirage tirageSuivant(const moteur::DonneesTirage &donnees, Journal &journal);
 
-std::vector<moteur::Rencontre> tirageTour1(const std::vector<moteur::EquipeInscrite> &equipes, SourceAleatoire &alea);
+std::vector<moteur::Partie> tirageTour1(const std::vector<moteur::EquipeInscrite> &equipes, SourceAleatoire &alea);
 
 } // namespace modele

@@ -7,11 +7,11 @@
 #include <map>
 
 using moteur::EquipeInscrite;
-using moteur::Rencontre;
+using moteur::Partie;
 
 namespace {
 
-std::vector<Rencontre> tire(const std::vector<EquipeInscrite> &equipes, quint32 graine)
+std::vector<Partie> tire(const std::vector<EquipeInscrite> &equipes, quint32 graine)
 {
     AleaFixe alea(graine);
     return moteur::tireTour1(equipes, moteur::pasDExempt, alea);
@@ -25,19 +25,19 @@ std::vector<EquipeInscrite> deClubs(const std::vector<QString> &clubs)
     return equipes;
 }
 
-int memeClub(const std::vector<Rencontre> &rencontres, const std::vector<EquipeInscrite> &equipes)
+int memeClub(const std::vector<Partie> &rencontres, const std::vector<EquipeInscrite> &equipes)
 {
-    return int(std::ranges::count_if(rencontres, [&](const Rencontre &r) {
+    return int(std::ranges::count_if(rencontres, [&](const Partie &r) {
         return r.equipe2 > 0
             && equipes[std::size_t(r.equipe1) - 1].club.toUpper() == equipes[std::size_t(r.equipe2) - 1].club.toUpper();
     }));
 }
 
 /// How often each team stands in a match.
-std::map<int, int> presences(const std::vector<Rencontre> &rencontres)
+std::map<int, int> presences(const std::vector<Partie> &rencontres)
 {
     std::map<int, int> fois;
-    for (const Rencontre &r : rencontres) {
+    for (const Partie &r : rencontres) {
         ++fois[r.equipe1];
         if (r.equipe2 > 0)
             ++fois[r.equipe2];
@@ -50,13 +50,13 @@ TEST(TirageTour1, ChacunUneFoisEtUnExemptSiImpair)
     for (int nombre = 2; nombre <= 130; ++nombre) {
         std::mt19937 sort(static_cast<quint32>(nombre));
         const auto equipes = essai::inscrit(nombre, {.clubs = 6, .pourcentHote = 45, .pourcentPanache = 10}, sort);
-        const std::vector<Rencontre> rencontres = tire(equipes, quint32(nombre));
+        const std::vector<Partie> rencontres = tire(equipes, quint32(nombre));
         const std::map<int, int> fois = presences(rencontres);
         ASSERT_EQ(int(fois.size()), nombre);
         ASSERT_TRUE(std::ranges::all_of(fois, [](const auto &f) { return f.second == 1; }));
         ASSERT_EQ(int(rencontres.size()), (nombre + 1) / 2);
         for (std::size_t i = 0; i < rencontres.size(); ++i) {
-            const Rencontre &r = rencontres[i];
+            const Partie &r = rencontres[i];
             ASSERT_EQ(r.rencontre, int(i) + 1);
             ASSERT_EQ(r.tour, 1);
             ASSERT_FALSE(r.score1 || r.score2 || r.repechage);
@@ -85,10 +85,10 @@ TEST(TirageTour1, CoteVideDeLExemptEchange)
 {
     int perdues = 0;
     for (quint32 graine = 1; graine <= 300; ++graine) {
-        const std::vector<Rencontre> rencontres =
+        const std::vector<Partie> rencontres =
             tire(deClubs({u"Nice"_qs, u"NICE"_qs, u"Nice"_qs, u"NICE"_qs, u"nice"_qs}), graine);
         ASSERT_EQ(rencontres.size(), 3u);
-        const int exempts = int(std::ranges::count(rencontres, 0, &Rencontre::equipe2));
+        const int exempts = int(std::ranges::count(rencontres, 0, &Partie::equipe2));
         ASSERT_EQ(presences(rencontres).size(), 6u - std::size_t(exempts));
         perdues += exempts > 1;
     }

@@ -57,7 +57,7 @@ class Restauration : public testing::Test
 protected:
     Restauration()
     {
-        partage.EspaceTravail = &partage.moteur.Workspaces(0);
+        partage.EspaceTravail = &partage.moteurBase.Workspaces(0);
         partage.BaseDonnees = base.ouvre();
         partage.ConcoursCourant = ajoute();
         ancienne = contenu();

@@ -10,13 +10,13 @@
 namespace modele {
 
 using moteur::LigneClassement;
-using moteur::Rencontre;
+using moteur::Partie;
 using moteur::StatutTirage;
 
 namespace {
 
 /// Side that has won a match of two teams.
-int vainqueur(const Rencontre &r)
+int vainqueur(const Partie &r)
 {
     return r.score1 == 13 ? 1 : r.score2 == 13 ? 2 : 0;
 }
@@ -47,10 +47,10 @@ std::vector<LigneClassement> parRang(std::vector<LigneClassement> lignes)
 
 std::vector<LigneClassement> Concours::classement(SourceAleatoire &alea) const
 {
-    std::vector<Rencontre> feuilles = rencontres;
-    std::ranges::stable_sort(feuilles, {}, [](const Rencontre &r) { return std::pair(r.tour, r.equipe1); });
+    std::vector<Partie> feuilles = rencontres;
+    std::ranges::stable_sort(feuilles, {}, [](const Partie &r) { return std::pair(r.tour, r.equipe1); });
     std::map<int, LigneClassement> lignes;
-    for (const Rencontre &r : feuilles) {
+    for (const Partie &r : feuilles) {
         const auto [premiere, nouvelle] = lignes.try_emplace(r.equipe1, LigneClassement{.equipe = r.equipe1});
         if (nouvelle) {
             premiere->second.alea = AleaEntre(alea, 10000, 100000);
@@ -124,7 +124,7 @@ moteur::TabTirage Concours::tire(SourceAleatoire &alea, Clic &clic) const
         clubs.push_back(inscrite == equipes.end() ? QString() : inscrite->second.club);
     }
     std::vector<moteur::PaireJouee> jouees;
-    for (const Rencontre &r : rencontres)
+    for (const Partie &r : rencontres)
         jouees.push_back({r.equipe1, r.equipe2});
     return tirageSuivant({clic.classement, clubs, jouees, tourCourant, repeche}, clic.journal);
 }
@@ -135,7 +135,7 @@ void Concours::ecritTour(const moteur::TabTirage &table, const std::vector<Ligne
         return std::ranges::any_of(classement, [&](const auto &l) { return l.equipe == equipe && l.repechage == 1; });
     };
     for (const moteur::LigneTirage &paire : table.lignes) {
-        Rencontre r{.tour = tourCourant, .equipe1 = paire.equipe1, .equipe2 = paire.equipe2};
+        Partie r{.tour = tourCourant, .equipe1 = paire.equipe1, .equipe2 = paire.equipe2};
         if (marquee(r.equipe1))
             r.repechage = 1;
         if (r.equipe2 == 0) {
@@ -148,9 +148,9 @@ void Concours::ecritTour(const moteur::TabTirage &table, const std::vector<Ligne
     }
 }
 
-Rencontre *Concours::rencontre(int equipe1, int equipe2)
+Partie *Concours::rencontre(int equipe1, int equipe2)
 {
-    const auto place = std::ranges::find_if(rencontres, [&](const Rencontre &r) {
+    const auto place = std::ranges::find_if(rencontres, [&](const Partie &r) {
         return r.tour == tourCourant && r.equipe1 == equipe1 && r.equipe2 == equipe2;
     });
     return place == rencontres.end() ? nullptr : &*place;
@@ -159,14 +159,14 @@ Rencontre *Concours::rencontre(int equipe1, int equipe2)
 /// The file ends one round lower than the program.
 void Concours::annuleTour()
 {
-    std::erase_if(rencontres, [this](const Rencontre &r) { return r.tour == tourCourant; });
+    std::erase_if(rencontres, [this](const Partie &r) { return r.tour == tourCourant; });
     --tourCourant;
     tourpri = tourCourant - 1;
 }
 
 void Concours::rouvre()
 {
-    for (const Rencontre &r : rencontres)
+    for (const Partie &r : rencontres)
         tourpri = std::max(tourpri, r.tour);
     tourCourant = tourpri;
 }
@@ -179,18 +179,17 @@ void Concours::annuleTirage()
 
 bool Concours::ferme() const
 {
-    return std::ranges::any_of(rencontres, [](const Rencontre &r) { return r.score1 && r.score2; });
+    return std::ranges::any_of(rencontres, [](const Partie &r) { return r.score1 && r.score2; });
 }
 
 bool Concours::tour1Tire() const
 {
-    return std::ranges::count(rencontres, 1, &Rencontre::tour) > 0;
+    return std::ranges::count(rencontres, 1, &Partie::tour) > 0;
 }
 
-Rencontre *Concours::exemption()
+Partie *Concours::exemption()
 {
-    const auto place =
-        std::ranges::find_if(rencontres, [](const Rencontre &r) { return r.tour == 1 && r.equipe2 == 0; });
+    const auto place = std::ranges::find_if(rencontres, [](const Partie &r) { return r.tour == 1 && r.equipe2 == 0; });
     return place == rencontres.end() ? nullptr : &*place;
 }
 
@@ -199,20 +198,20 @@ void Concours::ajoute(int equipe, const QString &club)
     equipes[equipe] = {club};
     if (!tour1Tire())
         return;
-    if (Rencontre *libre = exemption()) {
+    if (Partie *libre = exemption()) {
         libre->equipe2 = equipe;
         libre->score1 = libre->score2 = std::nullopt;
         return;
     }
     int derniere = 0;
-    for (const Rencontre &r : rencontres)
+    for (const Partie &r : rencontres)
         derniere = r.tour == 1 ? std::max(derniere, r.rencontre) : derniere;
     rencontres.push_back({.tour = 1, .rencontre = derniere + 1, .equipe1 = equipe});
 }
 
 int Concours::attendus() const
 {
-    return int(std::ranges::count_if(rencontres, [](const Rencontre &r) { return r.equipe2 > 0 && !r.score1; }));
+    return int(std::ranges::count_if(rencontres, [](const Partie &r) { return r.equipe2 > 0 && !r.score1; }));
 }
 
 bool Concours::resteUnTour() const
@@ -229,12 +228,12 @@ bool Concours::boutonVisible() const
 
 QString fauteDuTour(const Concours &concours, const Journal &journal)
 {
-    const auto repetition = [&](const Rencontre &r) {
+    const auto repetition = [&](const Partie &r) {
         const Rencontree paire = normee(r.equipe1, r.equipe2);
         return journal.abandonnees.contains(paire) || journal.crees.contains(paire);
     };
     // A team that gives way for the sake of clubs hands its mark on, to one that may stand where it has won to.
-    const auto marque = [&](const Rencontre &r, std::optional<int> remontee) {
+    const auto marque = [&](const Partie &r, std::optional<int> remontee) {
         return journal.remplacees > 0 || r.repechage == (concours.repeche ? remontee : std::nullopt);
     };
     return pilote::fauteDuTour(concours.rencontres, concours.tourCourant, {repetition, marque});

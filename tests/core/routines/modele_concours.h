@@ -38,13 +38,13 @@ struct Concours
     int tourpri = 0; ///< In the file.
     int tourCourant = 0; ///< In the program.
     std::map<int, Equipe> equipes;
-    std::vector<moteur::Rencontre> rencontres; ///< In the order of writing.
+    std::vector<moteur::Partie> rencontres; ///< In the order of writing.
 
     Clic clique(SourceAleatoire &alea, bool reponse);
     /// In order of rank.
     std::vector<moteur::LigneClassement> classement(SourceAleatoire &alea) const;
     /// The match of the current round that a result for these two goes into, null when there is none.
-    moteur::Rencontre *rencontre(int equipe1, int equipe2);
+    moteur::Partie *rencontre(int equipe1, int equipe2);
     void annuleTour();
     /// The last round that has been drawn goes on, whatever the file says.
     void rouvre();
@@ -53,7 +53,7 @@ struct Concours
     /// Whether new teams are taken, and where the first one goes when the draw is done.
     bool ferme() const;
     bool tour1Tire() const;
-    moteur::Rencontre *exemption();
+    moteur::Partie *exemption();
     /// A new team.
     void ajoute(int equipe, const QString &club);
 

@@ -19,7 +19,7 @@
 using donnees::EtatTirage;
 using donnees::Retardataire;
 using moteur::LigneClassement;
-using moteur::Rencontre;
+using moteur::Partie;
 
 // Seasons invented from a seed are played through the engine and the store, and compared after every act with the same
 // competitions kept on paper. VARLOTOUR_GRAINE=N plays season N alone and tells its acts; VARLOTOUR_SAISON=S plays
@@ -42,7 +42,7 @@ std::string texte(const std::optional<int> &valeur)
     return valeur ? std::to_string(*valeur) : "-";
 }
 
-std::string texte(const Rencontre &r)
+std::string texte(const Partie &r)
 {
     return std::to_string(r.tour) + '/' + std::to_string(r.rencontre) + ' ' + std::to_string(r.equipe1) + '-'
         + std::to_string(r.equipe2) + ' ' + texte(r.score1) + ':' + texte(r.score2) + ' ' + texte(r.repechage);
@@ -124,7 +124,7 @@ private:
     bool corrigeEquipe();
     bool clique();
 
-    void saisit(const Rencontre &match);
+    void saisit(const Partie &match);
     donnees::Equipe fiche(int equipe, const QString &club) const;
     QString club();
     int equipeAuHasard();
@@ -263,16 +263,16 @@ bool Saison::changeRepeche()
 /// Some of the results that are missing, or all of them, in the order in which they come to the table.
 bool Saison::saisitResultats()
 {
-    std::vector<Rencontre> attendus;
+    std::vector<Partie> attendus;
     std::ranges::copy_if(m_courant->rencontres, std::back_inserter(attendus),
-                         [](const Rencontre &r) { return r.equipe2 > 0 && !r.score1; });
+                         [](const Partie &r) { return r.equipe2 > 0 && !r.score1; });
     std::ranges::shuffle(attendus, m_sort);
     if (attendus.empty())
         return false;
     if (chance(30))
         attendus.resize(attendus.size() / 2);
     partage().BaseDonnees.EcritEnGroupe([&] {
-        for (const Rencontre &match : attendus)
+        for (const Partie &match : attendus)
             saisit(match);
     });
     return true;
@@ -284,20 +284,20 @@ bool Saison::corrigeResultat()
     if (m_courant->rencontres.empty())
         return false;
     const int place = entre(0, int(m_courant->rencontres.size()) - 1);
-    const Rencontre match = m_courant->rencontres[std::size_t(place)];
+    const Partie match = m_courant->rencontres[std::size_t(place)];
     if (match.equipe2 > 0)
         saisit(match);
     return match.equipe2 > 0;
 }
 
-void Saison::saisit(const Rencontre &match)
+void Saison::saisit(const Partie &match)
 {
     int scores[] = {13, chance(10) ? entre(-3, -1) : entre(0, 12)};
     if (m_sansVainqueur && chance(8))
         scores[0] = entre(-3, 13);
     if (chance(50))
         std::swap(scores[0], scores[1]);
-    Rencontre *attendue = m_courant->rencontre(match.equipe1, match.equipe2);
+    Partie *attendue = m_courant->rencontre(match.equipe1, match.equipe2);
     if (attendue) {
         attendue->score1 = scores[0];
         attendue->score2 = scores[1];
@@ -394,7 +394,7 @@ bool Saison::clique()
         return false;
     m_relance = false;
     const bool recommence = chance(70);
-    const bool complet = std::ranges::all_of(m_courant->rencontres, [this](const Rencontre &r) {
+    const bool complet = std::ranges::all_of(m_courant->rencontres, [this](const Partie &r) {
         return r.tour <= m_courant->tourCourant && (r.equipe2 == 0 || (r.score1 == 13) != (r.score2 == 13));
     });
     const bool suivant = m_courant->tourCourant > 0 && !m_courant->rencontres.empty();

@@ -4,7 +4,7 @@
 #include "partage/concours_courant.h"
 
 using moteur::LigneClassement;
-using moteur::Rencontre;
+using moteur::Partie;
 using store::Instruction;
 using store::Recordset;
 
@@ -43,9 +43,9 @@ void Salle::choisit(qint32 concours)
     ReprendTour(partage);
 }
 
-std::vector<Rencontre> Salle::scores(int tour)
+std::vector<Partie> Salle::scores(int tour)
 {
-    std::vector<Rencontre> lignes;
+    std::vector<Partie> lignes;
     Instruction lecture(native(),
                         u"select tour, rencontre, equipe_1, equipe_2, score_1, score_2, repechage "
                         u"from scores where concours = ?1 and tableau = 1 and (?2 = 0 or tour = ?2) "

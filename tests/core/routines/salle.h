@@ -19,7 +19,7 @@ public:
     void choisit(qint32 concours);
 
     /// Matches of the current competition in the order of writing; of round \p tour alone when it is above 0.
-    std::vector<moteur::Rencontre> scores(int tour = 0);
+    std::vector<moteur::Partie> scores(int tour = 0);
     /// Rows of `tbclass` as the index `rankkey` walks them.
     std::vector<moteur::LigneClassement> tbclass();
     int tourpri();

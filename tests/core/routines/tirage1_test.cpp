@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-using moteur::Rencontre;
+using moteur::Partie;
 
 namespace {
 
@@ -47,14 +47,14 @@ protected:
 TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
 {
     EXPECT_EQ(salle.clique().bilan.obstacle, ObstacleAuTirage::Aucun);
-    const std::vector<Rencontre> tirees = salle.scores();
-    const Rencontre &premiere = tirees.front();
+    const std::vector<Partie> tirees = salle.scores();
+    const Partie &premiere = tirees.front();
     // One score alone is no result.
     salle.native().executeScript(
         u"update scores set score_1 = 13 where concours = %1 and rencontre = 1"_qs.arg(concours));
     EXPECT_EQ(ConfirmeTirage(salle.partage), ObstacleAuTirage::TirageSansResultat);
     salle.saisit(premiere.equipe1, premiere.equipe2, u"13"_qs, u"2"_qs);
-    const std::vector<Rencontre> jouees = salle.scores();
+    const std::vector<Partie> jouees = salle.scores();
     EXPECT_EQ(ConfirmeTirage(salle.partage), ObstacleAuTirage::ResultatsTombes);
     EXPECT_EQ(salle.scores(), jouees);
 }
@@ -62,7 +62,7 @@ TEST_F(PremierTirage, RefuseDesQuUnResultatEstTombe)
 TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
 {
     salle.clique();
-    const std::vector<Rencontre> tirees = salle.scores();
+    const std::vector<Partie> tirees = salle.scores();
     const QStringList contenu = Contenu(salle.native());
 
     salle.partage.TourCourant = 0;
@@ -84,7 +84,7 @@ TEST_F(PremierTirage, RecommenceSeulementSurUnOui)
 TEST_F(PremierTirage, DejaTireNeTouchePasAuxRencontres)
 {
     salle.clique();
-    const std::vector<Rencontre> tirees = salle.scores();
+    const std::vector<Partie> tirees = salle.scores();
     salle.native().executeScript(u"update concours set tourpri = 4"_qs);
     salle.partage.TourCourant = 4;
     EXPECT_FALSE(TirageTour1(salle.partage, 1));
@@ -112,7 +112,7 @@ TEST_F(PremierTirage, SeulesLesEquipesDuTableauPrincipalJouent)
         u"update evolution set principal = 0 where concours = %1 and equipe in (2, 5)"_qs.arg(concours));
     salle.clique();
     std::vector<int> jouent;
-    for (const Rencontre &ligne : salle.scores()) {
+    for (const Partie &ligne : salle.scores()) {
         jouent.push_back(ligne.equipe1);
         jouent.push_back(ligne.equipe2);
     }
@@ -153,7 +153,7 @@ protected:
 
     void joue()
     {
-        for (const Rencontre &ligne : salle.scores(salle.partage.TourCourant)) {
+        for (const Partie &ligne : salle.scores(salle.partage.TourCourant)) {
             if (ligne.equipe2 > 0)
                 salle.saisit(ligne.equipe1, ligne.equipe2, u"13"_qs, u"5"_qs);
         }
@@ -167,7 +167,7 @@ TEST_F(EcritureCoupee, UnActeEstEntierOuNAPasEuLieu)
     coupe("new draw", [this] { RefaitTirage(salle.partage); });
     EXPECT_EQ(salle.scores().size(), 4u);
     joue();
-    const std::vector<Rencontre> tour1 = salle.scores(1);
+    const std::vector<Partie> tour1 = salle.scores(1);
     coupe("next round", tire);
     EXPECT_EQ(salle.scores(2).size(), 4u);
     EXPECT_EQ(salle.tourpri(), 2);

@@ -6,7 +6,7 @@
 
 namespace pilote {
 
-using moteur::Rencontre;
+using moteur::Partie;
 
 namespace {
 
@@ -17,10 +17,10 @@ struct Avant
     std::set<std::pair<int, int>> paires;
 };
 
-Avant litAvant(std::span<const Rencontre> rencontres, int tour)
+Avant litAvant(std::span<const Partie> rencontres, int tour)
 {
     Avant avant;
-    for (const Rencontre &r : rencontres) {
+    for (const Partie &r : rencontres) {
         if (r.tour >= tour)
             continue;
         avant.paires.insert(std::minmax(r.equipe1, r.equipe2));
@@ -32,7 +32,7 @@ Avant litAvant(std::span<const Rencontre> rencontres, int tour)
 }
 
 /// \p ontRemonte: levels that have sent a team up already.
-QString fauteDeNiveau(const Rencontre &r, const std::map<int, int> &niveaux, std::set<int> &ontRemonte,
+QString fauteDeNiveau(const Partie &r, const std::map<int, int> &niveaux, std::set<int> &ontRemonte,
                       const Indulgences &indulgences)
 {
     const auto premiere = niveaux.find(r.equipe1);
@@ -54,12 +54,12 @@ QString fauteDeNiveau(const Rencontre &r, const std::map<int, int> &niveaux, std
 
 } // namespace
 
-QString fauteDuTour(std::span<const Rencontre> rencontres, int tour, const Indulgences &indulgences)
+QString fauteDuTour(std::span<const Partie> rencontres, int tour, const Indulgences &indulgences)
 {
     const Avant avant = litAvant(rencontres, tour);
     std::set<int> vues;
     std::set<int> ontRemonte;
-    for (const Rencontre &r : rencontres) {
+    for (const Partie &r : rencontres) {
         if (r.tour != tour)
             continue;
         const QString paire = u"%1 - %2 : "_qs.arg(r.equipe1).arg(r.equipe2);

@@ -1,4 +1,4 @@
-#include "printing/cadre.h"
+#include "printing/feuille.h"
 
 #include "partage/routines.h"
 
@@ -26,17 +26,17 @@ QString aligneDroite(qint64 nombre, int largeur)
     return aligneDroite(QString::number(nombre), largeur);
 }
 
-std::unique_ptr<Cadre> Cadre::ouvre(const Contexte &contexte, const MiseEnPage &mise)
+std::unique_ptr<Feuille> Feuille::ouvre(const Contexte &contexte, const MiseEnPage &mise)
 {
     std::unique_ptr<Destination> destination = contexte.boites.ShowPrinter();
     if (destination == nullptr) {
         contexte.boites.MsgBox(u"Impression annulée"_qs);
         return nullptr;
     }
-    return std::unique_ptr<Cadre>(new Cadre(contexte, std::move(destination), mise));
+    return std::unique_ptr<Feuille>(new Feuille(contexte, std::move(destination), mise));
 }
 
-Cadre::Cadre(const Contexte &contexte, std::unique_ptr<Destination> destination, const MiseEnPage &mise)
+Feuille::Feuille(const Contexte &contexte, std::unique_ptr<Destination> destination, const MiseEnPage &mise)
     : m_partage(contexte.partage)
     , m_patience(contexte, contexte.partage.mes(129))
     , m_papier(std::move(destination))
@@ -45,32 +45,32 @@ Cadre::Cadre(const Contexte &contexte, std::unique_ptr<Destination> destination,
     m_papier.FontName = policeFeuilles;
 }
 
-int Cadre::bas(MiseEnPage::Bord bord) const
+int Feuille::bas(MiseEnPage::Bord bord) const
 {
     return bord == MiseEnPage::Papier ? m_papier.Height() : m_papier.ScaleHeight();
 }
 
-void Cadre::commence()
+void Feuille::commence()
 {
     m_entete();
     m_haut = m_papier.CurrentY;
 }
 
-void Cadre::saute(int suite)
+void Feuille::saute(int suite)
 {
     m_patience.avance(m_page + 1);
     if (m_papier.CurrentY > std::min(finPage(), hautPied() - suite))
         tourne();
 }
 
-void Cadre::garde(int suite)
+void Feuille::garde(int suite)
 {
     const bool commencee = m_papier.CurrentY > m_haut; // what is longer than a page stands no better on the next one
     if (commencee && m_papier.CurrentY > std::min(finPage(), hautPied()) - suite)
         tourne();
 }
 
-void Cadre::tourne()
+void Feuille::tourne()
 {
     const double taille = m_papier.FontSize;
     const bool gras = m_papier.FontBold;
@@ -83,14 +83,14 @@ void Cadre::tourne()
     m_papier.FontItalic = italique;
 }
 
-void Cadre::termine()
+void Feuille::termine()
 {
     ecritPied();
     m_papier.EndDoc();
     m_papier.setOrientation(Orientation::Portrait);
 }
 
-void Cadre::ecritPied()
+void Feuille::ecritPied()
 {
     ++m_page;
     m_papier.FontBold = false;
@@ -105,7 +105,7 @@ void Cadre::ecritPied()
     m_papier.Print(u"Page "_qs + QString::number(m_page));
 }
 
-void Cadre::ecritConcours(double taille, int colonne)
+void Feuille::ecritConcours(double taille, int colonne)
 {
     m_papier.FontBold = false;
     m_papier.FontSize = taille;
@@ -123,7 +123,7 @@ void Cadre::ecritConcours(double taille, int colonne)
     m_papier.Print(u"\r\n"_qs);
 }
 
-void Cadre::ecritTitre(double taille, int gauche, const QString &titre)
+void Feuille::ecritTitre(double taille, int gauche, const QString &titre)
 {
     m_papier.FontSize = taille;
     m_papier.FontBold = true;
@@ -131,7 +131,7 @@ void Cadre::ecritTitre(double taille, int gauche, const QString &titre)
     m_papier.Print({});
 }
 
-double Cadre::tailleQuiTient(const QString &texte, int largeur)
+double Feuille::tailleQuiTient(const QString &texte, int largeur)
 {
     const double voulue = m_papier.FontSize;
     while (m_papier.TextWidth(texte) > largeur && m_papier.FontSize > plusPetite)
@@ -139,14 +139,14 @@ double Cadre::tailleQuiTient(const QString &texte, int largeur)
     return std::exchange(m_papier.FontSize, voulue);
 }
 
-void Cadre::ecrit(int gauche, const QString &texte, int fin)
+void Feuille::ecrit(int gauche, const QString &texte, int fin)
 {
     m_papier.CurrentX = gauche;
     pose(texte, tailleQuiTient(texte, fin - gauche), fin);
 }
 
 /// Prints at the current place in letters of \p petite points, which stand on the same line as the current ones.
-void Cadre::pose(const QString &texte, double petite, int fin)
+void Feuille::pose(const QString &texte, double petite, int fin)
 {
     const double taille = std::exchange(m_papier.FontSize, petite);
     QString entier = texte;
@@ -159,7 +159,7 @@ void Cadre::pose(const QString &texte, double petite, int fin)
     m_papier.FontSize = taille;
 }
 
-void Cadre::ecritLigne(std::span<const int> places, const QStringList &textes)
+void Feuille::ecritLigne(std::span<const int> places, const QStringList &textes)
 {
     for (std::size_t i = 0; i < places.size(); ++i) {
         const bool dernier = i + 1 == places.size();
@@ -168,7 +168,7 @@ void Cadre::ecritLigne(std::span<const int> places, const QStringList &textes)
     m_papier.Print({});
 }
 
-void Cadre::ecritRencontre(int gauche, const QString &phrase, const QString &score, int marge)
+void Feuille::ecritRencontre(int gauche, const QString &phrase, const QString &score, int marge)
 {
     const int gaucheScore = m_papier.Width() - (m_papier.TextWidth(score) + marge);
     ecrit(gauche, phrase, gaucheScore);

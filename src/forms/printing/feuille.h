@@ -24,11 +24,11 @@ struct MiseEnPage
 
 /// The kit of the sheets: the printer dialog, the page head and foot, the page test, and lines whose texts never meet.
 /// A sheet adds its own rows. Positions are in twips, letters in points.
-class Cadre
+class Feuille
 {
 public:
     /// Asks for the printer. Nothing when the operator cancels, who is told so.
-    static std::unique_ptr<Cadre> ouvre(const Contexte &contexte, const MiseEnPage &mise = {});
+    static std::unique_ptr<Feuille> ouvre(const Contexte &contexte, const MiseEnPage &mise = {});
 
     Imprimante &papier() { return m_papier; }
     /// What stands at the head of every page: drawn by commence() and behind every page break.
@@ -60,7 +60,7 @@ public:
     double tailleQuiTient(const QString &texte, int largeur);
 
 private:
-    Cadre(const Contexte &contexte, std::unique_ptr<Destination> destination, const MiseEnPage &mise);
+    Feuille(const Contexte &contexte, std::unique_ptr<Destination> destination, const MiseEnPage &mise);
     int bas(MiseEnPage::Bord bord) const;
     int finPage() const { return bas(m_mise.bordFin) - m_mise.fin; }
     int hautPied() const { return bas(m_mise.bordPied) - m_mise.pied; }
