@@ -76,8 +76,8 @@ void SeparationClubs::separeNiveauBas(int premiere)
     }
 }
 
-/// A clash is reported only when the search runs to the end of the table: the row of the bye, whose empty side has no
-/// level, ends it before.
+/// A clash is reported only when the search reaches the last row. Where that row is the bye, it does not: its empty
+/// side has no level, so the search has ended before it, and the clash stays unreported.
 void SeparationClubs::echangeEnBas(int i, int premiere, int niveau)
 {
     const int derniere = m_etat.derniere();

@@ -49,6 +49,7 @@ public:
     Instruction(Instruction &&autre) noexcept;
     Instruction &operator=(Instruction &&autre) noexcept;
 
+    /// Whether it holds a statement: not when made without one, moved away or given back.
     bool active() const { return m_stmt != nullptr; }
     /// Gives the statement back to the cache.
     void rend();
@@ -58,13 +59,16 @@ public:
     /// Steps to the next row; false when there is none, or when the statement gives no rows. Throws Erreur.
     bool avance();
 
+    /// Number of columns of the answer; they are counted from 0.
     int colonnes() const;
     QString nomColonne(int colonne) const;
+    /// Declared type of the column of a table; Libre for what is reckoned.
     TypeChamp typeColonne(int colonne) const;
     /// Column \p colonne, counted from 0, of the current row, read as \p type.
     Valeur valeur(int colonne, TypeChamp type = TypeChamp::Libre) const;
     /// Column \p colonne as a whole number, 0 on Null: the quick read for ranking and draws.
     qint64 nombre(int colonne) const;
+    /// Whether column \p colonne of the current row is Null.
     bool estNulle(int colonne) const;
     /// Whether column \p colonne of the current row holds the same as that of \p autre, kind and bytes.
     bool memeValeur(const Instruction &autre, int colonne) const;
@@ -96,6 +100,7 @@ public:
     ~BaseNative();
     Q_DISABLE_COPY_MOVE(BaseNative)
 
+    /// Path that the file was opened by.
     QString fichier() const { return m_fichier; }
 
     /// Prepares the file for durable writes and takes in the journal of an earlier run. Kept apart from the opening, so
@@ -138,6 +143,7 @@ public:
 
     /// Rows changed since the file was opened.
     int changements() const;
+    /// Row id of the row stored last by this connection, 0 before the first.
     qint64 dernierRowid() const;
     /// Whether no write group is open.
     bool horsTransaction() const;

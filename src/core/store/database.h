@@ -32,7 +32,9 @@ public:
     Database &operator=(Database &&) noexcept = default;
     ~Database() = default;
 
+    /// Not before it is opened, nor behind Close().
     bool estOuverte() const { return m_ouverte != nullptr; }
+    /// Path that the file was opened by; throws when it is closed.
     QString fichier() const;
 
     /// \p source is the name of a table, or a statement. A table gives a walk over the whole of it, on which Index and

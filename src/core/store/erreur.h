@@ -33,7 +33,9 @@ public:
 
     Erreur(int numero, const QString &phrase);
 
+    /// One of the numbers above, or the engine's own code, above 0.
     int numero() const { return m_numero; }
+    /// One French sentence for the operator.
     const QString &phrase() const { return m_phrase; }
     const char *what() const noexcept override { return m_utf8.constData(); }
 

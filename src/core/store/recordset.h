@@ -51,10 +51,14 @@ public:
     /// First row of the index that meets \p op ("=", ">=", ">") with the leading key fields \p cles, in the order of
     /// the index: behind a descending field, "greater" means a lower value. Sets NoMatch.
     void Seek(QStringView op, std::initializer_list<Valeur> cles);
+    /// Whether the last Seek found nothing; there is no current row then.
     bool NoMatch() const;
 
+    /// Whether there is no current row: past the last one, or none at all.
     bool Eof() const;
+    /// Throws when there is no row; a recordset that has just been opened stands on its first one.
     void MoveFirst();
+    /// Throws past the last row.
     void MoveNext();
     /// \p lignes rows forward; backward on the result of a statement only.
     void Move(qint64 lignes);
@@ -69,6 +73,7 @@ public:
     void Update();
     /// Removes the current row. The position stays where the row was until the next move.
     void Delete();
+    /// Gives the rows up; any use behind it throws.
     void Close();
 
     /// Field of the current row. Throws when there is no such field, or no row.

@@ -58,6 +58,7 @@ public:
 
     /// Table of that name, null when there is none.
     const Table *table(QStringView nom) const;
+    /// Names of the tables, in the order of the file.
     QStringList tables() const { return m_noms; }
     /// Table or field of that name as the file spells it, empty when there is none.
     QString nomConnu(QStringView nom) const { return m_connus.value(cleNom(nom)); }

@@ -13,8 +13,8 @@ namespace {
     throw Erreur(Erreur::ValeurNulle, u"Une valeur absente a été lue comme un nombre ou une date."_qs);
 }
 
-/// Length of the leading number in \p texte (already trimmed on the left); \p estEntier tells whether it has
-/// neither point nor exponent.
+/// Length of the number at the start of \p texte, sign, point and exponent included; 0 when there is none. Blanks
+/// before it count as no number.
 qsizetype longueurNombre(QStringView texte)
 {
     qsizetype i = 0;

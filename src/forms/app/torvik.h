@@ -31,6 +31,11 @@ public:
     /// The session may end now: what has been entered goes into the file of the base.
     void seanceFinit();
 
+protected:
+    void mousePressEvent(QMouseEvent *evenement) override;
+    void closeEvent(QCloseEvent *evenement) override;
+
+private:
     void f_accueil_Click();
     void f_concours_Click();
     void f_equipes_Click();
@@ -39,11 +44,6 @@ public:
     void traduction_Click();
     void chrono_Click();
 
-protected:
-    void mousePressEvent(QMouseEvent *evenement) override;
-    void closeEvent(QCloseEvent *evenement) override;
-
-private:
     void relie();
     void surClick(QAction *action, void (Torvik::*traitement)());
     void surClick(QAction *action, void (*traitement)(const Contexte &));

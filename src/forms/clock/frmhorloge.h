@@ -34,17 +34,11 @@ public:
     std::vector<Infobulle> infobulles() const override;
     void Form_Load() override;
 
-    void start_Click();
-    void stop_Click();
-    void effacer_Click();
     void Timer2_Timer();
 
     void Command1_Click();
     void Timer1_Timer();
 
-    void Maxvaleur_Change();
-    void RAZ_Click();
-    void lancer_Click();
     void Timer11_Timer() { tourne(0); }
     void Timer12_Timer() { tourne(1); }
     void Timer13_Timer() { tourne(2); }
@@ -58,6 +52,13 @@ protected:
     void hideEvent(QHideEvent *evenement) override;
 
 private:
+    void start_Click();
+    void stop_Click();
+    void effacer_Click();
+    void Maxvaleur_Change();
+    void RAZ_Click();
+    void lancer_Click();
+
     /// One reel: its picture, what turns it, and its column of figures.
     struct Colonne
     {

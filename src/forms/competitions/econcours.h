@@ -31,17 +31,18 @@ public:
     void référence_GotFocus();
     void référence_KeyDown(int KeyCode, int Shift);
     void référence_LostFocus();
+    void Command1_Click();
+
+private:
     void Text2_KeyDown(int KeyCode, int Shift);
     void Text3_KeyDown(int KeyCode, int Shift);
     void Text4_KeyDown(int KeyCode, int Shift);
     void Combo1_KeyDown(int KeyCode, int Shift);
     void Combo1_LostFocus();
     void ok_Click();
-    void Command1_Click();
     void Dupliquer_Click();
     void Supprimer_Click();
 
-private:
     static constexpr int largeurReference = 6;
 
     void LegendesEconcours();

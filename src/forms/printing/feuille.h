@@ -30,6 +30,7 @@ public:
     /// Asks for the printer. Nothing when the operator cancels, who is told so.
     static std::unique_ptr<Feuille> ouvre(const Contexte &contexte, const MiseEnPage &mise = {});
 
+    /// For what the kit has no words for; the place and the letters are shared with it.
     Imprimante &papier() { return m_papier; }
     /// What stands at the head of every page: drawn by commence() and behind every page break.
     void setEntete(std::function<void()> entete) { m_entete = std::move(entete); }

@@ -23,13 +23,13 @@ public:
     void Form_Activate() override;
     void Form_Unload() override;
 
+private:
     void Option1_Click();
     void Option3_Click();
     void Imprime_Click();
     void Label3_Click();
     void sortie_Click();
 
-private:
     struct Intervalle
     {
         int premier;

@@ -29,13 +29,14 @@ public:
     /// Builds the list anew, of the current competition and without names; what was offered of the old one goes.
     void Rafraichir() override;
     void Form_MouseDown(int bouton, int maj, int x, int y) override;
-    void Thonneur_MouseDown(int Index, int Button, int Shift);
-    void Thonneur_KeyDown(int Index, int KeyCode);
     void imprimer_Click();
     /// Whether teams bear names in the list.
     bool avecNoms() const { return m_avecNoms != 0; }
 
 private:
+    void Thonneur_MouseDown(int Index, int Button, int Shift);
+    void Thonneur_KeyDown(int Index, int KeyCode);
+
     void charge();
     FlexGrid &Thonneur(int Index) const;
     qint64 rencontres(int tour, std::optional<int> tableau = std::nullopt) const;

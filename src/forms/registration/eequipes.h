@@ -39,7 +39,6 @@ public:
     void Société_KeyDown(int KeyCode, int Shift);
     void Okc_Click();
     void SupprimerC_Click();
-    void cImport_Click();
     void Command1_Click();
     void Command2_Click();
 
@@ -48,6 +47,8 @@ protected:
     bool montreConnu(const std::vector<donnees::Membre> &membres) override;
 
 private:
+    void cImport_Click();
+
     static constexpr int membresAffiches = 4;
     using ChampsMembres = std::array<QLineEdit *, membresAffiches>;
 

@@ -28,7 +28,6 @@ public:
     void LicenceJ_LostFocus(int Index);
     void NomJ_KeyDown(int Index, int KeyCode, int Shift);
     void PrénomJ_KeyDown(int Index, int KeyCode, int Shift);
-    void ne_KeyDown(int KeyCode, int Shift);
     void Société_KeyDown(int KeyCode, int Shift);
     void Okc_Click();
     void SupprimerC_Click();
@@ -39,6 +38,8 @@ protected:
     bool montreConnu(const std::vector<donnees::Membre> &membres) override;
 
 private:
+    void ne_KeyDown(int KeyCode, int Shift);
+
     void LegendesEjoueurs();
     void relie();
     void premiereActivation();

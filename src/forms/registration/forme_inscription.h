@@ -22,10 +22,7 @@ public:
     void Form_Click() override;
     void Form_Resize() override { RedimForm(); }
 
-    void Equipe_KeyDown(int KeyCode, int Shift);
-    void Equipe_LostFocus();
     void Société_LostFocus();
-    void Label1_Click();
 
 protected:
     /// Controls that both forms have; \p premierNom is where the entry goes on behind a new club.
@@ -83,6 +80,10 @@ protected:
     void placeListesoc(int largeur);
 
 private:
+    void Equipe_KeyDown(int KeyCode, int Shift);
+    void Equipe_LostFocus();
+    void Label1_Click();
+
     void refuseNumero(std::optional<qint64> maxe);
     bool litNumero(std::optional<qint64> maxe);
     void ajouteClub(const QString &club);

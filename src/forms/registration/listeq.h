@@ -27,11 +27,12 @@ public:
 
     void Les_équipes_MouseUp(int Button, int ligne);
     void imprimer_Click();
-    void imprimer_selection_Click();
 
     void LegendesListeq();
 
 private:
+    void imprimer_selection_Click();
+
     bool pourLesResultats() const { return passation(formulaires()).ModeListeEquipes == 1; }
     QString format() const;
     void ajouteEquipes(FichierEquipes *fichier);

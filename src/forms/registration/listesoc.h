@@ -21,7 +21,6 @@ public:
     void Form_Load() override;
     void Form_Resize() override { RedimForm(); }
 
-    void Recherche_Change();
     /// A key typed in the grid, by the code of its character.
     void Liste_soc_KeyPress(int KeyAscii);
     void Liste_soc_MouseUp(int Button, int Shift);
@@ -29,6 +28,8 @@ public:
     void Command2_Click();
 
 private:
+    void Recherche_Change();
+
     void LegendesListesoc();
     void relie();
     /// Moves the highlight to a row; 0 takes it away.

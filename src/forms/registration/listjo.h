@@ -24,12 +24,13 @@ public:
     void Rafraichir() override { Rafraichir_Click(); }
 
     void Les_équipes_MouseUp(int Button, int ligne);
-    void Rafraichir_Click();
     void imprimer_Click();
 
     void LegendesListjo();
 
 private:
+    void Rafraichir_Click();
+
     QString format() const;
     /// Club whose players alone are listed; empty for all.
     QString clubRetenu() const;

@@ -30,6 +30,8 @@ public:
     void Form_Unload() override;
     void Form_MouseDown(int bouton, int maj, int x, int y) override;
 
+private:
+    void imprimer_Click();
     void listconcours_KeyDown(int KeyCode, int Shift);
     void listconcours_LostFocus();
     void Equipe1_KeyDown(int KeyCode, int Shift);
@@ -40,13 +42,11 @@ public:
     void Score2_KeyDown(int KeyCode, int Shift);
     void Score1_GotFocus();
     void Score2_GotFocus();
-    void imprimer_Click();
     void hit_Click();
     void manquants_Click();
     void VALIDATION_Click();
     void tirage_suivant_Click();
 
-private:
     /// What tells the two score fields apart in the entry of a score.
     enum class Cote { Premier, Second };
     /// Texts of the two score fields, put back when an entry ends without a save.

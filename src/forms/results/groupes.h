@@ -26,7 +26,6 @@ public:
     std::vector<Infobulle> infobulles() const override;
     void Form_Load() override;
     void Form_Activate() override { placeForme(); }
-    void TabStrip1_Click();
 
     int onglets() const;
     /// Adds the tabs that are missing, each with its grid, and takes away those above \p nombre.
@@ -41,6 +40,8 @@ protected:
     void placePres(const Formulaire &saisie) override;
 
 private:
+    void TabStrip1_Click();
+
     FlexGrid *chargeGrille();
     void placeGrille(FlexGrid &grille) const;
     void prepareGrille(FlexGrid &grille) const;

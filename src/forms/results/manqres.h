@@ -26,7 +26,6 @@ public:
     void Form_Unload() override;
     void Rafraichir() override;
 
-    void classement_Click();
     /// A press in grid \p Index, row \p ligne (0 for the heading, -1 below the last row), column \p colonne.
     void les_resultats_MouseDown(int Index, int Button, int ligne, int colonne);
 
@@ -41,6 +40,8 @@ protected:
     void quitteEcran() override;
 
 private:
+    void classement_Click();
+
     void montreAttendus(bool attendus);
     void basculeLancee(int Index, int ligne);
     void montreDetail(const QString &equipe);

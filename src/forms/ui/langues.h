@@ -18,13 +18,14 @@ public:
     ~langues() override;
 
     void Form_Load() override;
-    void Qlang_Click();
 
 Q_SIGNALS:
     /// Another language has been loaded: the main window takes its texts.
     void langueChargee();
 
 private:
+    void Qlang_Click();
+
     void LegendesLangues();
     /// Marks the language \p designation as active and the one shown so far as inactive, in this order.
     /// Its number; nothing when the base has no such language.

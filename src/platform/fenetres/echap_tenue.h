@@ -16,6 +16,7 @@ public:
     explicit EchapTenue(std::function<void()> surDemande);
     ~EchapTenue() override;
 
+    /// Whether Escape has been held long enough since the making.
     bool demandee() const { return m_demandee; }
 
 protected:

@@ -51,8 +51,9 @@ void poseTexte(QComboBox *combo, const QString &texte);
 
 /// A form: a window that is known by its name and whose handlers run one at a time.
 ///
-/// The handlers of its controls are connected by name of their event. A failure in a handler ends that handler, is
-/// shown in one box, and leaves the program running. Positions and sizes are in twips.
+/// A form binds its controls to its handlers by surClick() and its like. A failure in a handler ends that handler, is
+/// shown in one box, and leaves the program running. Positions and sizes are in twips, of the screen for the form
+/// itself.
 class Formulaire : public QWidget
 {
     Q_OBJECT
@@ -60,6 +61,7 @@ class Formulaire : public QWidget
 public:
     Formulaire(const Contexte &contexte, QWidget *parent);
 
+    /// What Formulaires knows the form by.
     QString Name() const { return objectName(); }
 
     /// Loads captions and contents. Called once when the form is loaded, and by whoever wants it filled again.
@@ -68,8 +70,11 @@ public:
     virtual void Form_Activate() {}
     /// The focus has come to the form itself, none of its controls having it.
     virtual void Form_GotFocus() {}
+    /// The form goes, closed by the operator or unloaded by the program; its controls still stand.
     virtual void Form_Unload() {}
+    /// A left press on the form itself, beside its controls.
     virtual void Form_Click() {}
+    /// The form has another size; the controls have not moved yet.
     virtual void Form_Resize() {}
     /// A press on the form itself, beside its controls. \p x and \p y in twips.
     virtual void Form_MouseDown(int /*bouton*/, int /*maj*/, int /*x*/, int /*y*/) {}
@@ -80,7 +85,7 @@ public:
     /// guess. Asked before Form_Load, in the language of then.
     virtual std::vector<Infobulle> infobulles() const { return {}; }
 
-    // The frame that the desktop draws round the form counts.
+    // Place and size in twips of the screen; the frame that the desktop draws round the form counts.
     int Left() const;
     int Top() const;
     int Width() const;

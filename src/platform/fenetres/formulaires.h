@@ -30,6 +30,7 @@ public:
     explicit Formulaires(QObject *parent = nullptr);
     ~Formulaires() override;
 
+    /// Makes the name \p nom known; \p fabrique makes the form each time that it is loaded.
     void enregistre(NomForme nom, Fabrique fabrique);
     /// What the forms are made with; \p parent is the main window, which stays behind them, and \p fond what of it lies
     /// below its menus and buttons.
@@ -41,8 +42,11 @@ public:
     void Montre(NomForme nom);
     /// Shows the form in front of the others and leaves the focus where it is.
     void MontreSansFocus(NomForme nom);
+    /// Takes the form off the screen; it stays loaded as it is.
     void Cache(NomForme nom);
+    /// Unloads the form: it runs Form_Unload, leaves the screen and is deleted by the event loop.
     void Decharge(NomForme nom);
+    /// The same for each of \p noms, in their order.
     void Decharge(const std::vector<NomForme> &noms);
     /// Unloads every form that is still loaded.
     void DechargeTout();
@@ -51,7 +55,9 @@ public:
     QStringList noms() const { return m_fabriques.keys(); }
     /// The loaded form of that name, null when it is not loaded.
     Formulaire *forme(const QString &nom) const { return m_chargees.value(nom); }
+    /// Whether the form is loaded, shown or not.
     bool estChargee(const QString &nom) const { return m_chargees.contains(nom); }
+    /// Whether the form is loaded and shown, be it behind others.
     bool estVisible(const QString &nom) const;
 
     /// What the desktop's frame adds to the size of a window, in pixels. A desktop gives a window its frame once the
@@ -72,6 +78,7 @@ public:
         return *std::any_cast<Etat>(&etat);
     }
 
+    /// What the forms were like when they were first shown.
     Redimensionnement &redimensionnement() { return m_redimensionnement; }
 
 protected:

@@ -16,6 +16,7 @@ public:
     ~Patience();
     Q_DISABLE_COPY_MOVE(Patience)
 
+    /// Another text in the notice, shown at once.
     void dit(const QString &texte);
 
 private:

@@ -27,12 +27,15 @@ public:
 
     /// Number of rows, the header included; at least 1.
     int Rows() const { return m_modele->lignes(); }
+    /// Rows go and come at the end; new ones are empty.
     void setRows(int nombre);
     /// Number of columns; at least 1.
     int Cols() const { return m_modele->colonnes(); }
+    /// Columns go and come on the right.
     void setCols(int nombre);
 
-    /// Current cell. Setting its row or its column makes it the whole selection.
+    /// Current cell, counted from 0 at the header and the first column; a place outside the grid is passed
+    /// over. Setting its row or its column makes it the whole selection.
     int Row() const { return m_row; }
     void setRow(int ligne);
     int Col() const { return m_col; }
@@ -59,6 +62,7 @@ public:
     void setFormatString(const QString &format);
     QString FormatString() const { return m_format; }
 
+    /// Width of a column in twips.
     int ColWidth(int colonne) const;
     void setColWidth(int colonne, int twips);
     /// Whether a column is shown at least as wide as its heading, whatever ColWidth() says.
@@ -107,6 +111,7 @@ Q_SIGNALS:
     /// A button has been pressed, and the selection has followed when it was the left one. Row and column are those
     /// under the pointer: row 0 on the header, -1 outside all rows or columns.
     void mousePresse(Qt::MouseButton bouton, Qt::KeyboardModifiers touches, int ligne, int colonne);
+    /// The same when the button is let go.
     void mouseRelache(Qt::MouseButton bouton, Qt::KeyboardModifiers touches, int ligne, int colonne);
     /// A key has been pressed; keys that move the selection have moved it.
     void touche(QKeyEvent *evenement);

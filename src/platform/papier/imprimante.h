@@ -37,7 +37,9 @@ class Destination
 {
 public:
     virtual ~Destination() = default;
+    /// Size of the sheet.
     virtual QSize papier() const = 0;
+    /// Edge that cannot be printed on.
     virtual QMargins marges() const = 0;
     /// Number of copies that the operator asked for.
     virtual int copies() const { return 1; }
@@ -74,12 +76,14 @@ public:
     /// Holds for the current page while nothing stands on it, and for the following ones.
     void setOrientation(Orientation orientation);
 
+    /// Width of \p texte, one line, in the current letters.
     int TextWidth(const QString &texte) const;
     /// Prints at the current place and moves it behind the text, or to the start of the next line with
     /// \p finDeLigne. A line break inside the text does the same.
     void Print(const QString &texte, bool finDeLigne = true);
     /// Draws a straight line; the place of the next text stays.
     void Line(int x1, int y1, int x2, int y2);
+    /// Begins a page; the place goes to its corner, the letters stay.
     void NewPage();
     /// Ends the document and sends it. A printer that fails is passed over.
     void EndDoc();
