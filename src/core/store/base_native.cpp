@@ -341,6 +341,7 @@ void BaseNative::ferme()
 
 void BaseNative::executeScript(const QString &script)
 {
+    libereLectures();
     const int code = sqlite3_exec(m_base, script.toUtf8().constData(), nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)
         echoue(code);

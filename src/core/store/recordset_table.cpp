@@ -56,7 +56,6 @@ bool RecordsetTable::cherche(const QString &condition, const std::vector<Valeur>
     m_flux = Instruction(base(), m_selection + condition + m_ordre);
     for (std::size_t i = 0; i < valeurs.size(); ++i)
         m_flux.lie(int(i) + 1, valeurs[i]);
-    m_changementsDuFlux = base().changements();
     return recoit();
 }
 
@@ -145,7 +144,7 @@ void RecordsetTable::Seek(QStringView op, const std::vector<Valeur> &cles)
 
 bool RecordsetTable::avance()
 {
-    if (m_flux.active() && m_changementsDuFlux == base().changements() && recoit())
+    if (m_flux.active() && recoit())
         return true;
     m_flux.rend();
     if (m_index == nullptr)
