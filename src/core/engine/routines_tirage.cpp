@@ -6,6 +6,7 @@
 
 #include <QHash>
 
+#include <limits>
 #include <utility>
 
 using moteur::LigneClassement;
@@ -20,23 +21,6 @@ constexpr int premierTour = 1;
 std::optional<int> optionnel(const Instruction &ligne, int colonne)
 {
     return ligne.estNulle(colonne) ? std::nullopt : std::optional(int(ligne.nombre(colonne)));
-}
-
-std::vector<Partie> litRencontres(Partage &partage, qint64 concours)
-{
-    std::vector<Partie> rencontres;
-    Instruction lecture(partage.BaseDonnees.native(),
-                        u"select tour, equipe_1, equipe_2, score_1, score_2, repechage from scores where concours = ? "
-                        u"order by tour, equipe_1, rowid"_qs);
-    lecture.lie(1, concours);
-    while (lecture.avance())
-        rencontres.push_back({.tour = int(lecture.nombre(0)),
-                              .equipe1 = int(lecture.nombre(1)),
-                              .equipe2 = int(lecture.nombre(2)),
-                              .score1 = optionnel(lecture, 3),
-                              .score2 = optionnel(lecture, 4),
-                              .repechage = optionnel(lecture, 5)});
-    return rencontres;
 }
 
 void ecritClassement(Partage &partage, qint64 concours, const std::vector<LigneClassement> &lignes)
@@ -71,29 +55,14 @@ void metAJourClassement(Partage &partage, const std::vector<LigneClassement> &av
     }
 }
 
-/// Club of each team of the competition, that of its first member.
-QHash<int, QString> litClubs(Partage &partage)
-{
-    QHash<int, QString> clubs;
-    Instruction lecture(partage.BaseDonnees.native(),
-                        u"select equipe, societe from equipes where concours = ? order by equipe, doublon"_qs);
-    lecture.lie(1, partage.ConcoursCourant);
-    int precedente = -1;
-    while (lecture.avance()) {
-        const int equipe = int(lecture.nombre(0));
-        if (equipe != precedente)
-            clubs.insert(equipe, lecture.valeur(1).texte());
-        precedente = equipe;
-    }
-    return clubs;
-}
-
-std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage)
+/// Pairs of the rounds before \p tour, in the order of the store.
+std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage, int tour)
 {
     std::vector<moteur::PaireJouee> paires;
     Instruction lecture(partage.BaseDonnees.native(),
-                        u"select equipe_1, equipe_2 from scores where concours = ? order by rowid"_qs);
+                        u"select equipe_1, equipe_2 from scores where concours = ? and tour < ? order by rowid"_qs);
     lecture.lie(1, partage.ConcoursCourant);
+    lecture.lie(2, tour);
     while (lecture.avance())
         paires.push_back({int(lecture.nombre(0)), int(lecture.nombre(1))});
     return paires;
@@ -117,7 +86,7 @@ void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Partie>
 
 std::vector<moteur::EquipeInscrite> litEquipesInscrites(Partage &partage)
 {
-    const QHash<int, QString> clubs = litClubs(partage);
+    const QHash<int, QString> clubs = LitClubs(partage);
     store::Recordset evolution =
         partage.BaseDonnees.OpenRecordset(u"select * from evolution where (principal >= 1 and concours = %1);"_qs.arg(
                                               partage.ConcoursCourant),
@@ -185,10 +154,43 @@ void metLeFichierAJour(Partage &partage)
 
 } // namespace
 
+std::vector<Partie> LitParties(Partage &partage, qint64 concours)
+{
+    std::vector<Partie> parties;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select tour, equipe_1, equipe_2, score_1, score_2, repechage from scores where concours = ? "
+                        u"order by tour, equipe_1, rowid"_qs);
+    lecture.lie(1, concours);
+    while (lecture.avance())
+        parties.push_back({.tour = int(lecture.nombre(0)),
+                           .equipe1 = int(lecture.nombre(1)),
+                           .equipe2 = int(lecture.nombre(2)),
+                           .score1 = optionnel(lecture, 3),
+                           .score2 = optionnel(lecture, 4),
+                           .repechage = optionnel(lecture, 5)});
+    return parties;
+}
+
+QHash<int, QString> LitClubs(Partage &partage)
+{
+    QHash<int, QString> clubs;
+    Instruction lecture(partage.BaseDonnees.native(),
+                        u"select equipe, societe from equipes where concours = ? order by equipe, doublon"_qs);
+    lecture.lie(1, partage.ConcoursCourant);
+    int precedente = -1;
+    while (lecture.avance()) {
+        const int equipe = int(lecture.nombre(0));
+        if (equipe != precedente)
+            clubs.insert(equipe, lecture.valeur(1).texte());
+        precedente = equipe;
+    }
+    return clubs;
+}
+
 void CalculClassement(Partage &partage, const QString &concours)
 {
     const qint64 numero = Valeur(concours).entier();
-    const auto lignes = moteur::etablitClassement(litRencontres(partage, numero), partage.alea);
+    const auto lignes = moteur::etablitClassement(LitParties(partage, numero), partage.alea);
     partage.BaseDonnees.EcritEnGroupe([&] { ecritClassement(partage, numero, lignes); });
 }
 
@@ -253,12 +255,12 @@ void TirageSuivant(Partage &partage, const SuiviTirage &suivi)
 {
     const std::vector<LigneClassement> avant = LitClassement(partage);
     std::vector<LigneClassement> apres = avant;
-    const QHash<int, QString> clubsDesEquipes = litClubs(partage);
+    const QHash<int, QString> clubsDesEquipes = LitClubs(partage);
     std::vector<QString> clubs;
     clubs.reserve(apres.size());
     for (const LigneClassement &ligne : apres)
         clubs.push_back(clubsDesEquipes.value(ligne.equipe));
-    const std::vector<moteur::PaireJouee> jouees = litPairesJouees(partage);
+    const std::vector<moteur::PaireJouee> jouees = litPairesJouees(partage, std::numeric_limits<int>::max());
 
     partage.TabTirage = moteur::tireTourSuivant({.classement = apres,
                                                  .clubs = clubs,
@@ -295,6 +297,44 @@ BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi)
     partage.TourCourant = qint16(tour);
     metLeFichierAJour(partage);
     return {.statut = std::exchange(partage.TabTirage, {}).statut};
+}
+
+TourPropose ProposeTour(Partage &partage, int tour)
+{
+    if (tour == premierTour)
+        return {.parties = moteur::tireTour1(litEquipesInscrites(partage),
+                                             exemptDuTourPrecedent(partage, 1, premierTour), partage.alea)};
+    std::vector<Partie> avant = LitParties(partage, partage.ConcoursCourant);
+    std::erase_if(avant, [tour](const Partie &partie) { return partie.tour >= tour; });
+    const std::vector<moteur::PaireJouee> jouees = litPairesJouees(partage, tour);
+    const QHash<int, QString> clubsDesEquipes = LitClubs(partage);
+    moteur::TabTirage table;
+    std::vector<LigneClassement> classement;
+    int essais = 0;
+    do {
+        ++essais;
+        classement = moteur::etablitClassement(avant, partage.alea);
+        std::vector<QString> clubs;
+        for (const LigneClassement &ligne : classement)
+            clubs.push_back(clubsDesEquipes.value(ligne.equipe));
+        table = moteur::tireTourSuivant({.classement = classement,
+                                         .clubs = clubs,
+                                         .jouees = jouees,
+                                         .tourpri = tour - 1,
+                                         .repeche = partage.AvecRepechage});
+    } while (moteur::tirageARefaire(table.statut, tour - 1, essais));
+    return {moteur::rencontresDuTour(table, classement, tour), table.statut};
+}
+
+void RemplaceTour(Partage &partage, const std::vector<Partie> &parties)
+{
+    partage.BaseDonnees.EcritEnGroupe([&] {
+        partage.BaseDonnees.Execute(
+            u"delete * from scores where concours=%1 and tableau=1 and tour=%2"_qs.arg(partage.ConcoursCourant)
+                .arg(partage.TourCourant));
+        ecritRencontres(partage, 1, parties);
+    });
+    metLeFichierAJour(partage);
 }
 
 void ReprendTour(Partage &partage)

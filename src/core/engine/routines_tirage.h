@@ -4,6 +4,8 @@
 #include "engine/tirage_suivant.h"
 #include "partage/partage.h"
 
+#include <QHash>
+
 #include <functional>
 #include <vector>
 
@@ -48,6 +50,26 @@ void TirageSuivant(Partage &partage, const SuiviTirage &suivi = {});
 /// Draws and stores the next round of the current competition, with up to ten attempts. A competition without matches
 /// is not started, whatever its round says: it goes through ConfirmeTirage.
 BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi = {});
+
+/// All matches of the competition \p concours, in the order of rounds and first teams.
+std::vector<moteur::Partie> LitParties(Partage &partage, qint64 concours);
+
+/// Club of each team of the current competition, that of its first member.
+QHash<int, QString> LitClubs(Partage &partage);
+
+/// A round of the current competition drawn by the rules, and nowhere written.
+struct TourPropose
+{
+    std::vector<moteur::Partie> parties;
+    moteur::StatutTirage statut = moteur::StatutTirage::RienASignaler;
+};
+
+/// Draws round \p tour, from 1 to the current one, anew from the matches before it.
+TourPropose ProposeTour(Partage &partage, int tour);
+
+/// Puts \p parties into the place of the matches of the current round in bracket 1, whole or not at all. Make a copy
+/// before.
+void RemplaceTour(Partage &partage, const std::vector<moteur::Partie> &parties);
 
 /// Takes up the last round that the current competition has matches of, in the file too, where its row tells a lower
 /// one: a cancelled round leaves it so.

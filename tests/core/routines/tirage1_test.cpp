@@ -4,6 +4,7 @@
 #include "commun/contenu.h"
 #include "commun/panne_ecriture.h"
 #include "donnees/inscription.h"
+#include "engine/routines_rapport.h"
 #include "engine/routines_resultats.h"
 #include "engine/routines_tirage.h"
 
@@ -184,6 +185,36 @@ TEST_F(EcritureCoupee, UnActeEstEntierOuNAPasEuLieu)
     salle.partage.BaseDonnees.Close();
     salle.partage.BaseDonnees = salle.base.ouvre();
     EXPECT_EQ(Contenu(salle.native()), contenu);
+}
+
+/// What is proposed is what the click would draw, and nothing is written before it is chosen.
+TEST_F(EcritureCoupee, UnTourProposeEstCeluiQueLesReglesTirent)
+{
+    for (const int equipes : {7, 16}) {
+        for (const bool repeche : {false, true}) {
+            salle.inscrit({.repeche = repeche, .equipes = essai::inscrit(equipes, {.clubs = 3}, sort)});
+            for (int tour = 1; tour <= 3; ++tour) {
+                salle.clique();
+                EXPECT_TRUE(PeutRefaireTour(salle.partage));
+                const QStringList contenu = Contenu(salle.native(), u"tbclass"_qs);
+                AleaFixe avant = salle.alea;
+                const TourPropose propose = ProposeTour(salle.partage, tour);
+                const std::vector<Partie> autres =
+                    CherchePlusieursTours(salle.partage, 5, [](int faits) { return faits < 3; }).tour.parties;
+                EXPECT_EQ(Contenu(salle.native(), u"tbclass"_qs), contenu);
+                std::swap(avant, salle.alea);
+                AnnuleTour(salle.partage);
+                EXPECT_EQ(salle.clique().bilan.statut, propose.statut);
+                EXPECT_EQ(salle.scores(tour), propose.parties);
+
+                coupe("round replaced", [&] { RemplaceTour(salle.partage, autres); });
+                EXPECT_EQ(salle.scores(tour), autres);
+                EXPECT_EQ(salle.tourpri(), tour);
+                joue();
+                EXPECT_FALSE(PeutRefaireTour(salle.partage));
+            }
+        }
+    }
 }
 
 } // namespace
