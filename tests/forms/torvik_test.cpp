@@ -70,7 +70,7 @@ TEST(TableDesFormes, EachEntryUnloadsItsFormsInItsOrder)
         {Entree::Resultats, u"Econcours Eequipes Listesoc manqres palmares valresu Resusoc Ejoueurs listeq Listco"_qs},
         {Entree::Purge,
          u"Econcours Eequipes Listesoc listeq Listco I_tirage EResultats valresu manqres Groupes palmares "
-         u"Resusoc Détail_résultats CopiesSecurite"_qs},
+         u"Resusoc Détail_résultats CopiesSecurite RapportTirage"_qs},
         {Entree::Fin, u"Econcours Eequipes EResultats Listesoc manqres palmares valresu Accueil Resusoc"_qs},
     };
     for (const auto &[entree, noms] : attendus)

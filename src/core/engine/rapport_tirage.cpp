@@ -106,32 +106,32 @@ int defautsAuMoins(std::size_t equipes, const std::function<bool(std::size_t, st
 
 } // namespace
 
-int RapportTirage::repetitions() const
+int RapportTour::repetitions() const
 {
     return int(std::ranges::count_if(paires, [](const PaireRapportee &p) { return p.dejaAuTour.has_value(); }));
 }
 
-int RapportTirage::memeClub() const
+int RapportTour::memeClub() const
 {
     return int(std::ranges::count_if(paires, &PaireRapportee::memeClub));
 }
 
-bool RapportTirage::aSignaler() const
+bool RapportTour::aSignaler() const
 {
     return std::ranges::any_of(paires,
                                [](const PaireRapportee &p) { return p.dejaAuTour || p.memeClub || p.encoreExempt; });
 }
 
-const NiveauRapporte *RapportTirage::niveau(int lequel) const
+const NiveauRapporte *RapportTour::niveau(int lequel) const
 {
     const auto trouve = std::ranges::find(niveaux, lequel, &NiveauRapporte::niveau);
     return trouve == niveaux.end() ? nullptr : &*trouve;
 }
 
-RapportTirage etablitRapport(std::span<const Partie> parties, int tour, const QHash<int, QString> &clubs)
+RapportTour etablitRapport(std::span<const Partie> parties, int tour, const QHash<int, QString> &clubs)
 {
     const Passe passe(parties, tour);
-    RapportTirage rapport{.tour = tour};
+    RapportTour rapport{.tour = tour};
     for (const Partie &partie : parties) {
         if (partie.tour == tour)
             rapport.paires.push_back(rapporte(partie, passe, clubs));
@@ -153,7 +153,7 @@ RapportTirage etablitRapport(std::span<const Partie> parties, int tour, const QH
     return rapport;
 }
 
-void calculeMinimums(RapportTirage &rapport, std::span<const Partie> parties, const QHash<int, QString> &clubs)
+void calculeMinimums(RapportTour &rapport, std::span<const Partie> parties, const QHash<int, QString> &clubs)
 {
     const Passe passe(parties, rapport.tour);
     for (NiveauRapporte &niveau : rapport.niveaux) {
@@ -172,12 +172,13 @@ void calculeMinimums(RapportTirage &rapport, std::span<const Partie> parties, co
             niveau.repetitionsAuMoins = defautsAuMoins(equipes.size(), nouvelle);
         if (niveau.memeClub > 0)
             niveau.memeClubAuMoins = defautsAuMoins(equipes.size(), deuxClubs);
-        niveau.defautsAuMoins = defautsAuMoins(
-            equipes.size(), [&](std::size_t i, std::size_t j) { return nouvelle(i, j) && deuxClubs(i, j); });
+        niveau.defautsAuMoins = defautsAuMoins(equipes.size(), [&](std::size_t i, std::size_t j) {
+            return nouvelle(i, j) && deuxClubs(i, j);
+        });
     }
 }
 
-bool vautMieux(const RapportTirage &un, const RapportTirage &autre)
+bool vautMieux(const RapportTour &un, const RapportTour &autre)
 {
     return std::pair(un.repetitions(), un.memeClub()) < std::pair(autre.repetitions(), autre.memeClub());
 }

@@ -44,9 +44,9 @@ struct NiveauRapporte
 };
 
 /// A round as it has been drawn.
-struct RapportTirage
+struct RapportTour
 {
-    bool operator==(const RapportTirage &) const = default;
+    bool operator==(const RapportTour &) const = default;
 
     int repetitions() const;
     int memeClub() const;
@@ -62,16 +62,16 @@ struct RapportTirage
 /// Report on round \p tour among \p parties, all matches of the competition. \p clubs gives the club of a team; teams
 /// without one, or of an empty one, are of no club: leave mixed teams out. What a level could have at least is not
 /// looked for yet: it is told as what it has.
-RapportTirage etablitRapport(std::span<const Partie> parties, int tour, const QHash<int, QString> &clubs);
+RapportTour etablitRapport(std::span<const Partie> parties, int tour, const QHash<int, QString> &clubs);
 
 /// Works out what each level of \p rapport could have at least, exactly.
 ///
 /// The teams of a level stand in a graph whose edges are the pairs without the defect. A largest matching there of m
 /// edges leaves n - 2m teams of which no two are joined; paired among themselves they make n/2 - m matches with the
 /// defect, and no pairing has fewer.
-void calculeMinimums(RapportTirage &rapport, std::span<const Partie> parties, const QHash<int, QString> &clubs);
+void calculeMinimums(RapportTour &rapport, std::span<const Partie> parties, const QHash<int, QString> &clubs);
 
 /// Whether \p un is better to post than \p autre: fewer repeats, then fewer pairs of one club.
-bool vautMieux(const RapportTirage &un, const RapportTirage &autre);
+bool vautMieux(const RapportTour &un, const RapportTour &autre);
 
 } // namespace moteur

@@ -19,9 +19,8 @@ std::vector<moteur::Partie> avec(const MatiereRapport &matiere, int tour, const 
 MatiereRapport LitMatiere(Partage &partage)
 {
     MatiereRapport matiere{LitParties(partage, partage.ConcoursCourant), LitClubs(partage)};
-    erase_if(matiere.clubs, [](const std::pair<const int &, QString &> &club) {
-        return donnees::EstPanache(club.second);
-    });
+    erase_if(matiere.clubs,
+             [](const std::pair<const int &, QString &> &club) { return donnees::EstPanache(club.second); });
     return matiere;
 }
 
@@ -45,7 +44,7 @@ MeilleurTour CherchePlusieursTours(Partage &partage, int essais, const std::func
     MeilleurTour meilleur;
     for (int essai = 1; essai <= essais; ++essai) {
         TourPropose propose = ProposeTour(partage, tour);
-        moteur::RapportTirage rapport = moteur::etablitRapport(avec(matiere, tour, propose.parties), tour, matiere.clubs);
+        moteur::RapportTour rapport = moteur::etablitRapport(avec(matiere, tour, propose.parties), tour, matiere.clubs);
         if (essai == 1 || moteur::vautMieux(rapport, meilleur.rapport))
             meilleur = {std::move(propose), std::move(rapport), 0};
         meilleur.essais = essai;

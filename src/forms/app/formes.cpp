@@ -6,6 +6,7 @@
 #include "fenetres/alerte.h"
 #include "noms/formes.h"
 #include "outils/copies_securite.h"
+#include "outils/rapport_tirage.h"
 #include "printing/i_tirage.h"
 #include "printing/palmares.h"
 #include "printing/resusoc.h"
@@ -58,6 +59,7 @@ constexpr LigneForme table[] = {
     {formes::FrmHorloge,      fabrique<FrmHorloge>,      std::nullopt,    Rien,   {}},
     {formes::langues,         fabrique<langues>,         std::nullopt,    Rien,   {}},
     {formes::CopiesSecurite,  fabrique<CopiesSecurite>,  std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 14, 0}},
+    {formes::RapportTirage,   fabrique<RapportTirage>,   std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 15, 0}},
     {nomAlerte,               fabrique<Alerte>,          std::nullopt,    Rien,   {}},
 };
 // clang-format on

@@ -23,6 +23,7 @@ inline constexpr NomForme Listesoc{u"Listesoc"};
 inline constexpr NomForme listjo{u"listjo"};
 inline constexpr NomForme manqres{u"manqres"};
 inline constexpr NomForme palmares{u"palmares"};
+inline constexpr NomForme RapportTirage{u"RapportTirage"};
 inline constexpr NomForme Resusoc{u"Resusoc"};
 inline constexpr NomForme valresu{u"valresu"};
 

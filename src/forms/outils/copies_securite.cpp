@@ -28,22 +28,6 @@ QString nomFichier(const QString &chemin)
     return QFileInfo(chemin).fileName();
 }
 
-/// Numbers stand under each other.
-QTableWidgetItem *cellule(const QString &texte)
-{
-    auto *cellule = new QTableWidgetItem(texte);
-    bool estNombre = false;
-    texte.toInt(&estNombre);
-    cellule->setTextAlignment(estNombre ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-    return cellule;
-}
-
-void ecrit(QTableWidget &table, int ligne, const QStringList &textes)
-{
-    for (int colonne = 0; colonne < textes.size(); ++colonne)
-        table.setItem(ligne, colonne, cellule(textes[colonne]));
-}
-
 } // namespace
 
 CopiesSecurite::CopiesSecurite(const Contexte &contexte, QWidget *parent)
@@ -160,7 +144,7 @@ void CopiesSecurite::montreLigne(int ligne)
                                                           {},
                                                           {}};
     textes.insert(colonneEcart, differences(montree));
-    ecrit(*m_ui->Copies, ligne, textes);
+    ecritLigne(*m_ui->Copies, ligne, textes);
 }
 
 const CopiesSecurite::Ligne *CopiesSecurite::choisie() const
@@ -181,9 +165,9 @@ void CopiesSecurite::montreConcours()
     m_ui->Concours->setRowCount(lisible ? int(ligne->inventaire->concours.size()) : 0);
     for (int i = 0; i < m_ui->Concours->rowCount(); ++i) {
         const ConcoursTenu &tenu = ligne->inventaire->concours[std::size_t(i)];
-        ecrit(*m_ui->Concours, i,
-              {NumeroConcours(tenu.numero), FormateDate(tenu.jour, mes(117)), tenu.lieu, tenu.type,
-               QString::number(tenu.equipes), QString::number(tenu.tours), QString::number(tenu.resultats)});
+        ecritLigne(*m_ui->Concours, i,
+                   {NumeroConcours(tenu.numero), FormateDate(tenu.jour, mes(117)), tenu.lieu, tenu.type,
+                    QString::number(tenu.equipes), QString::number(tenu.tours), QString::number(tenu.resultats)});
     }
 }
 

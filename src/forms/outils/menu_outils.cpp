@@ -1,7 +1,9 @@
 #include "outils/menu_outils.h"
 
 #include "fenetres/formulaires.h"
+#include "noms/apres_tirage.h"
 #include "noms/formes.h"
+#include "outils/rapport_tirage.h"
 
 #include <QEvent>
 
@@ -18,6 +20,7 @@ struct Entree
 const std::vector<Entree> &entrees()
 {
     static const std::vector<Entree> lignes{
+        {formes::RapportTirage, Qt::Key_F7, QT_TRANSLATE_NOOP("MenuOutils", "&Rapport du tirage")},
         {formes::CopiesSecurite, Qt::Key_F9, QT_TRANSLATE_NOOP("MenuOutils", "&Copies de sécurité")},
     };
     return lignes;
@@ -40,7 +43,7 @@ MenuOutils::MenuOutils(const Contexte &contexte, QWidget *parent)
                 [this, &entree] { Execute(m_contexte.boites, [&] { m_contexte.formulaires.Montre(entree.forme); }); });
     }
     traduit();
-    menuAction()->setVisible(!isEmpty());
+    apresTirage(contexte.formulaires).traite = [contexte] { MontreRapportApresTirage(contexte); };
 }
 
 void MenuOutils::traduit()

@@ -5,6 +5,7 @@
 #include "fenetres/copie_prealable.h"
 #include "fenetres/formulaires.h"
 #include "fenetres/sablier.h"
+#include "noms/apres_tirage.h"
 #include "noms/formes.h"
 #include "noms/passation.h"
 #include "partage/concours_courant.h"
@@ -272,6 +273,8 @@ void EResultats::tirage_suivant_Click()
     for (const NomForme vue : {formes::manqres, formes::valresu, formes::Groupes})
         formulaires().Cache(vue);
     SetFocus(m_ui->Equipe1);
+    if (const auto &traite = apresTirage(formulaires()).traite)
+        traite();
 }
 
 /// Round 1 has not been drawn since \p obstacle is there: the operator decides. False when the old draw was kept for

@@ -9,6 +9,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <tuple>
+
 namespace {
 
 constexpr int hauteurLigne = 34; // pixels
@@ -31,6 +33,17 @@ void appreteListe(QTableWidget &table)
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void ecritLigne(QTableWidget &table, int ligne, const QStringList &textes)
+{
+    for (int colonne = 0; colonne < textes.size(); ++colonne) {
+        auto *cellule = new QTableWidgetItem(textes[colonne]);
+        bool estNombre = false;
+        std::ignore = textes[colonne].toInt(&estNombre);
+        cellule->setTextAlignment(estNombre ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+        table.setItem(ligne, colonne, cellule);
+    }
 }
 
 ListeAChoisir::ListeAChoisir(const BoiteListe &liste, QWidget *parent)
@@ -68,9 +81,7 @@ void ListeAChoisir::remplit(const BoiteListe &liste)
     m_lignes->setHorizontalHeaderLabels(liste.Entetes);
     m_lignes->setRowCount(int(liste.Lignes.size()));
     for (int ligne = 0; ligne < m_lignes->rowCount(); ++ligne) {
-        const QStringList &textes = liste.Lignes[std::size_t(ligne)];
-        for (int colonne = 0; colonne < textes.size(); ++colonne)
-            m_lignes->setItem(ligne, colonne, new QTableWidgetItem(textes[colonne]));
+        ecritLigne(*m_lignes, ligne, liste.Lignes[std::size_t(ligne)]);
     }
     appreteListe(*m_lignes);
     if (liste.Choisie >= 0)

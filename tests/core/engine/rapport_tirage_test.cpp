@@ -10,7 +10,7 @@
 using moteur::NiveauRapporte;
 using moteur::PaireRapportee;
 using moteur::Partie;
-using moteur::RapportTirage;
+using moteur::RapportTour;
 
 namespace {
 
@@ -94,7 +94,8 @@ TEST(RapportTirage, EveryMatchIsToldAsTheRowsTellItAndNoPairingHasFewerDefects)
     for (quint32 graine = 1; graine <= 120; ++graine) {
         SCOPED_TRACE(graine);
         std::mt19937 sort(graine);
-        essai::Concours concours(essai::inscrit(int(4 + graine % 9), {.clubs = int(2 + graine % 4), .pourcentSans = 10}, sort),
+        essai::Concours concours(essai::inscrit(int(4 + graine % 9), {.clubs = int(2 + graine % 4), .pourcentSans = 10},
+                                                sort),
                                  graine % 2 == 0, graine);
         while (concours.tourpri() < 6 && concours.joueTour()) {}
         const std::vector<Partie> parties = concours.rencontres();
@@ -102,7 +103,7 @@ TEST(RapportTirage, EveryMatchIsToldAsTheRowsTellItAndNoPairingHasFewerDefects)
         for (int tour = 1; tour <= concours.tourpri(); ++tour) {
             SCOPED_TRACE(tour);
             const SurPapier papier(parties, tour, clubsDesEquipes);
-            RapportTirage rapport = moteur::etablitRapport(parties, tour, clubsDesEquipes);
+            RapportTour rapport = moteur::etablitRapport(parties, tour, clubsDesEquipes);
             moteur::calculeMinimums(rapport, parties, clubsDesEquipes);
 
             std::map<int, std::vector<int>> equipes;
@@ -121,7 +122,9 @@ TEST(RapportTirage, EveryMatchIsToldAsTheRowsTellItAndNoPairingHasFewerDefects)
                 }
                 const int niveaux[] = {victoires(paire.equipe1), victoires(paire.equipe2)};
                 EXPECT_EQ(paire.niveau, std::max(niveaux[0], niveaux[1]));
-                const int remontee = niveaux[0] < niveaux[1] ? paire.equipe1 : niveaux[1] < niveaux[0] ? paire.equipe2 : 0;
+                const int remontee = niveaux[0] < niveaux[1] ? paire.equipe1
+                    : niveaux[1] < niveaux[0]                ? paire.equipe2
+                                                             : 0;
                 EXPECT_EQ(paire.remontee.value_or(0), remontee);
                 EXPECT_TRUE(remontee == 0 || paire.niveauRemontee == std::min(niveaux[0], niveaux[1]));
                 EXPECT_EQ(paire.dejaAuTour.value_or(0), papier.deja(paire.equipe1, paire.equipe2));
@@ -154,7 +157,7 @@ TEST(RapportTirage, ASecondByeIsTold)
                                       {.tour = 2, .equipe1 = 1, .equipe2 = 2},
                                       {.tour = 2, .equipe1 = 3}};
     EXPECT_FALSE(moteur::etablitRapport(parties, 1, {}).aSignaler());
-    const RapportTirage rapport = moteur::etablitRapport(parties, 2, {});
+    const RapportTour rapport = moteur::etablitRapport(parties, 2, {});
     EXPECT_TRUE(rapport.paires.back().encoreExempt);
     EXPECT_EQ(rapport.paires.front().dejaAuTour, 1);
     EXPECT_TRUE(rapport.aSignaler());
@@ -163,7 +166,7 @@ TEST(RapportTirage, ASecondByeIsTold)
 TEST(RapportTirage, FewerRepeatsGoBeforeFewerPairsOfOneClub)
 {
     const auto rapport = [](int repetitions, int memeClub) {
-        RapportTirage fait{.tour = 2};
+        RapportTour fait{.tour = 2};
         for (int i = 0; i < std::max(repetitions, memeClub); ++i)
             fait.paires.push_back({.equipe1 = 1,
                                    .equipe2 = 2,

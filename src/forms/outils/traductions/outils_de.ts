@@ -146,6 +146,10 @@
         <source>&amp;Copies de sécurité</source>
         <translation>Si&amp;cherungskopien</translation>
     </message>
+    <message>
+        <source>&amp;Rapport du tirage</source>
+        <translation>Be&amp;richt der Auslosung</translation>
+    </message>
 </context>
 <context>
     <name>MotsCopies</name>
@@ -295,6 +299,162 @@
     <message>
         <source>Résultats</source>
         <translation>Ergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>RapportTirage</name>
+    <message>
+        <source>Rapport du tirage</source>
+        <translation>Bericht der Auslosung</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Runde</translation>
+    </message>
+    <message>
+        <source>Montrer après chaque tirage qui a quelque chose à signaler</source>
+        <translation>Nach jeder Auslosung zeigen, die etwas zu melden hat</translation>
+    </message>
+    <message>
+        <source>Rencontres du tour</source>
+        <translation>Spiele der Runde</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage</source>
+        <translation>Neu auslosen</translation>
+    </message>
+    <message>
+        <source>Refaire jusqu&apos;au meilleur</source>
+        <translation>Bis zur besten auslosen</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Fiches de partie</source>
+        <translation>Spielzettel</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Niveau</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>Equipe</source>
+        <translation>Mannschaft</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Verein</translation>
+    </message>
+    <message>
+        <source>Remarque</source>
+        <translation>Bemerkung</translation>
+    </message>
+    <message>
+        <source>exempte pour la deuxième fois</source>
+        <translation>zum zweiten Mal spielfrei</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>spielfrei</translation>
+    </message>
+    <message>
+        <source>évitable</source>
+        <translation>vermeidbar</translation>
+    </message>
+    <message>
+        <source>inévitable</source>
+        <translation>unvermeidbar</translation>
+    </message>
+    <message>
+        <source>déjà rencontrées au tour %1 (%2)</source>
+        <translation>schon in Runde %1 getroffen (%2)</translation>
+    </message>
+    <message>
+        <source>même club (%1)</source>
+        <translation>gleicher Verein (%1)</translation>
+    </message>
+    <message>
+        <source>%1 remontée du niveau %2</source>
+        <translation>%1 aufgerückt von Stufe %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) déjà jouée(s)</source>
+        <translation>
+            <numerusform>%n Spiel schon gespielt</numerusform>
+            <numerusform>%n Spiele schon gespielt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) d&apos;un même club</source>
+        <translation>
+            <numerusform>%n Spiel im gleichen Verein</numerusform>
+            <numerusform>%n Spiele im gleichen Verein</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aucun tour n&apos;est tiré.</source>
+        <translation>Es ist keine Runde ausgelost.</translation>
+    </message>
+    <message>
+        <source>Tour %1 : %2.</source>
+        <translation>Runde %1: %2.</translation>
+    </message>
+    <message>
+        <source>Niveau %1 : une autre répartition aurait %2 défaut(s) au lieu de %3.</source>
+        <translation>Stufe %1: eine andere Verteilung hätte %2 statt %3 solcher Spiele.</translation>
+    </message>
+    <message>
+        <source>Le tirage d&apos;avant : %1.</source>
+        <translation>Die Auslosung davor: %1.</translation>
+    </message>
+    <message>
+        <source>Un résultat de ce tour est saisi : il ne se refait plus.</source>
+        <translation>Ein Ergebnis dieser Runde ist erfasst: sie kann nicht mehr neu ausgelost werden.</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage du tour %1 ?</source>
+        <translation>Runde %1 neu auslosen?</translation>
+    </message>
+    <message>
+        <source>Le tirage actuel sera remplacé ; une copie en est gardée.</source>
+        <translation>Die jetzige Auslosung wird ersetzt; eine Kopie bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>Tirages essayés</source>
+        <translation>Versuchte Auslosungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Le meilleur de %n tirage(s) : %1.</source>
+        <translation>
+            <numerusform>Die beste von %n Auslosung: %1.</numerusform>
+            <numerusform>Die beste von %n Auslosungen: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Le tirage actuel : %1.</source>
+        <translation>Die jetzige Auslosung: %1.</translation>
+    </message>
+    <message>
+        <source>Le mettre à la place ?</source>
+        <translation>An ihre Stelle setzen?</translation>
+    </message>
+    <message>
+        <source>Tour %1</source>
+        <translation>Runde %1</translation>
+    </message>
+    <message>
+        <source>Terrain</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Punkte</translation>
     </message>
 </context>
 </TS>

@@ -146,6 +146,10 @@
         <source>&amp;Copies de sécurité</source>
         <translation>Safety &amp;copies</translation>
     </message>
+    <message>
+        <source>&amp;Rapport du tirage</source>
+        <translation>&amp;Report of the draw</translation>
+    </message>
 </context>
 <context>
     <name>MotsCopies</name>
@@ -295,6 +299,162 @@
     <message>
         <source>Résultats</source>
         <translation>Results</translation>
+    </message>
+</context>
+<context>
+    <name>RapportTirage</name>
+    <message>
+        <source>Rapport du tirage</source>
+        <translation>Report of the draw</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Round</translation>
+    </message>
+    <message>
+        <source>Montrer après chaque tirage qui a quelque chose à signaler</source>
+        <translation>Show after each draw that has something to report</translation>
+    </message>
+    <message>
+        <source>Rencontres du tour</source>
+        <translation>Matches of the round</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage</source>
+        <translation>Draw again</translation>
+    </message>
+    <message>
+        <source>Refaire jusqu&apos;au meilleur</source>
+        <translation>Draw until the best</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Fiches de partie</source>
+        <translation>Match slips</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Niveau</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>Equipe</source>
+        <translation>Team</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>Remarque</source>
+        <translation>Remark</translation>
+    </message>
+    <message>
+        <source>exempte pour la deuxième fois</source>
+        <translation>bye for the second time</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>bye</translation>
+    </message>
+    <message>
+        <source>évitable</source>
+        <translation>avoidable</translation>
+    </message>
+    <message>
+        <source>inévitable</source>
+        <translation>unavoidable</translation>
+    </message>
+    <message>
+        <source>déjà rencontrées au tour %1 (%2)</source>
+        <translation>met already in round %1 (%2)</translation>
+    </message>
+    <message>
+        <source>même club (%1)</source>
+        <translation>same club (%1)</translation>
+    </message>
+    <message>
+        <source>%1 remontée du niveau %2</source>
+        <translation>%1 pulled up from level %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) déjà jouée(s)</source>
+        <translation>
+            <numerusform>%n match played before</numerusform>
+            <numerusform>%n matches played before</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) d&apos;un même club</source>
+        <translation>
+            <numerusform>%n match of one club</numerusform>
+            <numerusform>%n matches of one club</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aucun tour n&apos;est tiré.</source>
+        <translation>No round has been drawn.</translation>
+    </message>
+    <message>
+        <source>Tour %1 : %2.</source>
+        <translation>Round %1: %2.</translation>
+    </message>
+    <message>
+        <source>Niveau %1 : une autre répartition aurait %2 défaut(s) au lieu de %3.</source>
+        <translation>Level %1: another pairing would have %2 instead of %3 such matches.</translation>
+    </message>
+    <message>
+        <source>Le tirage d&apos;avant : %1.</source>
+        <translation>The draw before: %1.</translation>
+    </message>
+    <message>
+        <source>Un résultat de ce tour est saisi : il ne se refait plus.</source>
+        <translation>A result of this round has been entered: it cannot be drawn again.</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage du tour %1 ?</source>
+        <translation>Draw round %1 again?</translation>
+    </message>
+    <message>
+        <source>Le tirage actuel sera remplacé ; une copie en est gardée.</source>
+        <translation>The present draw will be replaced; a copy of it is kept.</translation>
+    </message>
+    <message>
+        <source>Tirages essayés</source>
+        <translation>Draws tried</translation>
+    </message>
+    <message numerus="yes">
+        <source>Le meilleur de %n tirage(s) : %1.</source>
+        <translation>
+            <numerusform>The best of %n draw: %1.</numerusform>
+            <numerusform>The best of %n draws: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Le tirage actuel : %1.</source>
+        <translation>The present draw: %1.</translation>
+    </message>
+    <message>
+        <source>Le mettre à la place ?</source>
+        <translation>Put it in its place?</translation>
+    </message>
+    <message>
+        <source>Tour %1</source>
+        <translation>Round %1</translation>
+    </message>
+    <message>
+        <source>Terrain</source>
+        <translation>Ground</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Score</translation>
     </message>
 </context>
 </TS>

@@ -146,6 +146,10 @@
         <source>&amp;Copies de sécurité</source>
         <translation>&amp;Copias de seguridad</translation>
     </message>
+    <message>
+        <source>&amp;Rapport du tirage</source>
+        <translation>&amp;Informe del sorteo</translation>
+    </message>
 </context>
 <context>
     <name>MotsCopies</name>
@@ -295,6 +299,162 @@
     <message>
         <source>Résultats</source>
         <translation>Resultados</translation>
+    </message>
+</context>
+<context>
+    <name>RapportTirage</name>
+    <message>
+        <source>Rapport du tirage</source>
+        <translation>Informe del sorteo</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Ronda</translation>
+    </message>
+    <message>
+        <source>Montrer après chaque tirage qui a quelque chose à signaler</source>
+        <translation>Mostrar tras cada sorteo que tenga algo que señalar</translation>
+    </message>
+    <message>
+        <source>Rencontres du tour</source>
+        <translation>Partidas de la ronda</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage</source>
+        <translation>Repetir el sorteo</translation>
+    </message>
+    <message>
+        <source>Refaire jusqu&apos;au meilleur</source>
+        <translation>Repetir hasta el mejor</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Fiches de partie</source>
+        <translation>Fichas de partida</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Niveau</source>
+        <translation>Nivel</translation>
+    </message>
+    <message>
+        <source>Equipe</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>Remarque</source>
+        <translation>Observación</translation>
+    </message>
+    <message>
+        <source>exempte pour la deuxième fois</source>
+        <translation>exenta por segunda vez</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>exenta</translation>
+    </message>
+    <message>
+        <source>évitable</source>
+        <translation>evitable</translation>
+    </message>
+    <message>
+        <source>inévitable</source>
+        <translation>inevitable</translation>
+    </message>
+    <message>
+        <source>déjà rencontrées au tour %1 (%2)</source>
+        <translation>ya enfrentadas en la ronda %1 (%2)</translation>
+    </message>
+    <message>
+        <source>même club (%1)</source>
+        <translation>mismo club (%1)</translation>
+    </message>
+    <message>
+        <source>%1 remontée du niveau %2</source>
+        <translation>%1 subida del nivel %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) déjà jouée(s)</source>
+        <translation>
+            <numerusform>%n partida ya jugada</numerusform>
+            <numerusform>%n partidas ya jugadas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) d&apos;un même club</source>
+        <translation>
+            <numerusform>%n partida de un mismo club</numerusform>
+            <numerusform>%n partidas de un mismo club</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aucun tour n&apos;est tiré.</source>
+        <translation>No se ha sorteado ninguna ronda.</translation>
+    </message>
+    <message>
+        <source>Tour %1 : %2.</source>
+        <translation>Ronda %1: %2.</translation>
+    </message>
+    <message>
+        <source>Niveau %1 : une autre répartition aurait %2 défaut(s) au lieu de %3.</source>
+        <translation>Nivel %1: otro reparto tendría %2 en vez de %3 de esas partidas.</translation>
+    </message>
+    <message>
+        <source>Le tirage d&apos;avant : %1.</source>
+        <translation>El sorteo anterior: %1.</translation>
+    </message>
+    <message>
+        <source>Un résultat de ce tour est saisi : il ne se refait plus.</source>
+        <translation>Ya hay un resultado de esta ronda: no se puede repetir.</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage du tour %1 ?</source>
+        <translation>¿Repetir el sorteo de la ronda %1?</translation>
+    </message>
+    <message>
+        <source>Le tirage actuel sera remplacé ; une copie en est gardée.</source>
+        <translation>El sorteo actual se sustituirá; se guarda una copia.</translation>
+    </message>
+    <message>
+        <source>Tirages essayés</source>
+        <translation>Sorteos probados</translation>
+    </message>
+    <message numerus="yes">
+        <source>Le meilleur de %n tirage(s) : %1.</source>
+        <translation>
+            <numerusform>El mejor de %n sorteo: %1.</numerusform>
+            <numerusform>El mejor de %n sorteos: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Le tirage actuel : %1.</source>
+        <translation>El sorteo actual: %1.</translation>
+    </message>
+    <message>
+        <source>Le mettre à la place ?</source>
+        <translation>¿Ponerlo en su lugar?</translation>
+    </message>
+    <message>
+        <source>Tour %1</source>
+        <translation>Ronda %1</translation>
+    </message>
+    <message>
+        <source>Terrain</source>
+        <translation>Pista</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Tanteo</translation>
     </message>
 </context>
 </TS>

@@ -95,4 +95,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>RapportTirage</name>
+    <message numerus="yes">
+        <source>%n rencontre(s) déjà jouée(s)</source>
+        <translation>
+            <numerusform>%n rencontre déjà jouée</numerusform>
+            <numerusform>%n rencontres déjà jouées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) d&apos;un même club</source>
+        <translation>
+            <numerusform>%n rencontre d&apos;un même club</numerusform>
+            <numerusform>%n rencontres d&apos;un même club</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Le meilleur de %n tirage(s) : %1.</source>
+        <translation>
+            <numerusform>Le meilleur de %n tirage : %1.</numerusform>
+            <numerusform>Le meilleur de %n tirages : %1.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

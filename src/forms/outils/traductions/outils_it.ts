@@ -146,6 +146,10 @@
         <source>&amp;Copies de sécurité</source>
         <translation>&amp;Copie di sicurezza</translation>
     </message>
+    <message>
+        <source>&amp;Rapport du tirage</source>
+        <translation>&amp;Rapporto del sorteggio</translation>
+    </message>
 </context>
 <context>
     <name>MotsCopies</name>
@@ -295,6 +299,162 @@
     <message>
         <source>Résultats</source>
         <translation>Risultati</translation>
+    </message>
+</context>
+<context>
+    <name>RapportTirage</name>
+    <message>
+        <source>Rapport du tirage</source>
+        <translation>Rapporto del sorteggio</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Turno</translation>
+    </message>
+    <message>
+        <source>Montrer après chaque tirage qui a quelque chose à signaler</source>
+        <translation>Mostra dopo ogni sorteggio che ha qualcosa da segnalare</translation>
+    </message>
+    <message>
+        <source>Rencontres du tour</source>
+        <translation>Incontri del turno</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage</source>
+        <translation>Rifai il sorteggio</translation>
+    </message>
+    <message>
+        <source>Refaire jusqu&apos;au meilleur</source>
+        <translation>Rifai fino al migliore</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Fiches de partie</source>
+        <translation>Schede di partita</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Niveau</source>
+        <translation>Livello</translation>
+    </message>
+    <message>
+        <source>Equipe</source>
+        <translation>Squadra</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Società</translation>
+    </message>
+    <message>
+        <source>Remarque</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>exempte pour la deuxième fois</source>
+        <translation>riposa per la seconda volta</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>riposa</translation>
+    </message>
+    <message>
+        <source>évitable</source>
+        <translation>evitabile</translation>
+    </message>
+    <message>
+        <source>inévitable</source>
+        <translation>inevitabile</translation>
+    </message>
+    <message>
+        <source>déjà rencontrées au tour %1 (%2)</source>
+        <translation>già incontrate nel turno %1 (%2)</translation>
+    </message>
+    <message>
+        <source>même club (%1)</source>
+        <translation>stessa società (%1)</translation>
+    </message>
+    <message>
+        <source>%1 remontée du niveau %2</source>
+        <translation>%1 salita dal livello %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) déjà jouée(s)</source>
+        <translation>
+            <numerusform>%n incontro già giocato</numerusform>
+            <numerusform>%n incontri già giocati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) d&apos;un même club</source>
+        <translation>
+            <numerusform>%n incontro di una stessa società</numerusform>
+            <numerusform>%n incontri di una stessa società</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aucun tour n&apos;est tiré.</source>
+        <translation>Nessun turno è stato sorteggiato.</translation>
+    </message>
+    <message>
+        <source>Tour %1 : %2.</source>
+        <translation>Turno %1: %2.</translation>
+    </message>
+    <message>
+        <source>Niveau %1 : une autre répartition aurait %2 défaut(s) au lieu de %3.</source>
+        <translation>Livello %1: un&apos;altra ripartizione ne avrebbe %2 invece di %3.</translation>
+    </message>
+    <message>
+        <source>Le tirage d&apos;avant : %1.</source>
+        <translation>Il sorteggio di prima: %1.</translation>
+    </message>
+    <message>
+        <source>Un résultat de ce tour est saisi : il ne se refait plus.</source>
+        <translation>Un risultato di questo turno è inserito: non si rifà più.</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage du tour %1 ?</source>
+        <translation>Rifare il sorteggio del turno %1?</translation>
+    </message>
+    <message>
+        <source>Le tirage actuel sera remplacé ; une copie en est gardée.</source>
+        <translation>Il sorteggio attuale sarà sostituito; se ne conserva una copia.</translation>
+    </message>
+    <message>
+        <source>Tirages essayés</source>
+        <translation>Sorteggi provati</translation>
+    </message>
+    <message numerus="yes">
+        <source>Le meilleur de %n tirage(s) : %1.</source>
+        <translation>
+            <numerusform>Il migliore di %n sorteggio: %1.</numerusform>
+            <numerusform>Il migliore di %n sorteggi: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Le tirage actuel : %1.</source>
+        <translation>Il sorteggio attuale: %1.</translation>
+    </message>
+    <message>
+        <source>Le mettre à la place ?</source>
+        <translation>Metterlo al suo posto?</translation>
+    </message>
+    <message>
+        <source>Tour %1</source>
+        <translation>Turno %1</translation>
+    </message>
+    <message>
+        <source>Terrain</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Punteggio</translation>
     </message>
 </context>
 </TS>

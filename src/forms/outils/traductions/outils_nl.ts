@@ -146,6 +146,10 @@
         <source>&amp;Copies de sécurité</source>
         <translation>Veiligheids&amp;kopieën</translation>
     </message>
+    <message>
+        <source>&amp;Rapport du tirage</source>
+        <translation>&amp;Verslag van de loting</translation>
+    </message>
 </context>
 <context>
     <name>MotsCopies</name>
@@ -295,6 +299,162 @@
     <message>
         <source>Résultats</source>
         <translation>Uitslagen</translation>
+    </message>
+</context>
+<context>
+    <name>RapportTirage</name>
+    <message>
+        <source>Rapport du tirage</source>
+        <translation>Verslag van de loting</translation>
+    </message>
+    <message>
+        <source>Tour</source>
+        <translation>Ronde</translation>
+    </message>
+    <message>
+        <source>Montrer après chaque tirage qui a quelque chose à signaler</source>
+        <translation>Tonen na elke loting die iets te melden heeft</translation>
+    </message>
+    <message>
+        <source>Rencontres du tour</source>
+        <translation>Partijen van de ronde</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage</source>
+        <translation>Opnieuw loten</translation>
+    </message>
+    <message>
+        <source>Refaire jusqu&apos;au meilleur</source>
+        <translation>Loten tot de beste</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Fiches de partie</source>
+        <translation>Partijbriefjes</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Niveau</source>
+        <translation>Niveau</translation>
+    </message>
+    <message>
+        <source>Equipe</source>
+        <translation>Team</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>Remarque</source>
+        <translation>Opmerking</translation>
+    </message>
+    <message>
+        <source>exempte pour la deuxième fois</source>
+        <translation>voor de tweede keer vrij</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>vrij</translation>
+    </message>
+    <message>
+        <source>évitable</source>
+        <translation>vermijdbaar</translation>
+    </message>
+    <message>
+        <source>inévitable</source>
+        <translation>onvermijdelijk</translation>
+    </message>
+    <message>
+        <source>déjà rencontrées au tour %1 (%2)</source>
+        <translation>al ontmoet in ronde %1 (%2)</translation>
+    </message>
+    <message>
+        <source>même club (%1)</source>
+        <translation>zelfde club (%1)</translation>
+    </message>
+    <message>
+        <source>%1 remontée du niveau %2</source>
+        <translation>%1 opgeschoven van niveau %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) déjà jouée(s)</source>
+        <translation>
+            <numerusform>%n partij al gespeeld</numerusform>
+            <numerusform>%n partijen al gespeeld</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rencontre(s) d&apos;un même club</source>
+        <translation>
+            <numerusform>%n partij binnen één club</numerusform>
+            <numerusform>%n partijen binnen één club</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aucun tour n&apos;est tiré.</source>
+        <translation>Er is geen ronde geloot.</translation>
+    </message>
+    <message>
+        <source>Tour %1 : %2.</source>
+        <translation>Ronde %1: %2.</translation>
+    </message>
+    <message>
+        <source>Niveau %1 : une autre répartition aurait %2 défaut(s) au lieu de %3.</source>
+        <translation>Niveau %1: een andere verdeling zou er %2 hebben in plaats van %3.</translation>
+    </message>
+    <message>
+        <source>Le tirage d&apos;avant : %1.</source>
+        <translation>De loting daarvoor: %1.</translation>
+    </message>
+    <message>
+        <source>Un résultat de ce tour est saisi : il ne se refait plus.</source>
+        <translation>Een uitslag van deze ronde is ingevoerd: er kan niet meer opnieuw worden geloot.</translation>
+    </message>
+    <message>
+        <source>Refaire le tirage du tour %1 ?</source>
+        <translation>Ronde %1 opnieuw loten?</translation>
+    </message>
+    <message>
+        <source>Le tirage actuel sera remplacé ; une copie en est gardée.</source>
+        <translation>De huidige loting wordt vervangen; een kopie blijft bewaard.</translation>
+    </message>
+    <message>
+        <source>Tirages essayés</source>
+        <translation>Geprobeerde lotingen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Le meilleur de %n tirage(s) : %1.</source>
+        <translation>
+            <numerusform>De beste van %n loting: %1.</numerusform>
+            <numerusform>De beste van %n lotingen: %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Le tirage actuel : %1.</source>
+        <translation>De huidige loting: %1.</translation>
+    </message>
+    <message>
+        <source>Le mettre à la place ?</source>
+        <translation>In de plaats zetten?</translation>
+    </message>
+    <message>
+        <source>Tour %1</source>
+        <translation>Ronde %1</translation>
+    </message>
+    <message>
+        <source>Terrain</source>
+        <translation>Baan</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Score</translation>
     </message>
 </context>
 </TS>
