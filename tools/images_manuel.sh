@@ -55,9 +55,11 @@ forme retardataire boite-retardataire
 forme importation boite-importation
 forme purge boite-purge
 forme copies francais-copiessecurite
+forme rapport rapport-tirage
 feuille feuille-tirage tirage-tour1
 feuille feuille-classement classement
 feuille feuille-palmares palmares-detail
 feuille feuille-club equipe-club
+feuille feuille-fiches fiches
 feuille feuille-inscrits equipes
 ls -l docs/images

@@ -23,6 +23,7 @@ enum class Boite {
     DejaRencontrees,
     Importation,
     EquipeImportee,
+    MeilleurTirage,
     Copie,
     Suppression,
     CopieFaite,

@@ -14,13 +14,14 @@ namespace {
 const QString dialogue = u"I_tirage"_qs;
 const QString liste = u"palmares"_qs;
 const QString feuilles = u"Resusoc"_qs;
+const QString rapportTirage = u"RapportTirage"_qs;
 
 } // namespace
 
 QStringList Impressions::fichiers()
 {
-    return {u"tirage-tour1.pdf"_qs, u"classement.pdf"_qs,      u"classement-detail.pdf"_qs,
-            u"palmares.pdf"_qs,     u"palmares-detail.pdf"_qs, u"equipe-club.pdf"_qs};
+    return {u"rapport.pdf"_qs,           u"fiches.pdf"_qs,   u"tirage-tour1.pdf"_qs,    u"classement.pdf"_qs,
+            u"classement-detail.pdf"_qs, u"palmares.pdf"_qs, u"palmares-detail.pdf"_qs, u"equipe-club.pdf"_qs};
 }
 
 void Impressions::ouvre(const QString &option)
@@ -48,6 +49,19 @@ void Impressions::tirage(const QString &fichier)
     ouvre(u"Option1"_qs);
     m_photographe.prend(u"impression-tirage", *m_main.fenetre(dialogue));
     imprime(fichier);
+}
+
+/// The round just drawn, looked at, drawn until the best, and put on paper.
+void Impressions::rapport()
+{
+    m_main.touche(Qt::Key_F7);
+    m_main.exigeFocus(rapportTirage, u"Paires"_qs);
+    m_main.clique(m_main.controle(rapportTirage, u"Meilleur"_qs));
+    exige(m_boites.fois(Boite::MeilleurTirage) == 1, u"Le meilleur tirage n'a pas été proposé."_qs);
+    m_photographe.prend(u"rapport-tirage", *m_main.fenetre(rapportTirage));
+    imprime(rapportTirage, u"Imprimer"_qs, u"rapport.pdf"_qs);
+    imprime(rapportTirage, u"Fiches"_qs, u"fiches.pdf"_qs);
+    m_main.clique(m_main.controle(rapportTirage, u"Fermer"_qs));
 }
 
 void Impressions::classement(const QString &fichier, bool detail)

@@ -19,6 +19,7 @@ public:
 
     /// Draw sheet of the last round.
     void tirage(const QString &fichier);
+    void rapport();
     void classement(const QString &fichier, bool detail);
     /// The whole honours list with the names of players: a match a line, and then with the members of the winner.
     void palmares(const QString &simple, const QString &detaille);

@@ -69,6 +69,7 @@ void Journee::prevoitBoites()
     m_boites.attend(Boite::RencontreLancee, u"peut être lancée"_qs, ReponseBoite::OK, u"boite-rencontre-lancee");
     m_boites.attend(Boite::Retardataire, mes(126), ReponseBoite::Oui, u"boite-retardataire");
     m_boites.attend(Boite::MemeClub, u"deux équipes d'un même club"_qs, ReponseBoite::OK, u"boite-meme-club");
+    m_boites.attend(Boite::MeilleurTirage, u"Le mettre à la place ?"_qs, ReponseBoite::Oui, u"boite-meilleur-tirage");
     m_boites.attend(Boite::Copie, u"Concours dupliqué sous le numéro"_qs, ReponseBoite::OK, u"boite-copie");
     m_boites.attend(Boite::Suppression, mes(96), ReponseBoite::Oui, u"boite-suppression");
     m_boites.attend(Boite::DejaRencontrees, u"deux équipes se sont déjà rencontrées"_qs, ReponseBoite::OK,
@@ -154,8 +155,11 @@ void Journee::joueTours()
             inscritRetardataire();
         if (m_resultats.tour() == 1)
             m_impressions.tirage(u"tirage-tour1.pdf"_qs);
-        if (m_resultats.tour() == 2)
+        if (m_resultats.tour() == 2) {
+            m_impressions.rapport();
+            m_resultats.ouvre();
             m_resultats.ouvreVues();
+        }
         const int rencontres = m_resultats.saisitTour();
         dit(u"Tour %1 : %2 résultats saisis en %3 s"_qs.arg(m_resultats.tour())
                 .arg(rencontres)

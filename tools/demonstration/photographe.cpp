@@ -50,6 +50,8 @@ const QStringView chronique[] = {
     u"resultats-lettres",
     u"boite-meme-club",
     u"boite-deja-rencontrees",
+    u"boite-meilleur-tirage",
+    u"rapport-tirage",
     u"vue-attendus",
     u"vue-classement",
     u"vue-joues",

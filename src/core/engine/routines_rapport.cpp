@@ -18,7 +18,8 @@ std::vector<moteur::Partie> avec(const MatiereRapport &matiere, int tour, const 
 
 MatiereRapport LitMatiere(Partage &partage)
 {
-    MatiereRapport matiere{LitParties(partage, partage.ConcoursCourant), LitClubs(partage)};
+    const QHash<int, QString> clubs = LitClubs(partage);
+    MatiereRapport matiere{LitParties(partage, partage.ConcoursCourant), clubs, clubs};
     erase_if(matiere.clubs,
              [](const std::pair<const int &, QString &> &club) { return donnees::EstPanache(club.second); });
     return matiere;

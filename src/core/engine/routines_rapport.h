@@ -7,7 +7,8 @@
 struct MatiereRapport
 {
     std::vector<moteur::Partie> parties;
-    QHash<int, QString> clubs; ///< Without mixed teams.
+    QHash<int, QString> tousLesClubs;
+    QHash<int, QString> clubs; ///< Those that keep teams apart: without mixed ones.
 };
 
 MatiereRapport LitMatiere(Partage &partage);

@@ -62,6 +62,7 @@ void RapportTirage::Form_Load()
 {
     m_ui->Apres_tirage->setChecked(apresTirage(formulaires()).montreRapport);
     traduit();
+    m_ui->Paires->setFocus();
 }
 
 void RapportTirage::Form_Activate()
@@ -72,10 +73,14 @@ void RapportTirage::Form_Activate()
 void RapportTirage::traduit()
 {
     m_ui->retranslateUi(this);
-    m_ui->Paires->setHorizontalHeaderLabels(
-        {tr("Niveau"), tr("Equipe"), tr("Club"), tr("Equipe"), tr("Club"), tr("Remarque")});
+    m_ui->Paires->setHorizontalHeaderLabels(entetes());
     montrePaires();
     montreBilan();
+}
+
+QStringList RapportTirage::entetes() const
+{
+    return {tr("Niveau"), tr("Equipe"), tr("Club"), tr("Equipe"), tr("Club"), tr("Remarque")};
 }
 
 void RapportTirage::Rafraichir()
@@ -142,8 +147,9 @@ void RapportTirage::montrePaires()
         const moteur::PaireRapportee &paire = m_rapport.paires[i];
         const QString seconde = paire.exempt() ? QString() : QString::number(paire.equipe2);
         ecritLigne(*m_ui->Paires, int(i),
-              {QString::number(paire.niveau), QString::number(paire.equipe1), m_matiere.clubs.value(paire.equipe1),
-               seconde, m_matiere.clubs.value(paire.equipe2), remarque(paire)});
+                   {QString::number(paire.niveau), QString::number(paire.equipe1),
+                    m_matiere.tousLesClubs.value(paire.equipe1), seconde, m_matiere.tousLesClubs.value(paire.equipe2),
+                    remarque(paire)});
         if (paire.dejaAuTour || paire.memeClub || paire.encoreExempt) {
             for (int colonne = 0; colonne < m_ui->Paires->columnCount(); ++colonne)
                 m_ui->Paires->item(int(i), colonne)->setBackground(fondSignale);
@@ -227,8 +233,9 @@ void RapportTirage::Meilleur_Click()
             return true;
         });
     }
-    const QString question = tr("Le meilleur de %n tirage(s) : %1.", nullptr, meilleur.essais).arg(bilan(meilleur.rapport))
-        + saut + tr("Le tirage actuel : %1.").arg(bilan(m_rapport)) + saut + tr("Le mettre à la place ?");
+    const QString question =
+        tr("Le meilleur de %n tirage(s) : %1.", nullptr, meilleur.essais).arg(bilan(meilleur.rapport)) + saut
+        + tr("Le tirage actuel : %1.").arg(bilan(m_rapport)) + saut + tr("Le mettre à la place ?");
     if (MsgBox(question, vbYesNo | vbExclamation | vbDefaultButton2) != ReponseBoite::Oui || !peutRefaire())
         return;
     const Sablier sablier;
@@ -240,7 +247,8 @@ void RapportTirage::Imprimer_Click()
     QStringList lignes;
     for (const moteur::PaireRapportee &paire : m_rapport.paires)
         lignes += remarque(paire);
-    ImprimeRapport(contexte(), m_rapport, m_matiere.clubs, lignes, m_ui->Bilan->text(), windowTitle());
+    ImprimeRapport(contexte(), m_rapport, m_matiere.tousLesClubs, entetes(), lignes, m_ui->Bilan->text(),
+                   windowTitle());
 }
 
 void RapportTirage::Fiches_Click()

@@ -39,6 +39,7 @@ private:
     void Imprimer_Click();
     void Fiches_Click();
 
+    QStringList entetes() const;
     void montre(int tour);
     void montrePaires();
     void montreBilan();

@@ -9,9 +9,9 @@ constexpr int colonnes = 2;
 constexpr int rangees = 4;
 // Twips
 constexpr int marge = 260; ///< Inside a slip.
-constexpr int hautEquipe[] = {900, 2050}; ///< First line of each team, from the top of the slip.
+constexpr int hautEquipe[] = {1100, 2450}; ///< First line of each team, from the top of the slip.
 constexpr int largeurCase = 1100;
-constexpr int hauteurCase = 800;
+constexpr int hauteurCase = 1000;
 constexpr int ecartCase = 200;
 // Points
 constexpr double tailleEntete = 12;
@@ -85,7 +85,7 @@ void Fiches::fiche(const moteur::PaireRapportee &paire, int gauche, int haut)
     m_feuille.ecrit(gauche + marge, m_mots.tour, gauche + largeur() / 2);
     m_papier.FontBold = false;
     m_feuille.ecrit(gauche + largeur() / 2, m_mots.terrain + u" : ________"_qs, fin);
-    m_papier.CurrentY = haut + marge + 330;
+    m_papier.CurrentY = haut + marge + 360;
     m_feuille.ecrit(gauche + marge, m_partage.DateConcours + u' ' + m_partage.LieuConcours,
                     fin - largeurCase - ecartCase);
     m_feuille.ecrit(fin - largeurCase, m_mots.score, fin);

@@ -19,7 +19,8 @@ constexpr MiseEnPage mise{.bordFin = MiseEnPage::Papier, .pied = 800};
 } // namespace
 
 void ImprimeRapport(const Contexte &contexte, const moteur::RapportTour &rapport, const QHash<int, QString> &clubs,
-                    const QStringList &remarques, const QString &bilan, const QString &titre)
+                    const QStringList &entetes, const QStringList &remarques, const QString &bilan,
+                    const QString &titre)
 {
     const std::unique_ptr<Feuille> feuille = Feuille::ouvre(contexte, mise);
     if (feuille == nullptr)
@@ -30,21 +31,27 @@ void ImprimeRapport(const Contexte &contexte, const moteur::RapportTour &rapport
         feuille->ecritConcours(18, papier.ScaleWidth() - 4500);
         feuille->ecritTitre(24, gaucheTitre, titre);
         papier.FontSize = tailleTexte;
+        papier.CurrentY += hauteurLigne;
+        feuille->ecritLigne(colonnes, entetes);
+        papier.Line(colonnes.front(), papier.CurrentY, papier.ScaleWidth() - colonnes.front(), papier.CurrentY);
+        papier.FontBold = false;
+        papier.CurrentY += pasLigne;
     });
     feuille->commence();
-    for (const QString &ligne : bilan.split(u'\n')) {
-        feuille->ecrit(colonnes.front(), ligne, papier.ScaleWidth());
-        papier.Print({});
-    }
-    papier.CurrentY += hauteurLigne;
     for (std::size_t i = 0; i < rapport.paires.size(); ++i) {
         const moteur::PaireRapportee &paire = rapport.paires[i];
         feuille->saute(pasLigne + hauteurLigne);
         papier.CurrentY += pasLigne;
-        feuille->ecritLigne(colonnes, {QString::number(paire.niveau), QString::number(paire.equipe1),
-                                       clubs.value(paire.equipe1),
-                                       paire.exempt() ? QString() : QString::number(paire.equipe2),
-                                       clubs.value(paire.equipe2), remarques.value(qsizetype(i))});
+        feuille->ecritLigne(colonnes,
+                            {QString::number(paire.niveau), QString::number(paire.equipe1), clubs.value(paire.equipe1),
+                             paire.exempt() ? QString() : QString::number(paire.equipe2), clubs.value(paire.equipe2),
+                             remarques.value(qsizetype(i))});
+    }
+    papier.CurrentY += hauteurLigne;
+    for (const QString &ligne : bilan.split(u'\n')) {
+        feuille->saute(hauteurLigne);
+        feuille->ecrit(colonnes.front(), ligne, papier.ScaleWidth());
+        papier.Print({});
     }
     feuille->termine();
 }

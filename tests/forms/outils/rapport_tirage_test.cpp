@@ -23,10 +23,11 @@ protected:
     {
         prog.avecCopies();
         ASSERT_TRUE(prog.demarre());
-        concours = poseConcours(prog.base(), {.type = u"1 - Doublettes"_qs,
-                                              .joueurs = 2,
-                                              .repeche = true,
-                                              .equipes = {{1, u"A"_qs}, {2, u"A"_qs}, {3, u"B"_qs}, {4, u"C"_qs}}});
+        concours = poseConcours(prog.base(),
+                                {.type = u"1 - Doublettes"_qs,
+                                 .joueurs = 2,
+                                 .repeche = true,
+                                 .equipes = {{1, u"A"_qs}, {2, u"A"_qs}, {3, u"B"_qs}, {4, u"C"_qs}}});
         poseRencontres(prog.base(), concours,
                        {{.tour = 1, .rencontre = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 5, .score2 = 5},
                         {.tour = 1, .rencontre = 2, .equipe1 = 3, .equipe2 = 4, .score1 = 5, .score2 = 5},
@@ -48,8 +49,9 @@ protected:
     QStringList tour(int lequel)
     {
         QStringList paires;
-        store::Recordset scores = prog.base().OpenRecordset(
-            u"select * from scores where tour = %1 order by equipe_1"_qs.arg(lequel), store::dbOpenSnapshot);
+        store::Recordset scores =
+            prog.base().OpenRecordset(u"select * from scores where tour = %1 order by equipe_1"_qs.arg(lequel),
+                                      store::dbOpenSnapshot);
         for (; !scores.Eof(); scores.MoveNext())
             paires += scores[u"equipe_1"].texte() + u'-' + scores[u"equipe_2"].texte();
         return paires;
@@ -81,7 +83,8 @@ TEST_F(Rapport, TheRoundIsToldAndDrawnAnewBehindACopyUntilAResultIsIn)
     prog.boites.attend(u"Le tirage actuel : 2 rencontres déjà jouées"_qs, ReponseBoite::Oui);
     clique(u"Meilleur"_qs);
     EXPECT_NE(tour(2), avant);
-    EXPECT_TRUE(bilan().contains(u"Tour 2 : 0 rencontre déjà jouée, 0 rencontre d'un même club."_qs)) << bilan().toStdString();
+    EXPECT_TRUE(bilan().contains(u"Tour 2 : 0 rencontre déjà jouée, 0 rencontre d'un même club."_qs))
+        << bilan().toStdString();
     EXPECT_TRUE(bilan().contains(u"Le tirage d'avant : 2 rencontres déjà jouées, 1 rencontre d'un même club."_qs));
     const QDir copies(prog.dossier() + u"/sauvegardes"_qs);
     EXPECT_EQ(copies.entryList({u"*-tirage.mdb"_qs}, QDir::Files).size(), 1);
