@@ -22,21 +22,21 @@ std::optional<int> optionnel(const Instruction &ligne, int colonne)
     return ligne.estNulle(colonne) ? std::nullopt : std::optional(int(ligne.nombre(colonne)));
 }
 
-std::vector<Partie> litRencontres(Partage &partage, qint64 concours)
+std::vector<Partie> litParties(Partage &partage, qint64 concours)
 {
-    std::vector<Partie> rencontres;
+    std::vector<Partie> parties;
     Instruction lecture(partage.BaseDonnees.native(),
                         u"select tour, equipe_1, equipe_2, score_1, score_2, repechage from scores where concours = ? "
                         u"order by tour, equipe_1, rowid"_qs);
     lecture.lie(1, concours);
     while (lecture.avance())
-        rencontres.push_back({.tour = int(lecture.nombre(0)),
-                              .equipe1 = int(lecture.nombre(1)),
-                              .equipe2 = int(lecture.nombre(2)),
-                              .score1 = optionnel(lecture, 3),
-                              .score2 = optionnel(lecture, 4),
-                              .repechage = optionnel(lecture, 5)});
-    return rencontres;
+        parties.push_back({.tour = int(lecture.nombre(0)),
+                           .equipe1 = int(lecture.nombre(1)),
+                           .equipe2 = int(lecture.nombre(2)),
+                           .score1 = optionnel(lecture, 3),
+                           .score2 = optionnel(lecture, 4),
+                           .repechage = optionnel(lecture, 5)});
+    return parties;
 }
 
 void ecritClassement(Partage &partage, qint64 concours, const std::vector<LigneClassement> &lignes)
@@ -99,15 +99,15 @@ std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage)
     return paires;
 }
 
-void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Partie> &rencontres)
+void ecritParties(Partage &partage, qint16 tableau, const std::vector<Partie> &parties)
 {
     Instruction ajout(partage.BaseDonnees.native(),
                       u"insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2, score_1, score_2, "
                       u"repechage) values (?, ?, ?, ?, ?, ?, ?, ?, ?)"_qs);
-    for (const Partie &rencontre : rencontres) {
-        const Valeur champs[] = {partage.ConcoursCourant, tableau,           rencontre.tour,
-                                 rencontre.rencontre,     rencontre.equipe1, rencontre.equipe2,
-                                 rencontre.score1,        rencontre.score2,  rencontre.repechage};
+    for (const Partie &partie : parties) {
+        const Valeur champs[] = {partage.ConcoursCourant, tableau,        partie.tour,
+                                 partie.rencontre,        partie.equipe1, partie.equipe2,
+                                 partie.score1,           partie.score2,  partie.repechage};
         int indice = 0;
         for (const Valeur &champ : champs)
             ajout.lie(++indice, champ);
@@ -167,9 +167,9 @@ void fixeTourPrincipal(Partage &partage, int tour)
 void ecritTirageTour1(Partage &partage, qint16 tableau)
 {
     const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
-    const auto rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
+    const auto parties = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
     partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, tableau, rencontres);
+        ecritParties(partage, tableau, parties);
         fixeTourPrincipal(partage, premierTour);
     });
 }
@@ -188,7 +188,7 @@ void metLeFichierAJour(Partage &partage)
 void CalculClassement(Partage &partage, const QString &concours)
 {
     const qint64 numero = Valeur(concours).entier();
-    const auto lignes = moteur::etablitClassement(litRencontres(partage, numero), partage.alea);
+    const auto lignes = moteur::etablitClassement(litParties(partage, numero), partage.alea);
     partage.BaseDonnees.EcritEnGroupe([&] { ecritClassement(partage, numero, lignes); });
 }
 
@@ -286,10 +286,10 @@ BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi)
         TirageSuivant(partage, suivi);
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
-    const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
+    const auto parties = moteur::partiesDuTour(partage.TabTirage, LitClassement(partage), tour);
     // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, 1, rencontres);
+        ecritParties(partage, 1, parties);
         fixeTourPrincipal(partage, tour);
     });
     partage.TourCourant = qint16(tour);
