@@ -114,7 +114,6 @@ private:
     std::vector<Valeur> m_cles;
     qint64 m_rowidCle = 0;
     Instruction m_flux;
-    int m_changementsDuFlux = 0;
 };
 
 /// Rows that a statement gave when it was opened.

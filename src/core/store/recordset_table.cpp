@@ -49,14 +49,14 @@ Valeur RecordsetTable::champ(int place)
 }
 
 /// Runs a search; its statement stays open behind the row that it found, so that a walk that writes nothing goes on
-/// in it.
+/// in it. A write into the file ends the statement; one into `tbclass` it meets as a new search would, since its rows
+/// come straight from an index or the table.
 bool RecordsetTable::cherche(const QString &condition, const std::vector<Valeur> &valeurs)
 {
     m_flux.rend();
     m_flux = Instruction(base(), m_selection + condition + m_ordre);
     for (std::size_t i = 0; i < valeurs.size(); ++i)
         m_flux.lie(int(i) + 1, valeurs[i]);
-    m_changementsDuFlux = base().changements();
     return recoit();
 }
 
@@ -145,7 +145,7 @@ void RecordsetTable::Seek(QStringView op, const std::vector<Valeur> &cles)
 
 bool RecordsetTable::avance()
 {
-    if (m_flux.active() && m_changementsDuFlux == base().changements() && recoit())
+    if (m_flux.active() && recoit())
         return true;
     m_flux.rend();
     if (m_index == nullptr)
