@@ -288,7 +288,7 @@ BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi)
         TirageSuivant(partage, suivi);
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
-    const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
+    const auto rencontres = moteur::partiesDuTour(partage.TabTirage, LitClassement(partage), tour);
     // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
         ecritRencontres(partage, 1, rencontres);
@@ -323,7 +323,7 @@ TourPropose ProposeTour(Partage &partage, int tour)
                                          .tourpri = tour - 1,
                                          .repeche = partage.AvecRepechage});
     } while (moteur::tirageARefaire(table.statut, tour - 1, essais));
-    return {moteur::rencontresDuTour(table, classement, tour), table.statut};
+    return {moteur::partiesDuTour(table, classement, tour), table.statut};
 }
 
 void RemplaceTour(Partage &partage, const std::vector<Partie> &parties)
