@@ -252,8 +252,11 @@ BaseNative::BaseNative(const QString &fichier, const QString &motDePasse, Mode m
     try {
         ouvre(motDePasse, mode, false);
     } catch (const Erreur &erreur) {
-        const auto moteur = QVersionNumber::fromString(valeurUnique(u"pragma cipher_version"_qs).texte());
-        if (erreur.numero() != Erreur::MotDePasse || moteur.majorVersion() < 4) {
+        // Only a key that does not fit has left the file open, to be asked for the version.
+        const auto version = [this] {
+            return QVersionNumber::fromString(valeurUnique(u"pragma cipher_version"_qs).texte());
+        };
+        if (erreur.numero() != Erreur::MotDePasse || version().majorVersion() < 4) {
             ferme();
             throw;
         }

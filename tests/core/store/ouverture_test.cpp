@@ -179,24 +179,27 @@ TEST(Ouverture, AJournalIsNotTakenIntoACopyOfItsOwnBase)
     EXPECT_EQ(fichiers(essai.dossier()), avant);
 }
 
-TEST(Ouverture, RefusesAFolderThatCannotBeWritten)
+TEST(Ouverture, RefusesWhatMayNotBeWrittenOrReadAtAll)
 {
     BaseEssai essai;
     const QByteArray avant = contenu(essai.fichier());
     chmod(essai.dossier().toUtf8().constData(), 0555);
-    chmod(essai.fichier().toUtf8().constData(), 0444);
-    const pid_t enfant = fork();
-    if (enfant == 0) {
-        // The administrator may write anywhere: an ordinary user tries.
-        if (geteuid() == 0 && setuid(65534) != 0)
-            _exit(100);
-        _exit(-numeroAOuverture(essai.fichier(), BaseEssai::connexion()));
+    for (const mode_t droits : {0444, 0}) {
+        chmod(essai.fichier().toUtf8().constData(), droits);
+        const pid_t enfant = fork();
+        if (enfant == 0) {
+            // The administrator may write anywhere: an ordinary user tries.
+            if (geteuid() == 0 && setuid(65534) != 0)
+                _exit(100);
+            _exit(-numeroAOuverture(essai.fichier(), BaseEssai::connexion()));
+        }
+        int etat = 0;
+        waitpid(enfant, &etat, 0);
+        EXPECT_EQ(WEXITSTATUS(etat), -Erreur::DossierProtege) << droits;
     }
-    int etat = 0;
-    waitpid(enfant, &etat, 0);
-    EXPECT_EQ(WEXITSTATUS(etat), -Erreur::DossierProtege);
-    EXPECT_EQ(contenu(essai.fichier()), avant);
     chmod(essai.dossier().toUtf8().constData(), 0755);
+    chmod(essai.fichier().toUtf8().constData(), 0644);
+    EXPECT_EQ(contenu(essai.fichier()), avant);
 }
 
 TEST(Ouverture, KeepsWhatWasWrittenAndNeverInClear)
