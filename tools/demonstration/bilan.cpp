@@ -42,12 +42,12 @@ void Bilan::lit(const QString &base)
         const auto score = [&](QStringView champ) {
             return scores[champ].estNull() ? std::nullopt : std::optional(int(scores[champ].entier()));
         };
-        m_rencontres.push_back({.tour = int(tour),
-                                .equipe1 = int(scores[u"Equipe_1"].entier()),
-                                .equipe2 = int(scores[u"Equipe_2"].entierOu(0)),
-                                .score1 = score(u"score_1"),
-                                .score2 = score(u"score_2")});
-        m_tours[tour - 1].push_back(m_rencontres.back());
+        m_parties.push_back({.tour = int(tour),
+                             .equipe1 = int(scores[u"Equipe_1"].entier()),
+                             .equipe2 = int(scores[u"Equipe_2"].entierOu(0)),
+                             .score1 = score(u"score_1"),
+                             .score2 = score(u"score_2")});
+        m_tours[tour - 1].push_back(m_parties.back());
     }
 }
 
@@ -83,19 +83,19 @@ void Bilan::verifieTour(int tour)
 /// The first draw may leave a team out, when the field is odd and the bye has been exchanged.
 void Bilan::verifieRegles(int tour)
 {
-    for (const Rencontre &r : m_rencontres) {
+    for (const Partie &r : m_parties) {
         if (r.tour == tour && (!m_clubs.contains(r.equipe1) || (r.equipe2 > 0 && !m_clubs.contains(r.equipe2))))
             faute(tour, u"une équipe de %1 - %2 n'est pas inscrite."_qs.arg(r.equipe1).arg(r.equipe2));
     }
     const QString constat =
-        pilote::fauteDuTour(m_rencontres, tour, {[&](const Rencontre &r) { return repetitionPermise(r); }});
+        pilote::fauteDuTour(m_parties, tour, {[&](const Partie &r) { return repetitionPermise(r); }});
     if (!constat.isEmpty())
         faute(tour, constat);
 }
 
 void Bilan::verifieScores(int tour)
 {
-    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
+    for (const Partie &r : m_tours[size_t(tour) - 1]) {
         if (r.equipe2 == 0)
             continue;
         if (!r.score1 || !r.score2)
@@ -108,7 +108,7 @@ void Bilan::verifieScores(int tour)
 /// A repeat is told of, or could not be helped. The draw looks for another opponent in the rows that follow and then
 /// from the top of its table, as long as the level stays the same: only in the highest level has it seen every pair,
 /// and in the others a repeat may stand untold.
-bool Bilan::repetitionPermise(const Rencontre &r)
+bool Bilan::repetitionPermise(const Partie &r)
 {
     int plusHaut = 0;
     for (const auto &[equipe, niveau] : m_niveaux)
@@ -121,17 +121,17 @@ bool Bilan::repetitionPermise(const Rencontre &r)
 }
 
 /// Level of a pair: that of its better team.
-int Bilan::niveauDe(const Rencontre &rencontre) const
+int Bilan::niveauDe(const Partie &partie) const
 {
-    const int premier = m_niveaux.at(rencontre.equipe1);
-    return rencontre.equipe2 == 0 ? premier : std::max(premier, m_niveaux.at(rencontre.equipe2));
+    const int premier = m_niveaux.at(partie.equipe1);
+    return partie.equipe2 == 0 ? premier : std::max(premier, m_niveaux.at(partie.equipe2));
 }
 
 /// Whether another pair of the same level could exchange a team with \p repetee so that neither would be a repeat.
-bool Bilan::echangePossible(const Tour &rencontres, const Rencontre &repetee) const
+bool Bilan::echangePossible(const Tour &parties, const Partie &repetee) const
 {
     const auto nouvelle = [this](int equipe1, int equipe2) { return !m_paires.contains(paire(equipe1, equipe2)); };
-    return std::ranges::any_of(rencontres, [&](const Rencontre &autre) {
+    return std::ranges::any_of(parties, [&](const Partie &autre) {
         if (autre.equipe1 == repetee.equipe1 || niveauDe(autre) != niveauDe(repetee))
             return false;
         return (nouvelle(repetee.equipe1, autre.equipe1) && nouvelle(repetee.equipe2, autre.equipe2))
@@ -139,21 +139,21 @@ bool Bilan::echangePossible(const Tour &rencontres, const Rencontre &repetee) co
     });
 }
 
-bool Bilan::memeClub(const Rencontre &rencontre) const
+bool Bilan::memeClub(const Partie &partie) const
 {
-    if (rencontre.equipe2 == 0)
+    if (partie.equipe2 == 0)
         return false;
-    const QString club = m_clubs.at(rencontre.equipe1);
-    return club.compare(m_clubs.at(rencontre.equipe2), Qt::CaseInsensitive) == 0 && club != u"*Panachée";
+    const QString club = m_clubs.at(partie.equipe1);
+    return club.compare(m_clubs.at(partie.equipe2), Qt::CaseInsensitive) == 0 && club != u"*Panachée";
 }
 
 void Bilan::termineTour(int tour)
 {
     Comptes &comptes = m_comptes.back();
-    for (const Rencontre &r : m_tours[size_t(tour) - 1]) {
+    for (const Partie &r : m_tours[size_t(tour) - 1]) {
         m_paires.insert(paire(r.equipe1, r.equipe2));
         comptes.exempts += r.equipe2 == 0;
-        comptes.rencontres += r.equipe2 != 0;
+        comptes.parties += r.equipe2 != 0;
         comptes.memeClub += memeClub(r);
         const bool premiere = r.equipe2 == 0 || r.score1 == moteur::scoreGagnant;
         m_niveaux[r.equipe1] += premiere;
@@ -168,18 +168,18 @@ QStringList Bilan::lignes() const
     QStringList parTour;
     for (size_t i = 0; i < m_comptes.size(); ++i) {
         const Comptes &c = m_comptes[i];
-        total.rencontres += c.rencontres;
+        total.parties += c.parties;
         total.exempts += c.exempts;
         total.repetitions += c.repetitions;
         total.memeClub += c.memeClub;
         parTour += u"  tour %1 : %2 rencontres, exempts %3, répétées %4, même club %5"_qs.arg(i + 1)
-                       .arg(c.rencontres)
+                       .arg(c.parties)
                        .arg(c.exempts)
                        .arg(c.repetitions)
                        .arg(c.memeClub);
     }
     QStringList lignes{
-        u"Équipes : %1 ; tours : %2 ; rencontres : %3"_qs.arg(m_clubs.size()).arg(m_tours.size()).arg(total.rencontres),
+        u"Équipes : %1 ; tours : %2 ; rencontres : %3"_qs.arg(m_clubs.size()).arg(m_tours.size()).arg(total.parties),
         u"Exempts : %1 ; rencontres répétées : %2, dont %3 sans avertissement ; tours avertis : %4"_qs
             .arg(total.exempts)
             .arg(total.repetitions)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 #include "plateau.h"
 
 #include <QStringList>
@@ -25,12 +25,12 @@ public:
     const QStringList &fautes() const { return m_fautes; }
 
 private:
-    using Rencontre = moteur::Partie;
-    using Tour = std::vector<Rencontre>;
+    using Partie = moteur::Partie;
+    using Tour = std::vector<Partie>;
     using Paire = std::pair<int, int>;
     struct Comptes
     {
-        int rencontres = 0;
+        int parties = 0;
         int exempts = 0;
         int repetitions = 0;
         int memeClub = 0;
@@ -41,18 +41,18 @@ private:
     void verifieTour(int tour);
     void verifieRegles(int tour);
     void verifieScores(int tour);
-    bool repetitionPermise(const Rencontre &r);
+    bool repetitionPermise(const Partie &r);
     void termineTour(int tour);
-    bool echangePossible(const Tour &rencontres, const Rencontre &repetee) const;
-    int niveauDe(const Rencontre &rencontre) const;
-    bool memeClub(const Rencontre &rencontre) const;
+    bool echangePossible(const Tour &parties, const Partie &repetee) const;
+    int niveauDe(const Partie &partie) const;
+    bool memeClub(const Partie &partie) const;
     void faute(int tour, const QString &phrase);
 
     const Plateau &m_plateau;
     const Options &m_options;
     const std::set<int> &m_avertis;
     std::map<int, QString> m_clubs; ///< Club of each registered team, from the base.
-    std::vector<Rencontre> m_rencontres;
+    std::vector<Partie> m_parties;
     std::vector<Tour> m_tours;
     std::map<int, int> m_niveaux; ///< Matches won before the round in hand, of every team that has been drawn.
     std::set<Paire> m_paires; ///< Meetings before the round in hand.

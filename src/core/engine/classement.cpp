@@ -35,11 +35,11 @@ void gagne(LigneClassement &ligne)
 }
 
 /// Side that has won, 1 or 2; 0 when no side stands at 13. With both at 13 the first has won.
-int vainqueur(const Partie &rencontre)
+int vainqueur(const Partie &partie)
 {
-    if (rencontre.score1 == scoreGagnant)
+    if (partie.score1 == scoreGagnant)
         return 1;
-    return rencontre.score2 == scoreGagnant ? 2 : 0;
+    return partie.score2 == scoreGagnant ? 2 : 0;
 }
 
 void compteResultat(LigneClassement &ligne, int cote, int gagnant)
@@ -58,11 +58,11 @@ public:
     {
     }
 
-    void compte(const Partie &rencontre)
+    void compte(const Partie &partie)
     {
-        comptePremiere(rencontre);
-        if (rencontre.equipe2 > 0)
-            compteSeconde(rencontre);
+        comptePremiere(partie);
+        if (partie.equipe2 > 0)
+            compteSeconde(partie);
     }
 
     std::vector<LigneClassement> lignes() &&
@@ -72,29 +72,29 @@ public:
     }
 
 private:
-    void comptePremiere(const Partie &rencontre)
+    void comptePremiere(const Partie &partie)
     {
         const std::size_t connues = m_lignes.size();
-        LigneClassement &ligne = ligneDe(rencontre.equipe1);
-        if (rencontre.equipe2 > 0) {
-            compteResultat(ligne, 1, vainqueur(rencontre));
-            ajoutePoints(ligne, rencontre.score1, rencontre.score2);
+        LigneClassement &ligne = ligneDe(partie.equipe1);
+        if (partie.equipe2 > 0) {
+            compteResultat(ligne, 1, vainqueur(partie));
+            ajoutePoints(ligne, partie.score1, partie.score2);
         } else {
             gagne(ligne);
             ajoutePoints(ligne, scoreGagnant, scoreConcedeExempt);
         }
         if (m_lignes.size() > connues) {
             ligne.alea = AleaEntre(m_alea, aleaMin, aleaMax);
-            if (rencontre.repechage == 1)
+            if (partie.repechage == 1)
                 ligne.repechage = 1;
         }
     }
 
-    void compteSeconde(const Partie &rencontre)
+    void compteSeconde(const Partie &partie)
     {
-        LigneClassement &ligne = ligneDe(rencontre.equipe2);
-        compteResultat(ligne, 2, vainqueur(rencontre));
-        ajoutePoints(ligne, rencontre.score2, rencontre.score1);
+        LigneClassement &ligne = ligneDe(partie.equipe2);
+        compteResultat(ligne, 2, vainqueur(partie));
+        ajoutePoints(ligne, partie.score2, partie.score1);
         ligne.alea = AleaEntre(m_alea, aleaMin, aleaMax);
     }
 
@@ -113,11 +113,11 @@ private:
 
 } // namespace
 
-std::vector<LigneClassement> etablitClassement(std::span<const Partie> rencontres, SourceAleatoire &alea)
+std::vector<LigneClassement> etablitClassement(std::span<const Partie> parties, SourceAleatoire &alea)
 {
     Classeur classeur(alea);
-    for (const Partie &rencontre : rencontres)
-        classeur.compte(rencontre);
+    for (const Partie &partie : parties)
+        classeur.compte(partie);
     return std::move(classeur).lignes();
 }
 

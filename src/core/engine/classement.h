@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 
 #include <optional>
 #include <span>
@@ -26,13 +26,13 @@ struct LigneClassement
     bool operator==(const LigneClassement &) const = default;
 };
 
-/// Ranking after \p rencontres, which come ordered by round, then by first team. One row a team that occurs in them,
+/// Ranking after \p parties, which come ordered by round, then by first team. One row a team that occurs in them,
 /// in ascending order of team number.
 ///
 /// A bye (no second team) counts as 13 to 7 whatever its scores; a match without a 13 is neither won nor lost, and
 /// its scores count all the same. `alea` is drawn when a team first occurs and anew at each match that the team
 /// plays as second team.
-std::vector<LigneClassement> etablitClassement(std::span<const Partie> rencontres, SourceAleatoire &alea);
+std::vector<LigneClassement> etablitClassement(std::span<const Partie> parties, SourceAleatoire &alea);
 
 /// Order of the index `rankkey`: `pt`, then `ga`, both from the highest and an absent `ga` last, then the team.
 bool avantAuRang(const LigneClassement &gauche, const LigneClassement &droite);

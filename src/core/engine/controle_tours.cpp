@@ -19,7 +19,7 @@ bool tirageARefaire(StatutTirage statut, int tourCourant, int essais)
     return statut == StatutTirage::DejaRencontrees || (statut == StatutTirage::MemeClub && tourCourant == 1);
 }
 
-std::vector<Partie> rencontresDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour)
+std::vector<Partie> partiesDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour)
 {
     std::unordered_set<int> remontees;
     for (const LigneClassement &ligne : classement) {
@@ -27,21 +27,20 @@ std::vector<Partie> rencontresDuTour(const TabTirage &table, std::span<const Lig
             remontees.insert(ligne.equipe);
     }
 
-    std::vector<Partie> rencontres;
-    rencontres.reserve(table.lignes.size());
+    std::vector<Partie> parties;
+    parties.reserve(table.lignes.size());
     for (const LigneTirage &ligne : table.lignes) {
-        Partie &rencontre =
-            rencontres.emplace_back(Partie{.tour = tour, .equipe1 = ligne.equipe1, .equipe2 = ligne.equipe2});
+        Partie &partie = parties.emplace_back(Partie{.tour = tour, .equipe1 = ligne.equipe1, .equipe2 = ligne.equipe2});
         if (remontees.contains(ligne.equipe1))
-            rencontre.repechage = 1;
+            partie.repechage = 1;
         if (ligne.equipe2 == 0) {
-            rencontre.score1 = scoreGagnant;
-            rencontre.score2 = scoreConcedeExempt;
+            partie.score1 = scoreGagnant;
+            partie.score2 = scoreConcedeExempt;
         } else if (remontees.contains(ligne.equipe2)) {
-            rencontre.repechage = 2;
+            partie.repechage = 2;
         }
     }
-    return rencontres;
+    return parties;
 }
 
 } // namespace moteur

@@ -21,6 +21,6 @@ bool tirageARefaire(StatutTirage statut, int tourCourant, int essais);
 
 /// Matches of round \p tour (from 2) to write for a draw, in its order. \p classement is the ranking that the draw has
 /// worked on: it tells which side was pulled up. A bye is a finished match, 13 to 7.
-std::vector<Partie> rencontresDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour);
+std::vector<Partie> partiesDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour);
 
 } // namespace moteur

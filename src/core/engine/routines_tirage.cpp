@@ -68,15 +68,15 @@ std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage, int tour)
     return paires;
 }
 
-void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Partie> &rencontres)
+void ecritParties(Partage &partage, qint16 tableau, const std::vector<Partie> &parties)
 {
     Instruction ajout(partage.BaseDonnees.native(),
                       u"insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2, score_1, score_2, "
                       u"repechage) values (?, ?, ?, ?, ?, ?, ?, ?, ?)"_qs);
-    for (const Partie &rencontre : rencontres) {
-        const Valeur champs[] = {partage.ConcoursCourant, tableau,           rencontre.tour,
-                                 rencontre.rencontre,     rencontre.equipe1, rencontre.equipe2,
-                                 rencontre.score1,        rencontre.score2,  rencontre.repechage};
+    for (const Partie &partie : parties) {
+        const Valeur champs[] = {partage.ConcoursCourant, tableau,        partie.tour,
+                                 partie.rencontre,        partie.equipe1, partie.equipe2,
+                                 partie.score1,           partie.score2,  partie.repechage};
         int indice = 0;
         for (const Valeur &champ : champs)
             ajout.lie(++indice, champ);
@@ -136,9 +136,9 @@ void fixeTourPrincipal(Partage &partage, int tour)
 void ecritTirageTour1(Partage &partage, qint16 tableau)
 {
     const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
-    const auto rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
+    const auto parties = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
     partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, tableau, rencontres);
+        ecritParties(partage, tableau, parties);
         fixeTourPrincipal(partage, premierTour);
     });
 }
@@ -288,10 +288,10 @@ BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi)
         TirageSuivant(partage, suivi);
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
-    const auto rencontres = moteur::rencontresDuTour(partage.TabTirage, LitClassement(partage), tour);
+    const auto parties = moteur::partiesDuTour(partage.TabTirage, LitClassement(partage), tour);
     // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, 1, rencontres);
+        ecritParties(partage, 1, parties);
         fixeTourPrincipal(partage, tour);
     });
     partage.TourCourant = qint16(tour);
@@ -323,7 +323,7 @@ TourPropose ProposeTour(Partage &partage, int tour)
                                          .tourpri = tour - 1,
                                          .repeche = partage.AvecRepechage});
     } while (moteur::tirageARefaire(table.statut, tour - 1, essais));
-    return {moteur::rencontresDuTour(table, classement, tour), table.statut};
+    return {moteur::partiesDuTour(table, classement, tour), table.statut};
 }
 
 void RemplaceTour(Partage &partage, const std::vector<Partie> &parties)
@@ -332,7 +332,7 @@ void RemplaceTour(Partage &partage, const std::vector<Partie> &parties)
         partage.BaseDonnees.Execute(
             u"delete * from scores where concours=%1 and tableau=1 and tour=%2"_qs.arg(partage.ConcoursCourant)
                 .arg(partage.TourCourant));
-        ecritRencontres(partage, 1, parties);
+        ecritParties(partage, 1, parties);
     });
     metLeFichierAJour(partage);
 }

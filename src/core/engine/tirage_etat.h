@@ -92,7 +92,7 @@ private:
     };
 
     void situeEquipes();
-    int ligneDe(const PaireDeRangs &rencontre) const;
+    int ligneDe(const PaireDeRangs &jouee) const;
     void corrige(int i);
     bool convient(int i);
     bool dejaRencontrees(int i) const;

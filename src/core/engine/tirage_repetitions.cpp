@@ -69,14 +69,14 @@ void ControleRepetitions::situe(int i)
 
 /// Row in which the two teams stand against each other again, 0 when they do not. Each team stands in one row only,
 /// so no second row can hold the pair.
-int ControleRepetitions::ligneDe(const PaireDeRangs &rencontre) const
+int ControleRepetitions::ligneDe(const PaireDeRangs &jouee) const
 {
-    const int equipe = rencontre.rang1 != aucun ? rencontre.rang1 : rencontre.rang2;
+    const int equipe = jouee.rang1 != aucun ? jouee.rang1 : jouee.rang2;
     if (equipe == aucun)
         return 0;
     const int i = m_lignes[static_cast<std::size_t>(equipe)];
     const Paire &paire = m_etat.paire(i);
-    return cle(paire.premiere.rang, paire.seconde.rang) == cle(rencontre.rang1, rencontre.rang2) ? i : 0;
+    return cle(paire.premiere.rang, paire.seconde.rang) == cle(jouee.rang1, jouee.rang2) ? i : 0;
 }
 
 /// Looks for another opponent for the first team of row \p i: in the rows after it, then from the first row of the

@@ -27,7 +27,7 @@ public:
         separeClubs(1);
     }
 
-    std::vector<Partie> rencontres() const
+    std::vector<Partie> parties() const
     {
         std::vector<Partie> resultat;
         resultat.reserve(m_paires.size());
@@ -138,7 +138,7 @@ std::vector<Partie> tireTour1(std::span<const EquipeInscrite> equipes, int exemp
 {
     if (equipes.size() < 2)
         return {};
-    return TirageTour1(equipes, exemptPrecedent, alea).rencontres();
+    return TirageTour1(equipes, exemptPrecedent, alea).parties();
 }
 
 } // namespace moteur

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 
 #include <QString>
 

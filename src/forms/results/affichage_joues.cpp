@@ -1,7 +1,7 @@
 #include "results/affichage_joues.h"
 
 #include "donnees/rencontres.h"
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 #include "fenetres/formulaires.h"
 #include "fenetres/garde_defilement.h"
 #include "noms/formes.h"

@@ -2,7 +2,7 @@
 
 #include "donnees/clubs.h"
 #include "donnees/equipes.h"
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 #include "fenetres/formulaires.h"
 #include "partage/routines.h"
 #include "socle/twips.h"

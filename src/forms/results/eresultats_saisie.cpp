@@ -1,7 +1,7 @@
 #include "results/eresultats.h"
 
 #include "donnees/rencontres.h"
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 #include "engine/routines_resultats.h"
 #include "fenetres/formulaires.h"
 #include "noms/formes.h"

@@ -67,7 +67,7 @@ void Concours::tireSuivant()
         table = moteur::tireTourSuivant({lignes, nomsClubs, dejaJouees, m_tourpri, m_repeche});
     } while (moteur::tirageARefaire(table.statut, m_tourpri, essais));
     ++m_tourpri;
-    std::ranges::copy(moteur::rencontresDuTour(table, lignes, m_tourpri), std::back_inserter(m_rencontres));
+    std::ranges::copy(moteur::partiesDuTour(table, lignes, m_tourpri), std::back_inserter(m_rencontres));
 }
 
 void Concours::saisitResultat(Partie &rencontre, const Saisie &saisie)

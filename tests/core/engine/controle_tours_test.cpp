@@ -65,7 +65,7 @@ TEST(ControleTours, RencontresAEcrire)
         {.tour = 4, .equipe1 = 1, .equipe2 = 2, .repechage = 2}, // the second side has the last word
         {.tour = 4, .equipe1 = 6, .equipe2 = 0, .score1 = 13, .score2 = 7, .repechage = 1},
     };
-    EXPECT_EQ(moteur::rencontresDuTour(table, classement, 4), attendues);
+    EXPECT_EQ(moteur::partiesDuTour(table, classement, 4), attendues);
 }
 
 } // namespace

@@ -324,7 +324,7 @@ private:
 
 } // namespace
 
-Rencontree normee(int equipe1, int equipe2)
+Paire normee(int equipe1, int equipe2)
 {
     return {std::min(equipe1, equipe2), std::max(equipe1, equipe2)};
 }

@@ -12,15 +12,15 @@ class SourceAleatoire;
 /// read for every meeting, every order sorted afresh. Slow on purpose, and independent of the program's own.
 namespace modele {
 
-using Rencontree = std::pair<int, int>; ///< Two teams, the smaller number first.
+using Paire = std::pair<int, int>; ///< Two teams, the smaller number first.
 
-Rencontree normee(int equipe1, int equipe2);
+Paire normee(int equipe1, int equipe2);
 
 /// What happened on the way, so that a test can tell why a draw is as it is and which of its paths were reached.
 struct Journal
 {
-    std::set<Rencontree> abandonnees; ///< Pairs left as they stood because the search for a partner ended.
-    std::set<Rencontree> crees; ///< Repeats that an exchange made in the other row.
+    std::set<Paire> abandonnees; ///< Pairs left as they stood because the search for a partner ended.
+    std::set<Paire> crees; ///< Repeats that an exchange made in the other row.
     int remontees = 0;
     int remplacees = 0; ///< Teams pulled up that gave way to another for the sake of clubs.
     int clubsRestants = 0;

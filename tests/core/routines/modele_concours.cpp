@@ -229,7 +229,7 @@ bool Concours::boutonVisible() const
 QString fauteDuTour(const Concours &concours, const Journal &journal)
 {
     const auto repetition = [&](const Partie &r) {
-        const Rencontree paire = normee(r.equipe1, r.equipe2);
+        const Paire paire = normee(r.equipe1, r.equipe2);
         return journal.abandonnees.contains(paire) || journal.crees.contains(paire);
     };
     // A team that gives way for the sake of clubs hands its mark on, to one that may stand where it has won to.

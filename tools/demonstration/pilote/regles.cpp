@@ -17,10 +17,10 @@ struct Avant
     std::set<std::pair<int, int>> paires;
 };
 
-Avant litAvant(std::span<const Partie> rencontres, int tour)
+Avant litAvant(std::span<const Partie> parties, int tour)
 {
     Avant avant;
-    for (const Partie &r : rencontres) {
+    for (const Partie &r : parties) {
         if (r.tour >= tour)
             continue;
         avant.paires.insert(std::minmax(r.equipe1, r.equipe2));
@@ -54,12 +54,12 @@ QString fauteDeNiveau(const Partie &r, const std::map<int, int> &niveaux, std::s
 
 } // namespace
 
-QString fauteDuTour(std::span<const Partie> rencontres, int tour, const Indulgences &indulgences)
+QString fauteDuTour(std::span<const Partie> parties, int tour, const Indulgences &indulgences)
 {
-    const Avant avant = litAvant(rencontres, tour);
+    const Avant avant = litAvant(parties, tour);
     std::set<int> vues;
     std::set<int> ontRemonte;
-    for (const Partie &r : rencontres) {
+    for (const Partie &r : parties) {
         if (r.tour != tour)
             continue;
         const QString paire = u"%1 - %2 : "_qs.arg(r.equipe1).arg(r.equipe2);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/rencontre.h"
+#include "engine/partie.h"
 
 #include <QString>
 
@@ -23,6 +23,6 @@ struct Indulgences
 /// played before play, a pair is of one level or holds the one team that its lower level has sent up, one team at most
 /// is free, of the lowest level, and nobody meets again but by indulgence. All earlier matches are won by one side. The
 /// fault in words, empty when all is well.
-QString fauteDuTour(std::span<const moteur::Partie> rencontres, int tour, const Indulgences &indulgences);
+QString fauteDuTour(std::span<const moteur::Partie> parties, int tour, const Indulgences &indulgences);
 
 } // namespace pilote
