@@ -67,10 +67,10 @@ protected:
 
 QByteArray colonnes(const QString &texte, int largeur)
 {
-    QString cadre = texte.left(largeur);
-    while (cadre.size() < largeur)
-        cadre += u' ';
-    return cadre.toUtf8();
+    QString remplie = texte.left(largeur);
+    while (remplie.size() < largeur)
+        remplie += u' ';
+    return remplie.toUtf8();
 }
 
 TEST_F(Listes, TheTeamsAreShownAndWrittenToTheirFile)

@@ -57,8 +57,8 @@ void Outils::metAlarme()
 void Outils::attendSonnerie()
 {
     m_horloge.passe(minutesAlarme * 60);
-    const auto *cadre = m_main.controle(outils, u"CadreAlarme"_qs);
-    exige(QTest::qWaitFor([&] { return cadre->property("alarme") == u"rouge"_qs; }, patienceMs),
+    const auto *panneau = m_main.controle(outils, u"PanneauAlarme"_qs);
+    exige(QTest::qWaitFor([&] { return panneau->property("alarme") == u"rouge"_qs; }, patienceMs),
           u"L'alarme ne sonne pas."_qs);
 }
 

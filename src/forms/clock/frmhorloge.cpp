@@ -210,8 +210,8 @@ void FrmHorloge::montreAlarme(const QString &heures, const QString &minutes, con
 void FrmHorloge::inverseAlarme(bool inverse)
 {
     m_inverse = inverse;
-    m_ui->CadreAlarme->setProperty("alarme", inverse ? u"rouge"_qs : u"blanc"_qs);
-    QWidget *const colores[] = {m_ui->CadreAlarme, m_ui->AlarmeHeures, m_ui->AlarmeMinutes, m_ui->AlarmeSecondes};
+    m_ui->PanneauAlarme->setProperty("alarme", inverse ? u"rouge"_qs : u"blanc"_qs);
+    QWidget *const colores[] = {m_ui->PanneauAlarme, m_ui->AlarmeHeures, m_ui->AlarmeMinutes, m_ui->AlarmeSecondes};
     for (QWidget *colore : colores) {
         colore->style()->unpolish(colore);
         colore->style()->polish(colore);

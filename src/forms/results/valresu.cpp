@@ -79,8 +79,8 @@ void valresu::ajusteLargeur()
     int colonnes = 0;
     for (int colonne = 0; colonne < grille.Cols(); ++colonne)
         colonnes += grille.LargeurAffichee(colonne);
-    const int cadre = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
-    const int largeur = std::max(largeurGrille, colonnes + cadre);
+    const int bords = 2 * grille.frameWidth() + grille.verticalScrollBar()->sizeHint().width();
+    const int largeur = std::max(largeurGrille, colonnes + bords);
     const int libre = enPixels(largeurLibre) - formulaires().tailleCadre(*this).width();
     const int marge = std::clamp((libre - largeur) / 2, 0, gaucheGrille);
     grille.setGeometry(marge, marge, largeur, height() - 2 * marge);

@@ -68,7 +68,7 @@ protected:
             + texte(u"centiemes"_qs);
     }
     QString alarme() { return texte(u"AlarmeHeures"_qs) + texte(u"AlarmeMinutes"_qs) + texte(u"AlarmeSecondes"_qs); }
-    QString couleur() { return controle<QWidget>(u"CadreAlarme"_qs)->property("alarme").toString(); }
+    QString couleur() { return controle<QWidget>(u"PanneauAlarme"_qs)->property("alarme").toString(); }
     bool dessus() { return forme()->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint); }
     void metAlarme(const std::optional<QString> &minutes)
     {
