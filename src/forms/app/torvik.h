@@ -23,9 +23,6 @@ public:
     /// Opens the base, loads the language, and shows the welcome window. Throws when the base or the icon of the
     /// language cannot be read: the program has nothing to go on with then.
     void Form_Load();
-    /// Puts the texts and the icon of the active language on the window.
-    void LegendesTorvik();
-    void langueChangee();
     /// What of the window lies below its menus and buttons.
     QWidget *fond() const;
     /// The session may end now: what has been entered goes into the file of the base.
@@ -36,6 +33,9 @@ protected:
     void closeEvent(QCloseEvent *evenement) override;
 
 private:
+    /// Puts the texts and the icon of the active language on the window.
+    void LegendesTorvik();
+    void langueChangee();
     void f_accueil_Click();
     void f_concours_Click();
     void f_equipes_Click();

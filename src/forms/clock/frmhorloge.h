@@ -34,14 +34,9 @@ public:
     std::vector<Infobulle> infobulles() const override;
     void Form_Load() override;
 
-    void Timer2_Timer();
-
-    void Command1_Click();
+    /// The clock goes on: the alarm is looked at, then the next time shown.
     void Timer1_Timer();
-
-    void Timer11_Timer() { tourne(0); }
-    void Timer12_Timer() { tourne(1); }
-    void Timer13_Timer() { tourne(2); }
+    /// The next step of a draw of the lottery.
     void Timer14_Timer();
 
     /// Plays the alarm on \p son instead of the desktop's sound.
@@ -52,6 +47,11 @@ protected:
     void hideEvent(QHideEvent *evenement) override;
 
 private:
+    void Timer2_Timer();
+    void Command1_Click();
+    void Timer11_Timer() { tourne(0); }
+    void Timer12_Timer() { tourne(1); }
+    void Timer13_Timer() { tourne(2); }
     void start_Click();
     void stop_Click();
     void effacer_Click();

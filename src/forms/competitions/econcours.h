@@ -25,15 +25,13 @@ public:
     void Form_Resize() override { RedimForm(); }
     void Form_Activate() override;
 
-    /// Refills the list of competitions and proposes the number behind the last one; hides the list when there is none.
-    void majrefconcours();
-
+private:
     void référence_GotFocus();
     void référence_KeyDown(int KeyCode, int Shift);
     void référence_LostFocus();
     void Command1_Click();
-
-private:
+    /// Refills the list of competitions and proposes the number behind the last one; hides the list when there is none.
+    void majrefconcours();
     void Text2_KeyDown(int KeyCode, int Shift);
     void Text3_KeyDown(int KeyCode, int Shift);
     void Text4_KeyDown(int KeyCode, int Shift);

@@ -23,17 +23,17 @@ public:
     palmares(const Contexte &contexte, QWidget *parent);
     ~palmares() override;
 
-    void LegendesPalmares();
     std::vector<Infobulle> infobulles() const override;
     void Form_Load() override;
     /// Builds the list anew, of the current competition and without names; what was offered of the old one goes.
     void Rafraichir() override;
     void Form_MouseDown(int bouton, int maj, int x, int y) override;
-    void imprimer_Click();
     /// Whether teams bear names in the list.
     bool avecNoms() const { return m_avecNoms != 0; }
 
 private:
+    void imprimer_Click();
+    void LegendesPalmares();
     void Thonneur_MouseDown(int Index, int Button, int Shift);
     void Thonneur_KeyDown(int Index, int KeyCode);
 

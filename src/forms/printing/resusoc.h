@@ -17,15 +17,16 @@ public:
     Resusoc(const Contexte &contexte, QWidget *parent);
     ~Resusoc() override;
 
-    void LegendesResusoc();
     void Form_Load() override;
     void Form_Resize() override { RedimForm(); }
-    void imprimer_Click();
 
     /// Offers the two teams of a match and their clubs. Each text is a team as grid \p tableau of the honours list has
     /// it: number, name, and the club in brackets at its end.
     void propose(int tableau, const QString &equipe1, const QString &equipe2);
 
 private:
+    void imprimer_Click();
+    void LegendesResusoc();
+
     std::unique_ptr<Ui::Resusoc> m_ui;
 };

@@ -28,6 +28,11 @@ public:
     void Form_Activate() override;
     void Form_Unload() override;
 
+protected:
+    qint32 concoursSaisi() const override { return partage().ConcoursCourant; }
+    bool montreConnu(const std::vector<donnees::Membre> &membres) override;
+
+private:
     void référence_GotFocus();
     void référence_KeyDown(int KeyCode, int Shift);
     void référence_LostFocus();
@@ -41,12 +46,6 @@ public:
     void SupprimerC_Click();
     void Command1_Click();
     void Command2_Click();
-
-protected:
-    qint32 concoursSaisi() const override { return partage().ConcoursCourant; }
-    bool montreConnu(const std::vector<donnees::Membre> &membres) override;
-
-private:
     void cImport_Click();
 
     static constexpr int membresAffiches = 4;

@@ -23,6 +23,11 @@ public:
     void Form_Activate() override;
     void Form_Unload() override;
 
+protected:
+    qint32 concoursSaisi() const override;
+    bool montreConnu(const std::vector<donnees::Membre> &membres) override;
+
+private:
     void Equipe_GotFocus();
     void LicenceJ_KeyDown(int Index, int KeyCode, int Shift);
     void LicenceJ_LostFocus(int Index);
@@ -32,12 +37,6 @@ public:
     void Okc_Click();
     void SupprimerC_Click();
     void Command1_Click();
-
-protected:
-    qint32 concoursSaisi() const override;
-    bool montreConnu(const std::vector<donnees::Membre> &membres) override;
-
-private:
     void ne_KeyDown(int KeyCode, int Shift);
 
     void LegendesEjoueurs();

@@ -22,8 +22,6 @@ public:
     void Form_Click() override;
     void Form_Resize() override { RedimForm(); }
 
-    void Société_LostFocus();
-
 protected:
     /// Controls that both forms have; \p premierNom is where the entry goes on behind a new club.
     struct Champs
@@ -75,6 +73,8 @@ protected:
     /// A licence that is taken may only be the one of this very line, place \p place under the number typed.
     void signaleEngagement(const donnees::Membre &engage, int place, const Ligne &ligne);
 
+    /// The club has been left. One that the base lacks is added on a Yes, and taken out of the field on a No.
+    void Société_LostFocus();
     /// Tells that a club is missing, and shows those that there are. False when there is one.
     bool refuseSansClub();
     void placeListesoc(int largeur);

@@ -25,12 +25,10 @@ public:
     void Form_Load() override;
     void Form_Activate() override;
 
+private:
     void Les_équipes_MouseUp(int Button, int ligne);
     void imprimer_Click();
-
     void LegendesListeq();
-
-private:
     void imprimer_selection_Click();
 
     bool pourLesResultats() const { return passation(formulaires()).ModeListeEquipes == 1; }

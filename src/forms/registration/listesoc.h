@@ -21,13 +21,12 @@ public:
     void Form_Load() override;
     void Form_Resize() override { RedimForm(); }
 
+private:
     /// A key typed in the grid, by the code of its character.
     void Liste_soc_KeyPress(int KeyAscii);
     void Liste_soc_MouseUp(int Button, int Shift);
     void Command1_Click();
     void Command2_Click();
-
-private:
     void Recherche_Change();
 
     void LegendesListesoc();

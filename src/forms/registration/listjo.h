@@ -23,12 +23,10 @@ public:
     void Form_Activate() override;
     void Rafraichir() override { Rafraichir_Click(); }
 
+private:
     void Les_équipes_MouseUp(int Button, int ligne);
     void imprimer_Click();
-
     void LegendesListjo();
-
-private:
     void Rafraichir_Click();
 
     QString format() const;

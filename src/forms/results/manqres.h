@@ -26,9 +26,6 @@ public:
     void Form_Unload() override;
     void Rafraichir() override;
 
-    /// A press in grid \p Index, row \p ligne (0 for the heading, -1 below the last row), column \p colonne.
-    void les_resultats_MouseDown(int Index, int Button, int ligne, int colonne);
-
     void LegendesManqres();
     /// Grid 0 has the pending matches, grid 1 the ranking.
     FlexGrid &grille(int index) const;
@@ -40,6 +37,8 @@ protected:
     void quitteEcran() override;
 
 private:
+    /// A press in grid \p Index, row \p ligne (0 for the heading, -1 below the last row), column \p colonne.
+    void les_resultats_MouseDown(int Index, int Button, int ligne, int colonne);
     void classement_Click();
 
     void montreAttendus(bool attendus);

@@ -25,9 +25,6 @@ public:
     void Form_Activate() override;
     void Rafraichir() override;
 
-    /// A press in row \p ligne, 0 for the heading and -1 below the last row, and column \p colonne.
-    void les_resultats_MouseDown(int Button, int ligne, int colonne);
-
     void LegendesValresu();
     FlexGrid &grille() const;
     /// Makes grid and form as wide as the columns.
@@ -37,6 +34,9 @@ protected:
     void placePres(const Formulaire &saisie) override;
 
 private:
+    /// A press in row \p ligne, 0 for the heading and -1 below the last row, and column \p colonne.
+    void les_resultats_MouseDown(int Button, int ligne, int colonne);
+
     void recopie(int ligne);
     void recopieEquipe(QLineEdit &equipe, int ligne, int colonne);
     void trie(int colonne);
