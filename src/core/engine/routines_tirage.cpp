@@ -115,7 +115,8 @@ std::optional<int> dernierTourTire(Partage &partage)
     return tour.estNull() ? std::nullopt : std::optional(int(tour.entier()));
 }
 
-/// Team that had the bye of the round before \p tour. There is none before round 1.
+/// Team that had the bye of the round before \p tour, which the draw takes first; pasDExempt without one, as always
+/// before round 1. Asked all the same: the rules give that team its place in any draw of this kind.
 int exemptDuTourPrecedent(Partage &partage, qint16 tableau, int tour)
 {
     const QString bye =
@@ -143,7 +144,7 @@ void ecritTirageTour1(Partage &partage, qint16 tableau)
     });
 }
 
-/// The file of the base follows the draw. A failure loses nothing; the watch over the base tries again, and tells.
+/// Brings the file of the base up to the draw. A failure loses nothing: GardeBase tries again, and tells.
 void metLeFichierAJour(Partage &partage)
 {
     try {
@@ -228,7 +229,7 @@ ObstacleAuTirage ConfirmeTirage(Partage &partage)
 
 void RefaitTirage(Partage &partage)
 {
-    // As one group: a power cut leaves the old draw or the new one.
+    // One group: a power cut leaves the old draw or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
         for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
             partage.BaseDonnees.Execute(
@@ -241,14 +242,19 @@ void RefaitTirage(Partage &partage)
 
 bool TirageTour1(Partage &partage, qint16 tableau, int)
 {
-    const bool dejaTire = tourDejaTire(partage, tableau, premierTour);
-    if (dejaTire)
-        fixeTourPrincipal(partage, premierTour);
-    else
-        ecritTirageTour1(partage, tableau);
+    if (tourDejaTire(partage, tableau, premierTour))
+        return false;
+    ecritTirageTour1(partage, tableau);
     partage.TourCourant = premierTour;
     metLeFichierAJour(partage);
-    return !dejaTire;
+    return true;
+}
+
+void PasseAuTour1(Partage &partage)
+{
+    fixeTourPrincipal(partage, premierTour);
+    partage.TourCourant = premierTour;
+    metLeFichierAJour(partage);
 }
 
 void TirageSuivant(Partage &partage, const SuiviTirage &suivi)
