@@ -26,7 +26,7 @@ public:
     /// that is there stays as it is. Nothing happens in the program's own folder. Call it with the folder locked.
     /// Gives the sentence to show: a failure, or where the competitions live when that is not where they were last
     /// seen. Empty on an ordinary day.
-    QString remplit() const;
+    [[nodiscard]] QString remplit() const;
 
 private:
     QString m_chemin;
@@ -35,4 +35,4 @@ private:
 };
 
 /// Whether files can be created in \p dossier. Tried out, since permissions alone tell too little on some systems.
-bool dossierInscriptible(const QString &dossier);
+[[nodiscard]] bool dossierInscriptible(const QString &dossier);

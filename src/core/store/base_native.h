@@ -139,7 +139,7 @@ public:
     /// Whether the file \p copie is proved to hold what the base holds: it is as this connection has left or found it
     /// and nothing has been written since, or the rows of the two are the same. Under the conditions of copieVers; a
     /// file that cannot be read proves nothing.
-    bool estDans(const QString &copie);
+    [[nodiscard]] bool estDans(const QString &copie);
 
     /// Rows changed since the file was opened.
     int changements() const;
