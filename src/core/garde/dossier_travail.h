@@ -19,7 +19,9 @@ public:
     /// told by remplit.
     DossierTravail(const Lieux &lieux, bool programmeInscriptible);
 
+    /// Full path of the folder.
     const QString &chemin() const { return m_chemin; }
+    /// Whether a base stands in that folder.
     bool aUneBase() const;
 
     /// Puts into the user's own folder what it lacks, and the pictures and sounds that a newer version brings; a base

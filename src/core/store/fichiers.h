@@ -22,7 +22,7 @@ inline const QStringList suffixesJournaux{u"-wal"_qs, u"-shm"_qs, u"-journal"_qs
 [[nodiscard]] bool recopie(const QString &source, const QString &cible);
 
 /// Brings \p fichier to the disk and lets the system forget what it keeps of it in memory, so that the next reading
-/// tells what the disk holds. A wish: not every system grants it.
+/// tells what the disk holds. Where the system cannot, nothing happens.
 void relitDuDisque(const QString &fichier);
 
 } // namespace store

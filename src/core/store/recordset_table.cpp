@@ -49,7 +49,8 @@ Valeur RecordsetTable::champ(int place)
 }
 
 /// Runs a search; its statement stays open behind the row that it found, so that a walk that writes nothing goes on
-/// in it.
+/// in it. A write into the file ends the statement; one into `tbclass` it meets as a new search would, since its rows
+/// come straight from an index or the table.
 bool RecordsetTable::cherche(const QString &condition, const std::vector<Valeur> &valeurs)
 {
     m_flux.rend();

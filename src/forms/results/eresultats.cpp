@@ -139,8 +139,8 @@ bool EResultats::afficheConcours(qint64 numero)
     return true;
 }
 
-/// The competition \p numero becomes the current one, at the round that it has got to. A competition just created is
-/// not in the texts of the sheets before.
+/// The competition \p numero becomes the current one, at the round that it has got to. Date, place
+/// and category, which the sheets print, are loaded with it: those of one just created are not there yet.
 void EResultats::prendConcours(qint32 numero)
 {
     partage().ConcoursCourant = numero;
@@ -219,7 +219,7 @@ void EResultats::hit_Click()
     formulaires().Montre(formes::palmares);
 }
 
-/// A list that is open tells of the current competition as it stands now.
+/// An honours list that is open shows the current competition as it stands now.
 void EResultats::rafraichitPalmares()
 {
     if (Formulaire *liste = formulaires().forme(formes::palmares))
