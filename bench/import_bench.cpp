@@ -33,7 +33,7 @@ void ImportJoueurs(benchmark::State &etat)
     ProgrammePilote prog;
     prog.demarre();
     ecritJoueurs(prog.dossier() + u"/joueurs.txt"_qs, lignes);
-    auto *menu = prog.torvik()->findChild<QAction *>(u"mnu_ijoueur"_qs);
+    QAction *menu = prog.menu(u"mnu_ijoueur"_qs);
     for ([[maybe_unused]] auto _ : etat) {
         QElapsedTimer montre;
         montre.start();

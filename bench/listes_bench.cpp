@@ -132,7 +132,7 @@ void OuvreFichierJoueurs(benchmark::State &etat)
 {
     limite(etat, 500);
     TableInscription table(16);
-    auto *entree = table.prog.torvik()->findChild<QAction *>(u"mnu_joueurs"_qs);
+    QAction *entree = table.prog.menu(u"mnu_joueurs"_qs);
     for ([[maybe_unused]] auto _ : etat) {
         entree->trigger();
         QApplication::processEvents();

@@ -146,11 +146,10 @@ TEST_F(Lecture, OrdreDeLectureEtDesTabulations)
 
 TEST_F(Lecture, LesGrillesDisentCeQuElesMontrent)
 {
-    const auto grille = [](QWidget *forme) {
-        return QAccessible::queryAccessibleInterface(forme->findChild<QTableView *>(u"les_resultats"_qs))
-            ->tableInterface();
-    };
-    QAccessibleTableInterface *joues = grille(ouvre(u"valresu"_qs));
+    ouvre(u"valresu"_qs);
+    auto *grille = prog.controle<QTableView>(u"valresu"_qs, u"les_resultats"_qs);
+    QAccessibleTableInterface *joues = QAccessible::queryAccessibleInterface(grille)->tableInterface();
+    ASSERT_NE(joues, nullptr);
     ASSERT_EQ(joues->rowCount(), 1);
     QStringList titres;
     QStringList cellules;
@@ -167,7 +166,8 @@ TEST_F(Lecture, LesGrillesDisentCeQuElesMontrent)
 TEST_F(Lecture, LesNomsEtLesTouchesSuiventLaLangue)
 {
     const auto dit = [this](const QString &forme, const QString &nom) {
-        return NomDuControle(*ouvre(forme)->findChild<QWidget *>(nom));
+        ouvre(forme);
+        return NomDuControle(*prog.controle<QWidget>(forme, nom));
     };
     for (int numero = 1; numero <= langues; ++numero) {
         langue(numero);

@@ -362,7 +362,7 @@ TEST_F(Coupures, EachEntryAndEachNameIsSynchronisedBeforeItIsAcknowledged)
         << "the name of a copy";
     partage.BaseDonnees.Close();
     panne::note();
-    RemetCopie(partage, CopiesSaines(base.dossier()).front().copie.fichier);
+    std::ignore = RemetCopie(partage, CopiesSaines(base.dossier()).front().copie.fichier);
     appels = panne::notes();
     EXPECT_EQ(appels.last(), u"sync "_qs + QDir(base.dossier()).dirName()) << "the base's new name";
     EXPECT_EQ(appels.value(appels.size() - 2), u"renomme VarloBase.mdb"_qs);

@@ -95,7 +95,7 @@ void Journee::reprendUneCopie()
     m_remplacements.push_back(operations());
     ajoute([this] {
         ferme();
-        RemetCopie(m_partage, CopiesSaines(m_dossier).front().copie.fichier);
+        std::ignore = RemetCopie(m_partage, CopiesSaines(m_dossier).front().copie.fichier);
         ouvre();
     });
 }

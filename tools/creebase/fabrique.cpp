@@ -227,7 +227,7 @@ void remplitLangues(BaseNative &base, const QDir &dossier)
         throw ErreurDonnees(presents.first(), 0, u"aucune langue de %1 n'a ce code"_qs.arg(nom));
 }
 
-/// All that is told by language.
+/// The tables whose rows come once for each language.
 void remplitTout(BaseNative &base, const QDir &dossier)
 {
     remplitLangues(base, dossier);

@@ -5,7 +5,7 @@ namespace demonstration {
 Hasard::Hasard(quint32 graine)
     : m_generateur(graine)
 {
-    // The program draws from a generator of the same seed: the two must not walk side by side.
+    // The program draws from a generator of the same seed: the two must not give the same numbers.
     m_generateur.discard(1000);
 }
 

@@ -35,7 +35,7 @@ Recordset ouvre(Database &base, const store::Valeur &numero)
     return concours;
 }
 
-/// What the editor stores: whoever passes through it has seen the competition.
+/// What the editor stores; it marks every competition as `pro`.
 void ecritChampsCommuns(Recordset &ligne, const Concours &concours)
 {
     ligne[u"date"] = concours.date;
@@ -104,7 +104,7 @@ qint32 CopieConcours(Database &base, const QString &numero)
             u"INSERT INTO equipes (equipe, societe, nom, prenom,licence, sexe, ne, tableau, engage, concours)  "
             u"select equipe,  societe, nom, prenom, licence, sexe, ne, tableau, engage, %1 as e1 from equipes "
             u"where concours= %2"_qs.arg(m, numero));
-        // A team offers its number once a member; the key lets the first through.
+        // The selection gives a team's number once for each member: the key lets the first one in.
         const QString stades = u"INSERT INTO evolution(equipe, principal, complement, consolante, concours)  select "
                                u"equipe, %1 as E1 , %2 as E2, 0 as E3, "_qs
             + m + u" as e4 from equipes where concours= "_qs + numero + u" and "_qs;

@@ -47,7 +47,7 @@ void effaceScores(Recordset &scores)
     scores[u"score_2"] = nullptr;
 }
 
-/// The latecomer becomes the opponent of the free team, whose number is given.
+/// The latecomer becomes the opponent of the team that has the bye, whose number is given.
 qint64 prendExemption(Database &base, const Equipe &equipe)
 {
     Recordset scores = ouvreExemption(base, equipe.concours);
@@ -59,7 +59,7 @@ qint64 prendExemption(Database &base, const Equipe &equipe)
     return adversaire;
 }
 
-/// The latecomer has a free match of its own, behind the others, its scores still open.
+/// The latecomer has a bye of its own, behind the other matches, its scores still open.
 void ajouteExemption(Database &base, const Equipe &equipe)
 {
     const Valeur derniere =

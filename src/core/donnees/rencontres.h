@@ -20,6 +20,7 @@ struct Rencontre
     int repechage = 0; ///< 1 or 2: the side that was pulled up.
 
     bool exempt() const { return equipe2 == 0; }
+    /// Whether it waits for its result.
     bool enAttente() const { return score1.estNull() && score2.estNull(); }
 };
 
@@ -43,7 +44,7 @@ enum class OrdreDuTour { Tirage, SecondeEquipe };
 
 /// Matches of a competition, in all brackets.
 [[nodiscard]] qint64 CompteRencontres(store::Database &base, qint32 concours);
-/// Matches of a round; of one bracket alone where it is told.
+/// Matches of a round; of bracket \p tableau alone where it is given.
 [[nodiscard]] qint64 CompteDuTour(store::Database &base, qint32 concours, int tour,
                                   std::optional<int> tableau = std::nullopt);
 /// Matches of a round that are no byes, in all brackets.

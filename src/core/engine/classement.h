@@ -32,7 +32,7 @@ struct LigneClassement
 /// A bye (no second team) counts as 13 to 7 whatever its scores; a match without a 13 is neither won nor lost, and
 /// its scores count all the same. `alea` is drawn when a team first occurs and anew at each match that the team
 /// plays as second team.
-std::vector<LigneClassement> etablitClassement(std::span<const Partie> parties, SourceAleatoire &alea);
+[[nodiscard]] std::vector<LigneClassement> etablitClassement(std::span<const Partie> parties, SourceAleatoire &alea);
 
 /// Order of the index `rankkey`: `pt`, then `ga`, both from the highest and an absent `ga` last, then the team.
 bool avantAuRang(const LigneClassement &gauche, const LigneClassement &droite);

@@ -14,13 +14,14 @@ inline constexpr int essaisTirageMax = 10;
 /// 2 to the power of that round, plus 1 without \p repeche. \p nbteam counts the rows of players; with \p nbJoueurs
 /// players a team (an unknown number, 0 or below, takes each row for a team: a competition is not declared over for
 /// want of its type).
-bool resteUnTour(int nbteam, int nbJoueurs, int tourCourant, bool repeche);
+[[nodiscard]] bool resteUnTour(int nbteam, int nbJoueurs, int tourCourant, bool repeche);
 
 /// Whether the draw of the round after \p tourCourant is to be tried again after \p essais attempts.
-bool tirageARefaire(StatutTirage statut, int tourCourant, int essais);
+[[nodiscard]] bool tirageARefaire(StatutTirage statut, int tourCourant, int essais);
 
 /// Matches of round \p tour (from 2) to write for a draw, in its order. \p classement is the ranking that the draw has
 /// worked on: it tells which side was pulled up. A bye is a finished match, 13 to 7.
-std::vector<Partie> partiesDuTour(const TabTirage &table, std::span<const LigneClassement> classement, int tour);
+[[nodiscard]] std::vector<Partie> partiesDuTour(const TabTirage &table, std::span<const LigneClassement> classement,
+                                                int tour);
 
 } // namespace moteur

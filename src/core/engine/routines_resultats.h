@@ -15,7 +15,7 @@ struct ScoreSaisi
 
 /// Stores both scores in the match of these teams in bracket 1 of the current round, with `ScoreReel`; false when there
 /// is no such match. Throws store::Erreur, nothing being stored then.
-bool EnregistreScore(Partage &partage, const ScoreSaisi &saisi);
+[[nodiscard]] bool EnregistreScore(Partage &partage, const ScoreSaisi &saisi);
 
 /// Takes the matches of the current round away, and goes back one round. The store ends one round lower than the
 /// program's own count.

@@ -68,15 +68,15 @@ std::vector<moteur::PaireJouee> litPairesJouees(Partage &partage, int tour)
     return paires;
 }
 
-void ecritRencontres(Partage &partage, qint16 tableau, const std::vector<Partie> &rencontres)
+void ecritParties(Partage &partage, qint16 tableau, const std::vector<Partie> &parties)
 {
     Instruction ajout(partage.BaseDonnees.native(),
                       u"insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2, score_1, score_2, "
                       u"repechage) values (?, ?, ?, ?, ?, ?, ?, ?, ?)"_qs);
-    for (const Partie &rencontre : rencontres) {
-        const Valeur champs[] = {partage.ConcoursCourant, tableau,           rencontre.tour,
-                                 rencontre.rencontre,     rencontre.equipe1, rencontre.equipe2,
-                                 rencontre.score1,        rencontre.score2,  rencontre.repechage};
+    for (const Partie &partie : parties) {
+        const Valeur champs[] = {partage.ConcoursCourant, tableau,        partie.tour,
+                                 partie.rencontre,        partie.equipe1, partie.equipe2,
+                                 partie.score1,           partie.score2,  partie.repechage};
         int indice = 0;
         for (const Valeur &champ : champs)
             ajout.lie(++indice, champ);
@@ -115,7 +115,8 @@ std::optional<int> dernierTourTire(Partage &partage)
     return tour.estNull() ? std::nullopt : std::optional(int(tour.entier()));
 }
 
-/// Team that had the bye of the round before \p tour. There is none before round 1.
+/// Team that had the bye of the round before \p tour, which the draw takes first; pasDExempt without one, as always
+/// before round 1. Asked all the same: the rules give that team its place in any draw of this kind.
 int exemptDuTourPrecedent(Partage &partage, qint16 tableau, int tour)
 {
     const QString bye =
@@ -136,14 +137,14 @@ void fixeTourPrincipal(Partage &partage, int tour)
 void ecritTirageTour1(Partage &partage, qint16 tableau)
 {
     const int exempt = exemptDuTourPrecedent(partage, tableau, premierTour);
-    const auto rencontres = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
+    const auto parties = moteur::tireTour1(litEquipesInscrites(partage), exempt, partage.alea);
     partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, tableau, rencontres);
+        ecritParties(partage, tableau, parties);
         fixeTourPrincipal(partage, premierTour);
     });
 }
 
-/// The file of the base follows the draw. A failure loses nothing; the watch over the base tries again, and tells.
+/// Brings the file of the base up to the draw. A failure loses nothing: GardeBase tries again, and tells.
 void metLeFichierAJour(Partage &partage)
 {
     try {
@@ -228,7 +229,7 @@ ObstacleAuTirage ConfirmeTirage(Partage &partage)
 
 void RefaitTirage(Partage &partage)
 {
-    // As one group: a power cut leaves the old draw or the new one.
+    // One group: a power cut leaves the old draw or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
         for (const QStringView table : {u"scores", u"tnequipes", u"tirages_pro"})
             partage.BaseDonnees.Execute(
@@ -241,14 +242,19 @@ void RefaitTirage(Partage &partage)
 
 bool TirageTour1(Partage &partage, qint16 tableau, int)
 {
-    const bool dejaTire = tourDejaTire(partage, tableau, premierTour);
-    if (dejaTire)
-        fixeTourPrincipal(partage, premierTour);
-    else
-        ecritTirageTour1(partage, tableau);
+    if (tourDejaTire(partage, tableau, premierTour))
+        return false;
+    ecritTirageTour1(partage, tableau);
     partage.TourCourant = premierTour;
     metLeFichierAJour(partage);
-    return !dejaTire;
+    return true;
+}
+
+void PasseAuTour1(Partage &partage)
+{
+    fixeTourPrincipal(partage, premierTour);
+    partage.TourCourant = premierTour;
+    metLeFichierAJour(partage);
 }
 
 void TirageSuivant(Partage &partage, const SuiviTirage &suivi)
@@ -288,10 +294,10 @@ BilanLancement LanceTourSuivant(Partage &partage, const SuiviTirage &suivi)
         TirageSuivant(partage, suivi);
     } while (moteur::tirageARefaire(partage.TabTirage.statut, partage.TourCourant, partage.EssaisTirage));
 
-    const auto rencontres = moteur::partiesDuTour(partage.TabTirage, LitClassement(partage), tour);
+    const auto parties = moteur::partiesDuTour(partage.TabTirage, LitClassement(partage), tour);
     // The matches and the round number reach the disk together: a power cut leaves the old round or the new one.
     partage.BaseDonnees.EcritEnGroupe([&] {
-        ecritRencontres(partage, 1, rencontres);
+        ecritParties(partage, 1, parties);
         fixeTourPrincipal(partage, tour);
     });
     partage.TourCourant = qint16(tour);
@@ -332,7 +338,7 @@ void RemplaceTour(Partage &partage, const std::vector<Partie> &parties)
         partage.BaseDonnees.Execute(
             u"delete * from scores where concours=%1 and tableau=1 and tour=%2"_qs.arg(partage.ConcoursCourant)
                 .arg(partage.TourCourant));
-        ecritRencontres(partage, 1, parties);
+        ecritParties(partage, 1, parties);
     });
     metLeFichierAJour(partage);
 }

@@ -16,15 +16,20 @@ struct SuiviTirage
     std::function<void(QStringView)> signe; ///< A sign more of the pairs drawn.
 };
 
-/// What stands in the way of the draw of round 1.
-enum class ObstacleAuTirage { Aucun, TirageSansResultat, ResultatsTombes, DejaTire };
+/// What stands in the way of the draw of round 1, and what becomes of it.
+enum class ObstacleAuTirage {
+    Aucun,
+    TirageSansResultat, ///< A draw without results: on a Yes, and behind a copy, RefaitTirage() takes its place.
+    ResultatsTombes, ///< Results are in: the draw stays.
+    DejaTire, ///< Round 1 has matches: it stays, and PasseAuTour1() follows. The obstacles before leave no such case.
+};
 
-/// What a click for the next round has led to.
+/// What the call for the next round has led to.
 struct [[nodiscard]] BilanLancement
 {
     ObstacleAuTirage obstacle = ObstacleAuTirage::Aucun; ///< Where there is one, nothing has been drawn.
-    moteur::StatutTirage statut =
-        moteur::StatutTirage::RienASignaler; ///< What a round behind the first could not avoid.
+    /// What the draw of a later round could not avoid; nothing to report behind round 1.
+    moteur::StatutTirage statut = moteur::StatutTirage::RienASignaler;
 };
 
 /// Rebuilds `tbclass` from all matches of the competition whose number is \p concours.
@@ -33,15 +38,22 @@ void CalculClassement(Partage &partage, const QString &concours);
 /// Rows of `tbclass`, best team first (the order of `rankkey`).
 std::vector<moteur::LigneClassement> LitClassement(Partage &partage);
 
-/// Draws round 1 of the current competition where no match stands in its way; what does is given back.
+/// Draws round 1 of the current competition where no match stands in its way; otherwise nothing is written and the
+/// obstacle is given back.
 [[nodiscard]] ObstacleAuTirage ConfirmeTirage(Partage &partage);
 
-/// Takes the draw of the current competition away and draws round 1 anew, whole or not at all. Make a copy before.
+/// Takes the draw of the current competition away and draws round 1 anew, whole or not at all. The caller has made a
+/// safety copy.
 void RefaitTirage(Partage &partage);
 
-/// Draws round 1 of the current competition into bracket \p tableau, which is 1; \p reserve is not used. False when the
-/// round is already drawn: it is left alone. Whatever comes of it, the competition then stands at round 1.
+/// Draws round 1 of the current competition into bracket \p tableau, which is 1, and passes to it; no match is written
+/// for fewer than two teams. False, and nothing is written, when the round is already drawn. \p reserve is kept free
+/// for other kinds of draw.
 [[nodiscard]] bool TirageTour1(Partage &partage, qint16 tableau, int reserve = 0);
+
+/// The current competition stands at round 1 from now on, as it is: follows a TirageTour1 that gave false, once the
+/// operator knows.
+void PasseAuTour1(Partage &partage);
 
 /// Works out the pairs of the round after the current one into TabTirage, from `tbclass` as CalculClassement left it,
 /// and marks there the teams that were pulled up.

@@ -27,8 +27,8 @@ void SeparationClubs::execute()
         separeNiveauBas(i);
 }
 
-/// Looks at the rows of the top level; \p i becomes the row where the next level begins (past the table when an
-/// exchange has passed over its end). False when another team has been pulled up and all must be looked at anew.
+/// Looks at the rows of the top level; \p i becomes the row where the next level begins, or lies behind the table when
+/// an exchange has stepped over its end. False when another team has been pulled up: all rows are to be looked at anew.
 bool SeparationClubs::separeNiveauHaut(int &i)
 {
     const int derniere = m_etat.derniere();
@@ -76,8 +76,9 @@ void SeparationClubs::separeNiveauBas(int premiere)
     }
 }
 
-/// A clash is reported only when the search reaches the last row. Where that row is the bye, it does not: its empty
-/// side has no level, so the search has ended before it, and the clash stays unreported.
+/// Looks for a row of the level, from its first one, that row \p i can exchange second teams with. The empty side of
+/// the bye stands at level 0: among the teams without a win the row of the bye takes part, and its empty side can
+/// change places too. A clash that stays is reported only when the search has come to the last row of the table.
 void SeparationClubs::echangeEnBas(int i, int premiere, int niveau)
 {
     const int derniere = m_etat.derniere();
@@ -93,8 +94,8 @@ void SeparationClubs::echangeEnBas(int i, int premiere, int niveau)
     }
 }
 
-/// Lets the next team of the ranking take the place of the team pulled up, if one of the same level stands behind it.
-/// The walk only goes forward, so that it comes to an end.
+/// Lets the team behind it in the ranking take the place of the team pulled up; false when none of its level stands
+/// there. Always further down, so that it comes to an end.
 bool SeparationClubs::remplaceRemonte()
 {
     if (m_etat.remonte == aucun)

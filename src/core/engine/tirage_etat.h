@@ -33,7 +33,7 @@ struct Etat
     int remonte = aucun; ///< The team pulled up last.
     int essaisClub = 0; ///< Clashes of clubs met after the repeat check had moved a team.
     bool change = false; ///< The last repeat check has moved a team.
-    std::vector<Paire> paires{1}; ///< Rows 1 to derniere(); row 0 is not used, the rules count from 1.
+    std::vector<Paire> paires{1}; ///< Rows 1 to derniere(); row 0 is not used.
 
     int derniere() const { return static_cast<int>(paires.size()) - 1; }
     Paire &paire(int i) { return paires[static_cast<std::size_t>(i)]; }

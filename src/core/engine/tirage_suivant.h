@@ -37,6 +37,6 @@ using SigneTirage = std::function<void(QStringView)>;
 /// Draws the round after \p donnees.tourpri: teams of one level meet in the order of their `alea`, a level of odd
 /// number pulls up the best team of the next one, the last team has the bye; then pairs of one club (round 2) and
 /// repeated meetings are exchanged inside their level as far as the rules find a partner.
-TabTirage tireTourSuivant(const DonneesTirage &donnees, const SigneTirage &signe = {});
+[[nodiscard]] TabTirage tireTourSuivant(const DonneesTirage &donnees, const SigneTirage &signe = {});
 
 } // namespace moteur

@@ -38,11 +38,11 @@ public:
         };
         for (std::size_t i = 0; i + 1 < m_paires.size(); ++i)
             ecrit(ligne(m_paires[i][0]).equipe, ligne(m_paires[i][1]).equipe);
-        // The last pair is the bye's: only its first team is written, also where the separation has given it a
-        // second one.
+        // The last pair is that of the bye: only its first team is written, even where the exchanges between clubs
+        // have put a second one there.
         if (m_paires.back()[0] != 0)
             ecrit(ligne(m_paires.back()[0]).equipe, 0);
-        // A team that no pair had taken would get a bye too; none is left when the shuffle has run to its end.
+        // A team that no pair has taken gets a bye too: a net below the shuffle, which leaves none.
         for (int r = 1; r <= m_nombre; ++r) {
             if (!ligne(r).prise)
                 ecrit(ligne(r).equipe, 0).score1 = 0;

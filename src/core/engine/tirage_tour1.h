@@ -29,6 +29,7 @@ inline constexpr int pasDExempt = -1;
 ///
 /// With an odd field whose clubs differ by the case of their letters alone, a team can change places with the empty
 /// side of the bye: its former opponent is then given a bye too, and the team itself has no match.
-std::vector<Partie> tireTour1(std::span<const EquipeInscrite> equipes, int exemptPrecedent, SourceAleatoire &alea);
+[[nodiscard]] std::vector<Partie> tireTour1(std::span<const EquipeInscrite> equipes, int exemptPrecedent,
+                                            SourceAleatoire &alea);
 
 } // namespace moteur

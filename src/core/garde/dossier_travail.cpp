@@ -116,8 +116,8 @@ QString DossierTravail::remplit() const
     if (!dossier.exists())
         return u"Le dossier\r\n%1\r\nne peut pas être créé."_qs.arg(QDir::toNativeSeparators(m_chemin));
 
-    // A base written to beside the program since, then locked with it (a key, a disc): the operator must not look for
-    // its competitions in vain.
+    // The base beside the program has been written to since, and now its folder is read-only (a locked USB stick): the
+    // operator must not look for its competitions in vain.
     const bool deplacee = m_baseDeplacee
         && (!aUneBase() || QFileInfo(originaux, nomBase).lastModified() > QFileInfo(dossier, nomBase).lastModified());
     QString phrase = poseBase(originaux, dossier);

@@ -19,14 +19,16 @@ public:
     /// told by remplit.
     DossierTravail(const Lieux &lieux, bool programmeInscriptible);
 
+    /// Full path of the folder.
     const QString &chemin() const { return m_chemin; }
+    /// Whether a base stands in that folder.
     bool aUneBase() const;
 
     /// Puts into the user's own folder what it lacks, and the pictures and sounds that a newer version brings; a base
     /// that is there stays as it is. Nothing happens in the program's own folder. Call it with the folder locked.
     /// Gives the sentence to show: a failure, or where the competitions live when that is not where they were last
     /// seen. Empty on an ordinary day.
-    QString remplit() const;
+    [[nodiscard]] QString remplit() const;
 
 private:
     QString m_chemin;
@@ -35,4 +37,4 @@ private:
 };
 
 /// Whether files can be created in \p dossier. Tried out, since permissions alone tell too little on some systems.
-bool dossierInscriptible(const QString &dossier);
+[[nodiscard]] bool dossierInscriptible(const QString &dossier);

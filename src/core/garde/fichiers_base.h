@@ -2,7 +2,7 @@
 
 #include "store/database.h"
 
-/// The operations on whole base files that a change of the base's file is made of. The tests make each of them fail.
+/// The operations on whole base files of which a purge and a restoration are made. The tests make each of them fail.
 class FichiersBase
 {
 public:
@@ -17,7 +17,8 @@ public:
     /// Rewrites the closed base \p source into the new file \p cible, and proves that the new file can be read. Throws
     /// store::Erreur; \p cible is gone again then.
     virtual void compacte(const QString &source, const QString &cible) const;
-    /// Throws store::Erreur.
+    /// Gives the file \p ancien the name \p nouveau in one step, in the place of what bears it. Throws store::Erreur;
+    /// all is as before then.
     virtual void renomme(const QString &ancien, const QString &nouveau) const;
     /// Opens the base \p fichier for the whole program. Throws store::Erreur.
     virtual store::Database ouvre(const store::Workspace &espace, const QString &fichier) const;

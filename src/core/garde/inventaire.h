@@ -25,6 +25,7 @@ struct Inventaire
 {
     bool operator==(const Inventaire &) const = default;
 
+    /// Teams, and results between two teams, of all competitions together.
     qint64 equipes() const;
     qint64 resultats() const;
 

@@ -23,7 +23,7 @@ public:
 
     const QStringList &colonnes() const { return m_colonnes; }
     /// Goes to the next row; false behind the last. Throws ErreurLecture.
-    bool avance();
+    [[nodiscard]] bool avance();
     /// Field \p colonne, from 0, of the current row without the blanks around it; empty where the row ends before it.
     QString champ(std::size_t colonne) const;
 

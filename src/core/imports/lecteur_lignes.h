@@ -19,7 +19,7 @@ public:
     }
 
     /// Next line without its end, nothing behind the last one that holds more than blanks. Throws ErreurLecture.
-    std::optional<QString> suivante();
+    [[nodiscard]] std::optional<QString> suivante();
     /// Number of the line given last, or of the one that could not be read, from 1.
     qint64 numero() const { return m_lues - m_blanches - (m_attente ? 1 : 0); }
     /// Bytes read so far.

@@ -377,7 +377,8 @@ bool BaseNative::horsTransaction() const
     return sqlite3_get_autocommit(m_base) != 0;
 }
 
-/// Makes ready for a statement that is about to change the file; whether a group has been opened for it alone.
+/// Makes ready for \p stmt, which is about to run, when it changes the file; whether a group has been opened for it
+/// alone.
 bool BaseNative::prepareEcriture(sqlite3_stmt *stmt)
 {
     if (!m_ecrivains.contains(stmt) || sqlite3_stmt_busy(stmt) != 0)
@@ -386,7 +387,8 @@ bool BaseNative::prepareEcriture(sqlite3_stmt *stmt)
     return ouvreGeneration();
 }
 
-/// Told of each thing that a statement will do, while it is prepared.
+/// Hears from the engine, while a statement is prepared, of each thing that it will do: what writes into the file
+/// itself is noted, memory tables aside.
 int BaseNative::surveille(void *base, int acte, const char *, const char *, const char *fichier, const char *)
 {
     const bool ecrit = acte == SQLITE_INSERT || acte == SQLITE_UPDATE || acte == SQLITE_DELETE;

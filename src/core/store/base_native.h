@@ -61,8 +61,9 @@ public:
 
     /// Number of columns of the answer; they are counted from 0.
     int colonnes() const;
+    /// Name of column \p colonne, counted from 0.
     QString nomColonne(int colonne) const;
-    /// Declared type of the column of a table; Libre for what is reckoned.
+    /// Declared type of column \p colonne, counted from 0; Libre for an expression.
     TypeChamp typeColonne(int colonne) const;
     /// Column \p colonne, counted from 0, of the current row, read as \p type.
     Valeur valeur(int colonne, TypeChamp type = TypeChamp::Libre) const;
@@ -95,7 +96,8 @@ public:
     enum class Mode { Creation, LectureEcriture, LectureSeule, DejaVerifiee };
 
     /// Opens \p fichier under \p motDePasse, or creates it. Throws Erreur with one sentence for each of: file missing,
-    /// file of another program, wrong password, damaged file. An existing file is only read here.
+    /// file that may not be read, file of another program, wrong password, damaged file. An existing file is only read
+    /// here.
     BaseNative(const QString &fichier, const QString &motDePasse, Mode mode);
     ~BaseNative();
     Q_DISABLE_COPY_MOVE(BaseNative)
@@ -115,9 +117,10 @@ public:
     /// Looks at the file under its path, for a base in service: some microseconds.
     EtatFichier etatFichier() const;
 
-    /// A statement that may be given back at any write, because its owner can do without. The owner lets it be
-    /// forgotten before it goes.
+    /// From now on \p lecture is given back before any write into the file, which its open view would hold up: its
+    /// owner looks at Instruction::active() and searches anew.
     void suitLecture(Instruction *lecture);
+    /// To be called before \p lecture goes.
     void oublieLecture(Instruction *lecture);
 
     /// Runs every statement of \p script; what they return is ignored.
@@ -139,7 +142,7 @@ public:
     /// Whether the file \p copie is proved to hold what the base holds: it is as this connection has left or found it
     /// and nothing has been written since, or the rows of the two are the same. Under the conditions of copieVers; a
     /// file that cannot be read proves nothing.
-    bool estDans(const QString &copie);
+    [[nodiscard]] bool estDans(const QString &copie);
 
     /// Rows changed since the file was opened.
     int changements() const;

@@ -12,8 +12,8 @@ int CompareFrancais(QStringView a, QStringView b);
 /// The same for texts as the file holds them.
 int CompareFrancaisUtf8(QByteArrayView a, QByteArrayView b);
 
-/// Whether \p texte meets \p modele, where * stands for any run of characters, ? for one and # for one digit; case
-/// plays no part.
+/// Whether the whole of \p texte fits the pattern \p modele, where * stands for any run of characters, ? for one and #
+/// for one digit; case plays no part.
 bool Ressemble(QStringView texte, QStringView modele);
 
 } // namespace store

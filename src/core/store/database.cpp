@@ -80,6 +80,8 @@ Recordset Database::OpenRecordset(QStringView source, int type)
 {
     const Schema &schema = ouverte().schema;
     const Table *table = schema.table(source.trimmed());
+    if (table != nullptr && type == dbOpenSnapshot)
+        throw Erreur(Erreur::Instruction, u"La table %1 n'a de vue figée que par une instruction."_qs.arg(source));
     if (table != nullptr)
         return Recordset(std::make_unique<RecordsetTable>(m_ouverte, table));
     if (type == dbOpenTable)

@@ -13,7 +13,9 @@ namespace store {
 /// What all recordsets of one open file share.
 struct BaseOuverte
 {
+    /// Opens \p fichier, puts it into service, and makes the work tables in memory. Throws Erreur.
     BaseOuverte(const QString &fichier, const QString &motDePasse);
+    /// Reads the schema anew; the work tables are empty then.
     void relit();
 
     BaseNative base;
@@ -37,14 +39,14 @@ public:
     /// Path that the file was opened by; throws when it is closed.
     QString fichier() const;
 
-    /// \p source is the name of a table, or a statement. A table gives a walk over the whole of it, on which Index and
-    /// Seek work. A statement of type 4 gives a result that cannot be changed; without a type, a `select *` on one
-    /// table can be changed.
+    /// \p source is the name of a table, or a statement. A table, of type 1 or none, gives a walk over the whole of it,
+    /// on which Index and Seek work. A statement of type 4 gives a result that cannot be changed; without a type, the
+    /// result of a `select *` on one table can be changed. Throws on any other pair of the two.
     Recordset OpenRecordset(QStringView source, int type = 0);
     /// Runs one INSERT, UPDATE or DELETE; gives the number of rows that it changed. An `insert ... select` passes over
     /// the rows that a key refuses.
     int Execute(QStringView instruction);
-    /// Names of the tables.
+    /// Names of the tables. No routine asks for them: a database of this kind is expected to tell what it holds.
     QStringList TableDefs() const;
     /// Closes the file. Closing twice does nothing.
     void Close();
@@ -79,7 +81,8 @@ class Workspace
 public:
     /// Opens the file \p nom; the password follows "PWD=" in \p connexion, case playing no part there. Throws Erreur
     /// with one sentence for each way in which a file can be no base of this program; such a file stays untouched. An
-    /// opened one is its user's alone to read from then on.
+    /// opened one is its user's alone to read from then on. \p exclusif changes nothing, since the program lets no
+    /// second one near the base; \p lectureSeule is refused.
     Database OpenDatabase(const QString &nom, bool exclusif, bool lectureSeule, const QString &connexion) const;
 };
 

@@ -49,7 +49,7 @@ public:
             const QChar c = m_sql[m_place];
             if (c.isSpace())
                 ++m_place;
-            else if (c == u'\'' || c == u'"')
+            else if (c == u'\'')
                 resultat.push_back({Jeton::Texte, jusquaFermeture(c)});
             else if (c == u'[')
                 resultat.push_back({Jeton::Nom, jusquaFermeture(u']')});
@@ -110,7 +110,7 @@ private:
             }
         }
         const QChar c = m_sql[m_place++];
-        if (!QStringView(u"(),;=<>*+-/&").contains(c))
+        if (!QStringView(u"(),;=<>*+-").contains(c))
             refuse(u"Un caractère inattendu se trouve dans l'instruction"_qs, m_sql);
         return c;
     }
@@ -204,7 +204,7 @@ private:
         const bool etoileDeSelection = jeton.estSigne(u"*") && m_place == 1 && est(0, u"select") && tableUnique();
         if (etoileDeSelection)
             m_sortie += u"rowid, *"_qs;
-        else if (jeton.estSigne(u"&") || (jeton.estSigne(u"+") && joinDesTextes()))
+        else if (jeton.estSigne(u"+") && joinDesTextes())
             m_sortie += u"||"_qs;
         else
             m_sortie += jeton.texte;
@@ -219,8 +219,6 @@ private:
             m_sortie += u"vt_left"_qs;
         else if (jeton.estMot(u"true"))
             m_sortie += u"-1"_qs;
-        else if (jeton.estMot(u"false"))
-            m_sortie += u"0"_qs;
         else if (jeton.estMot(u"not") && suitUnOuiNon())
             m_sortie += u"~"_qs;
         else if (jeton.estMot(u"delete") && signe(m_place + 1, u"*")) {

@@ -7,8 +7,8 @@ namespace store {
 /// Rights of a file that its user alone reads and writes.
 constexpr QFile::Permissions droitsReserves = QFile::ReadOwner | QFile::WriteOwner;
 
-/// Takes all rights on the file or folder \p chemin from everybody but its owner, who gets none that he lacks. A key
-/// that knows no owners, or a file of somebody else, stays as it is.
+/// Takes all rights on the file or folder \p chemin from everybody but its owner, who gets none that he lacks. On
+/// a USB stick without owners, or on somebody else's file, nothing happens.
 void reserve(const QString &chemin);
 
 /// The same for the base file \p fichier and what the engine keeps beside it.

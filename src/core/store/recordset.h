@@ -23,7 +23,9 @@ public:
     ChampCourant(const ChampCourant &) = default;
     ChampCourant &operator=(const ChampCourant &autre);
 
+    /// What the field holds; a field of a new row that nothing has been assigned to is Null.
     Valeur valeur() const;
+    // The same, read as Valeur reads it: all but texte() and estNull() throw on what they cannot convert.
     operator Valeur() const { return valeur(); }
     bool estNull() const { return valeur().estNull(); }
     qint64 entier() const { return valeur().entier(); }
@@ -60,16 +62,19 @@ public:
     void MoveFirst();
     /// Throws past the last row.
     void MoveNext();
-    /// \p lignes rows forward; backward on the result of a statement only.
+    /// \p lignes rows forward or, below 0, backward; a table goes forward only. Throws when that leads before the first
+    /// row or further than past the last one.
     void Move(qint64 lignes);
     /// Number of rows.
     qint64 RecordCount() const;
 
-    /// Begins a new row; the number that the store generates for it can be read at once.
+    /// Begins a new row; the number that the store generates for it can be read at once. Throws on a result that cannot
+    /// be changed.
     void AddNew();
-    /// Begins a change of the current row.
+    /// Begins a change of the current row. Throws without one, and on a result that cannot be changed.
     void Edit();
-    /// Stores what AddNew or Edit began; a new row becomes the current one.
+    /// Stores what AddNew or Edit began; a new row becomes the current one. Throws when neither has begun anything, and
+    /// when a key refuses the row.
     void Update();
     /// Removes the current row. The position stays where the row was until the next move.
     void Delete();

@@ -7,7 +7,8 @@
 
 namespace store {
 
-/// What the two kinds of recordset share: the fields, the row being written, and the writing itself.
+/// What the two kinds of recordset share: the fields, the row being written, and the writing itself. The operations are
+/// those of Recordset.
 class RecordsetBase
 {
 public:
@@ -32,13 +33,17 @@ public:
     void Update();
     void Delete();
 
+    /// Place of the field \p nom, counted from 0; -1 when there is none of that name.
     virtual int place(QStringView nom) const = 0;
+    /// Field of the row being written or, without one, of the current row. Throws without either.
     Valeur lit(int place);
+    /// Puts \p valeur, converted, into the row being written. Throws without one.
     void ecrit(int place, const Valeur &valeur);
 
 protected:
     /// Whether a row is current.
     virtual bool surUneLigne() = 0;
+    /// Row id of the current row, and its field \p place: there is a current row.
     virtual qint64 rowid() = 0;
     virtual Valeur champ(int place) = 0;
     virtual TypeChamp typeDuChamp(int place) const = 0;

@@ -56,6 +56,7 @@ public:
             *this = Valeur(*valeur);
     }
 
+    // What it holds, nothing converted.
     bool estNull() const { return std::holds_alternative<std::monostate>(m_valeur); }
     bool estEntier() const { return std::holds_alternative<qint64>(m_valeur); }
     bool estReel() const { return std::holds_alternative<double>(m_valeur); }
@@ -63,7 +64,8 @@ public:
     bool estBooleen() const { return std::holds_alternative<bool>(m_valeur); }
     bool estDate() const { return std::holds_alternative<QDate>(m_valeur); }
 
-    /// Whole number; a text gives its leading number, 0 when there is none. Throws on Null.
+    /// Whole number, the nearest one of a real number; a text gives its leading number, 0 when there is none. Throws on
+    /// Null, and on a number too great for 64 bits.
     qint64 entier() const;
     /// Whole number, or \p defaut on Null.
     qint64 entierOu(qint64 defaut) const { return estNull() ? defaut : entier(); }

@@ -22,7 +22,7 @@ public:
     void donneManuel(const QString &fichier) { m_manuel = fichier; }
     /// Creates the main window, which opens the base and shows the welcome window. A failure is shown in one box; false
     /// then, and the program has to end.
-    bool demarre();
+    [[nodiscard]] bool demarre();
     /// Closes the main window, and with it the base.
     void termine();
 
@@ -48,7 +48,7 @@ public:
     /// Whether another program already holds the folder.
     bool dejaPrise() const { return m_dejaPrise; }
     /// The same, told to the operator: this program has to end.
-    bool cedeLaPlace(Boites &boites) const;
+    [[nodiscard]] bool cedeLaPlace(Boites &boites) const;
 
 private:
     bool prend();

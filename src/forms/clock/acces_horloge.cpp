@@ -7,7 +7,7 @@
 
 namespace {
 
-/// A picture that shows a value. It is told as its description too: desktops look for the value of a picture nowhere.
+/// A picture that shows a value. The value is its description too, since screen readers ask no picture for a value.
 class DessinLisible final : public QAccessibleWidget
 {
 public:

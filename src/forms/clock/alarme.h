@@ -19,10 +19,10 @@ public:
 
     /// Sets the alarm \p minutes (a number, with or without decimals) after \p maintenant. False when the text is no
     /// number, or too great a one: nothing is set then.
-    bool regle(const QString &minutes, const QDateTime &maintenant);
+    [[nodiscard]] bool regle(const QString &minutes, const QDateTime &maintenant);
     void efface();
     /// Whether the alarm is due, now that the clock shows \p affichee; asked once a second at least.
-    bool sonne(const QDateTime &affichee);
+    [[nodiscard]] bool sonne(const QDateTime &affichee);
 
 private:
     QDateTime &m_heure;

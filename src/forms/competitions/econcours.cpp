@@ -305,14 +305,14 @@ bool Econcours::confirmeRemplacement(qint64 numero)
     return false;
 }
 
-/// What is kept at hand of the current competition stays that of the one before until the new one is loaded somewhere.
 void Econcours::ajouteConcours(const donnees::Concours &concours)
 {
     donnees::AjouteConcours(partage().BaseDonnees, concours, [this](qint32 numero) { annonceConcours(numero); });
     videApresEnregistrement();
 }
 
-/// The competition is told before it is stored; what is kept of the current one stays that of the one before.
+/// Shows the number of a competition that is about to be stored, which is the current one from now on. Date, place and
+/// category in Partage stay those of the one before until a form loads it.
 void Econcours::annonceConcours(qint32 numero)
 {
     partage().ConcoursCourant = numero;

@@ -94,7 +94,7 @@ void PurgeBase(const Contexte &contexte, const FichiersBase &fichiers, const std
         contexte.boites.MsgBox(u"Opération annulée"_qs);
         return;
     }
-    // What stands on them is about to go: they would store it in a competition that is no more.
+    // Their competitions are about to go: a form left open would go on storing into them.
     contexte.formulaires.Decharge(formesDeConcours);
     {
         const Patience alerte(contexte, u"  Opération en cours....Patientez"_qs);

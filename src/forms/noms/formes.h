@@ -2,8 +2,8 @@
 
 #include "fenetres/nom_forme.h"
 
-/// The forms by name, for whoever loads, shows or asks for one that is not his own. What there is to know of each
-/// stands in the table of forms.
+/// The names by which forms load, show or ask for each other. What else there is to know of each form stands in the
+/// table of app/formes.cpp.
 namespace formes {
 
 inline constexpr NomForme Accueil{u"Accueil"};

@@ -241,7 +241,7 @@ void CopiesSecurite::remet(const Copie &copie)
             return;
         }
         faite = nomFichier(bilan.fichier);
-        // What stands on the other forms is about to go.
+        // The other forms show rows that are about to go.
         std::vector<NomForme> autres = changementBase(formulaires()).formes;
         std::erase(autres, formes::CopiesSecurite);
         formulaires().Decharge(autres);
@@ -251,5 +251,5 @@ void CopiesSecurite::remet(const Copie &copie)
     Rafraichir();
     const QString phrase = tr("La copie du %1 est en place.").arg(MotsCopies::moment(partage(), copie));
     MsgBox(faite.isEmpty() ? phrase : phrase + saut + tr("La base d'avant est dans la copie %1.").arg(faite));
-    SetFocus(m_ui->Copies); // its button sleeps until the copies are read again
+    SetFocus(m_ui->Copies); // the button is disabled until the copies have been read again
 }

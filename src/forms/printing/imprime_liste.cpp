@@ -18,7 +18,7 @@ constexpr int tailleLigne = 10;
 constexpr int tailleTitres = 12;
 constexpr int tailleTitre = 24;
 
-/// The mark that is tested lies a little below the line.
+/// The end of the page is tested 15 twips below the place of the next line.
 constexpr MiseEnPage mise{.bordFin = MiseEnPage::Papier, .fin = 2015};
 
 class FeuilleListe

@@ -5,4 +5,4 @@
 
 /// Prints a part of the honours list as the grid shows it, a match a line. False when the operator has cancelled, who
 /// has been told so by then.
-bool ImprimePalmares(const Contexte &contexte, const ZonePalmares &zone);
+[[nodiscard]] bool ImprimePalmares(const Contexte &contexte, const ZonePalmares &zone);

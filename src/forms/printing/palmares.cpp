@@ -20,7 +20,7 @@ namespace {
 constexpr int debordChoix = 8; // pixels
 constexpr int etroitesse = 90; // percent
 constexpr int toursCharges = 14;
-constexpr int toursReconstruits = 15; ///< One further than the load.
+constexpr int toursReconstruits = 15; ///< By the right click on the list, which goes a round further than its loading.
 
 // Twips
 constexpr int hautGrille = 50;
@@ -176,7 +176,7 @@ void palmares::Rafraichir()
     execute([this] { charge(); });
 }
 
-/// Matches of a round; of one bracket alone where it is told.
+/// Matches of a round; of bracket \p tableau alone where it is given.
 qint64 palmares::rencontres(int tour, std::optional<int> tableau) const
 {
     return donnees::CompteDuTour(partage().BaseDonnees, partage().ConcoursCourant, tour, tableau);

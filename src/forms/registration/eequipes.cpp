@@ -179,7 +179,7 @@ void Eequipes::référence_LostFocus()
     const QString tape = m_ui->référence->currentText();
     const QString numero = ZeroPad(tape, chiffresConcours);
     poseTexte(m_ui->référence, numero);
-    // An exponent makes six characters more than a whole number holds.
+    // Six characters with an exponent can stand for more than a whole number holds.
     const qint64 cherche = EstNumerique(tape) ? qint64(std::clamp(Val(numero), 0., 1e9)) : 0;
     if (const auto concours = donnees::TrouveConcours(partage().BaseDonnees, cherche))
         changeConcours(*concours);
@@ -243,7 +243,7 @@ void Eequipes::Equipe_GotFocus()
     m_ui->Equipe->lineEdit()->selectAll();
 }
 
-/// A team without its row of `evolution` is none that the competition knows.
+/// Shows the team of the number typed. A team without its row of `evolution` does not count as one.
 bool Eequipes::montreConnu(const std::vector<donnees::Membre> &membres)
 {
     const qint64 numero = numeroEquipe();

@@ -8,8 +8,8 @@ namespace Ui {
 class listjo;
 }
 
-/// The known players. A click on one of them types him into the form that opened the list: his licence into the first
-/// free line of a team, or his number into the form of the known players.
+/// The known players. A click on one of them types into the form that opened the list: the licence into the first free
+/// line of a team, or the number into the form of the known players.
 class listjo : public FormeListe
 {
     Q_OBJECT

@@ -139,8 +139,8 @@ bool EResultats::afficheConcours(qint64 numero)
     return true;
 }
 
-/// The competition \p numero becomes the current one, at the round that it has got to. A competition just created is
-/// not in the texts of the sheets before.
+/// The competition \p numero becomes the current one, at the round that it has got to. Date, place
+/// and category, which the sheets print, are loaded with it: those of one just created are not there yet.
 void EResultats::prendConcours(qint32 numero)
 {
     partage().ConcoursCourant = numero;
@@ -219,7 +219,7 @@ void EResultats::hit_Click()
     formulaires().Montre(formes::palmares);
 }
 
-/// A list that is open tells of the current competition as it stands now.
+/// An honours list that is open shows the current competition as it stands now.
 void EResultats::rafraichitPalmares()
 {
     if (Formulaire *liste = formulaires().forme(formes::palmares))
@@ -277,13 +277,17 @@ void EResultats::tirage_suivant_Click()
         traite();
 }
 
-/// Round 1 has not been drawn since \p obstacle is there: the operator decides. False when the old draw was kept for
-/// want of a copy.
+/// Tells the operator why round 1 has not been drawn, and draws it anew where he wants so. False when the old draw
+/// stays for want of a safety copy.
 bool EResultats::recommenceTirage(ObstacleAuTirage obstacle)
 {
-    if (obstacle != ObstacleAuTirage::TirageSansResultat) {
-        MsgBox(obstacle == ObstacleAuTirage::DejaTire ? mes(114) + u' ' + mes(15) + u' ' + mes(115)
-                                                      : u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
+    if (obstacle == ObstacleAuTirage::ResultatsTombes) {
+        MsgBox(u"Tirage Impossible, Il y a déjà des résultats de tombés"_qs);
+        return true;
+    }
+    if (obstacle == ObstacleAuTirage::DejaTire) {
+        MsgBox(mes(114) + u' ' + mes(15) + u' ' + mes(115));
+        PasseAuTour1(partage());
         return true;
     }
     if (MsgBox(u"ATTENTION, le tirage a déjà été fait. Voulez vous recommencer?"_qs, vbYesNo | vbExclamation)

@@ -139,7 +139,7 @@ void manqres::basculeLancee(int Index, int ligne)
         marqueLancee(pressee, ligne, pressee.CellBackColor(ligne, 1) == grille::rouge);
 }
 
-/// Bold too, for who does not see the red: the match is still to be called.
+/// Bold too, for whoever does not see the red: the match is still to be called.
 void manqres::marqueLancee(FlexGrid &grille, int ligne, bool lancee)
 {
     for (const int colonne : {1, 2}) {

@@ -27,8 +27,8 @@ private:
     void Qlang_Click();
 
     void LegendesLangues();
-    /// Marks the language \p designation as active and the one shown so far as inactive, in this order.
-    /// Its number; nothing when the base has no such language.
+    /// Marks the language \p designation as active, then the one shown so far as inactive. Gives its number, nothing
+    /// when the base has no such language.
     std::optional<qint16> activeLangue(const QString &designation);
 
     std::unique_ptr<Ui::langues> m_ui;

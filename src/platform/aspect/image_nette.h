@@ -16,11 +16,11 @@ public:
     {
     }
 
+    /// Path of the SVG drawing among the resources; empty at first, and nothing is drawn then.
     QString image() const { return m_image; }
-    /// \p chemin of a drawing among the resources.
     void setImage(const QString &chemin);
-    bool etiree() const { return m_etiree; }
     /// Whether the picture fills the widget; otherwise it keeps its own size, at the middle of the lower edge.
+    bool etiree() const { return m_etiree; }
     void setEtiree(bool etiree);
 
 protected:

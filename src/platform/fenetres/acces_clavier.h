@@ -11,9 +11,8 @@ class QKeyEvent;
 class QMainWindow;
 
 /// The keys that do in every window what the mouse does:
-/// - Alt and a letter goes to a control, and presses it when it is a button. While Alt is held, the letters stand on
-/// the
-///   controls: captions stay as they are, and buttons that bear a picture alone have their key too;
+/// - Alt and a letter goes to a control, and presses it when it is a button. The letters stand on the controls for as
+///   long as Alt is held, on buttons that bear a picture alone too;
 /// - F6 goes to the next window of the program from left to right, Shift and F6 to the one before;
 /// - F1 asks for help;
 /// - F10 goes to the menus of the main window;

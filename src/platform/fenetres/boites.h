@@ -69,7 +69,7 @@ public:
     /// Lets the operator choose the name of a file to write, \p dialogue.FileName at first, and asks before one that
     /// exists; gives its full path, empty when he cancels.
     virtual QString ShowSave(const BoiteFichier &dialogue) = 0;
-    /// Lets the operator take a row of a list; nothing when he renounces.
+    /// Lets the operator take a row of a list; nothing when he cancels.
     virtual std::optional<int> Choisit(const BoiteListe &liste) = 0;
 
     /// Boxes shown so far: whoever moves the focus can tell whether the operator was stopped meanwhile.

@@ -24,7 +24,7 @@ namespace {
 constexpr int signaux[] = {SIGTERM, SIGINT, SIGHUP};
 int tube[2] = {-1, -1};
 
-/// Nearly nothing may be done here: the event loop does the rest.
+/// A signal handler may do nearly nothing: the event loop does the rest.
 extern "C" void noteSignal(int signal)
 {
     const char octet = char(signal);

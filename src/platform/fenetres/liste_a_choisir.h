@@ -16,6 +16,7 @@ class ListeAChoisir : public QDialog
 public:
     ListeAChoisir(const BoiteListe &liste, QWidget *parent);
 
+    /// Row that is chosen just now, counted from 0; nothing when none is.
     std::optional<int> choisie() const;
 
 private:

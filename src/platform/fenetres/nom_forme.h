@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Name of a form. The constants of the program's forms make a wrong one an error of the compiler; a name that comes as
-/// a text is made one in so many words, and must outlive it.
+/// Name of a form. The constants of the program's forms make a wrong one an error of the compiler; a text
+/// becomes one by its constructor only, and must outlive it.
 class NomForme
 {
 public:

@@ -20,6 +20,7 @@ class FlexGridModele final : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// Rows and columns to sort by, the first and the last included.
     struct Tri
     {
         int premiereLigne;
@@ -34,11 +35,13 @@ public:
 
     explicit FlexGridModele(QObject *parent = nullptr);
 
+    // Rows, the header included, and columns, at least 1 of each. They go and come at the end; new cells are empty.
     int lignes() const { return static_cast<int>(m_lignes.size()); }
     int colonnes() const { return m_colonnes; }
     void fixeLignes(int nombre);
     void fixeColonnes(int nombre);
 
+    // Cells, whose row and column have to exist.
     QString texte(int ligne, int colonne) const { return m_lignes[size_t(ligne)][size_t(colonne)].texte; }
     void fixeTexte(int ligne, int colonne, const QString &texte);
     quint32 fond(int ligne, int colonne) const { return m_lignes[size_t(ligne)][size_t(colonne)].fond; }

@@ -96,7 +96,8 @@ void Imprimante::NewPage()
 
 void Imprimante::EndDoc()
 {
-    m_destination->recoit(m_pages, Copies);
+    // What has come out is the sheet: the operator sees it, and prints again.
+    std::ignore = m_destination->recoit(m_pages, Copies);
     m_pages.assign(1, {.orientation = m_orientation});
     CurrentX = 0;
     CurrentY = 0;

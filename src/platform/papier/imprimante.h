@@ -44,7 +44,7 @@ public:
     /// Number of copies that the operator asked for.
     virtual int copies() const { return 1; }
     /// Sends the document; false when the printer did not take it.
-    virtual bool recoit(const std::vector<PageDessinee> &pages, int copies) = 0;
+    [[nodiscard]] virtual bool recoit(const std::vector<PageDessinee> &pages, int copies) = 0;
 };
 
 /// A4 with margins that every office printer leaves free.

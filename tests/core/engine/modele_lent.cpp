@@ -11,14 +11,15 @@ namespace {
 using moteur::LigneClassement;
 using moteur::StatutTirage;
 
+/// One row of the table of pairs, its cells numbered from left to right.
 struct Cellules
 {
-    int c0 = 0;
-    int c1 = 0;
-    QString c2;
-    int c3 = 0;
-    QString c4;
-    int c5 = 0;
+    int c0 = 0; ///< Level of the first team: its wins, and 1 more when it was pulled up.
+    int c1 = 0; ///< First team.
+    QString c2; ///< Club of the first team.
+    int c3 = 0; ///< Second team, 0 for a bye.
+    QString c4; ///< Club of the second team, empty for a bye.
+    int c5 = 0; ///< Level of the second team, 0 for a bye.
 };
 
 class Modele
@@ -49,6 +50,7 @@ public:
     }
 
 private:
+    /// Number of pairs: they stand in rows 1 to p of the table T.
     int p() const { return int(m_table.size()) - 1; }
     Cellules &T(int i) { return m_table.at(std::size_t(i)); }
 
@@ -63,7 +65,7 @@ private:
         return m_donnees.clubs[std::size_t(place - m_donnees.classement.begin())];
     }
 
-    /// Keys are compared as text of fixed width would be: level, then the second key, then the team.
+    /// All teams, best first: by level, then by difference (\p auRang) or by draw, then by team number.
     std::vector<int> parCle(bool auRang)
     {
         const auto cle = [auRang](const LigneClassement &l) {
@@ -137,7 +139,8 @@ private:
         T(j).c4 = T(i).c2;
     }
 
-    /// False when the whole is to start anew.
+    /// Exchanges second teams until no pair is of one club, as far as this can be done. False when another team has
+    /// been pulled up: to be called again.
     bool clubs()
     {
         if (p() < 1)
@@ -247,7 +250,8 @@ private:
 
     void abandonne(int i) { m_journal.abandonnees.insert(normee(T(i).c1, T(i).c3)); }
 
-    /// False when the remaining rows are not to be looked at.
+    /// Looks for another opponent for the first team of row \p i, whose pair has already met. False when the rows
+    /// behind it are not to be looked at for this meeting.
     bool corrige(int i)
     {
         int d = i == p() || T(i + 1).c0 != T(i).c0 ? -1 : 1;

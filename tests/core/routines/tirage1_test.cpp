@@ -89,6 +89,8 @@ TEST_F(PremierTirage, DejaTireNeTouchePasAuxRencontres)
     salle.native().executeScript(u"update concours set tourpri = 4"_qs);
     salle.partage.TourCourant = 4;
     EXPECT_FALSE(TirageTour1(salle.partage, 1));
+    EXPECT_EQ(salle.tourpri(), 4) << "the operator is told first";
+    PasseAuTour1(salle.partage);
     EXPECT_EQ(salle.scores(), tirees);
     EXPECT_EQ(salle.tourpri(), 1);
     EXPECT_EQ(salle.partage.TourCourant, 1);

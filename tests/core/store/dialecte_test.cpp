@@ -19,7 +19,7 @@ protected:
             u"insert into equipes (concours, equipe, nom, prenom, licence) values (1, 1, 'Été ', ' Zoé', '7')");
         base.Execute(u"insert into [catégories] (lang, libelle) values (1, 'Seniors')");
         base.Execute(u"insert into evolution (concours, equipe, principal) values (1, 1, 1)");
-        base.Execute(u"insert into traduc (numero, actif) values (1, false)");
+        base.Execute(u"insert into traduc (numero, actif) values (1, 0)");
         base.Execute(u"insert into traduc (numero, actif) values (2, true)");
     }
 

@@ -208,6 +208,7 @@ TEST_F(Jeu, ChangesAndRemovesTheRowsOfAStatement)
     EXPECT_THROW(lu.AddNew(), Erreur);
     EXPECT_THROW(lu.Index(u"nomsoc"), Erreur);
     EXPECT_THROW(base.OpenRecordset(u"select max(concours) from concours").AddNew(), Erreur);
+    EXPECT_THROW(base.OpenRecordset(u"societes", dbOpenSnapshot), Erreur);
     EXPECT_THROW(lu[u"inconnu"].texte(), Erreur);
 }
 

@@ -17,11 +17,13 @@ public:
 
     /// Window of the loaded form \p forme; the main window for "Torvik" and without a name.
     virtual QWidget *fenetre(const QString &forme) const;
-    /// Control \p nom of a form, null when it is of another kind than Widget; a missing one throws.
+    /// Control \p nom of a form; one that is missing, or of another kind than Widget, throws.
     template<typename Widget = QWidget>
     Widget *controle(const QString &forme, const QString &nom) const
     {
-        return qobject_cast<Widget *>(cherche(forme, nom));
+        auto *trouve = qobject_cast<Widget *>(cherche(forme, nom));
+        exige(trouve != nullptr, u"%1.%2 est d'un autre genre."_qs.arg(forme, nom));
+        return trouve;
     }
     /// Entry \p nom of the menus of the main window; a missing one throws.
     QAction *menu(const QString &nom) const;
