@@ -70,7 +70,7 @@ void ProgrammeEssai::remplit(const QString &nomForme, const QString &nom, const 
 
 QLineEdit *ProgrammeEssai::champ(const QString &nomForme, const QString &nom)
 {
-    if (const QComboBox *combo = liste(nomForme, nom))
+    if (const auto *combo = qobject_cast<QComboBox *>(controle(nomForme, nom)))
         return combo->lineEdit();
     return controle<QLineEdit>(nomForme, nom);
 }

@@ -219,6 +219,8 @@ private:
             m_sortie += u"vt_left"_qs;
         else if (jeton.estMot(u"true"))
             m_sortie += u"-1"_qs;
+        else if (jeton.estMot(u"false"))
+            m_sortie += u"0"_qs;
         else if (jeton.estMot(u"not") && suitUnOuiNon())
             m_sortie += u"~"_qs;
         else if (jeton.estMot(u"delete") && signe(m_place + 1, u"*")) {
