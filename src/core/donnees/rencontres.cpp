@@ -61,6 +61,25 @@ std::vector<Rencontre> RencontresJouees(Database &base, qint64 concours)
                      u"order by tour desc, Equipe_1"_qs.arg(concours));
 }
 
+std::vector<Rencontre> RencontresDuTableau1(Database &base, qint32 concours)
+{
+    std::vector<Rencontre> rencontres;
+    store::Instruction lecture(base.native(),
+                               u"select tour, equipe_1, equipe_2, score_1, score_2, score_reel, lancee, repechage "
+                               u"from scores where concours = ? and tableau = 1 order by tour, rowid"_qs);
+    lecture.lie(1, concours);
+    while (lecture.avance())
+        rencontres.push_back({.tour = int(lecture.nombre(0)),
+                              .equipe1 = lecture.nombre(1),
+                              .equipe2 = lecture.nombre(2),
+                              .score1 = lecture.valeur(3),
+                              .score2 = lecture.valeur(4),
+                              .scoreReel = lecture.nombre(5) != 0,
+                              .lancee = lecture.nombre(6) != 0,
+                              .repechage = int(lecture.nombre(7))});
+    return rencontres;
+}
+
 std::vector<Rencontre> RencontresDeLEquipe(Database &base, qint32 concours, qint64 equipe)
 {
     return litToutes(base,

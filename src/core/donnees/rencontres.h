@@ -22,6 +22,7 @@ struct Rencontre
     bool exempt() const { return equipe2 == 0; }
     /// Whether it waits for its result.
     bool enAttente() const { return score1.estNull() && score2.estNull(); }
+    bool premiereGagne() const { return exempt() || (!score2.estNull() && score1.reel() > score2.reel()); }
 };
 
 /// The order of the matches of a round: as they were entered, or by second team, byes first.
@@ -31,6 +32,8 @@ enum class OrdreDuTour { Tirage, SecondeEquipe };
 [[nodiscard]] std::vector<Rencontre> RencontresAttendues(store::Database &base, qint64 concours);
 /// Played matches of bracket 1, all byes among them, the last round first.
 [[nodiscard]] std::vector<Rencontre> RencontresJouees(store::Database &base, qint64 concours);
+/// All matches of bracket 1, round after round as they were drawn.
+[[nodiscard]] std::vector<Rencontre> RencontresDuTableau1(store::Database &base, qint32 concours);
 /// Matches of one team, round after round.
 [[nodiscard]] std::vector<Rencontre> RencontresDeLEquipe(store::Database &base, qint32 concours, qint64 equipe);
 /// Matches of one round in all brackets.

@@ -12,6 +12,14 @@ bool resteUnTour(int nbteam, int nbJoueurs, int tourCourant, bool repeche)
     return equipes >= std::ldexp(1.0, tourCourant + (repeche ? 0 : 1));
 }
 
+int toursPrevus(int nbteam, int nbJoueurs, int tourCourant, bool repeche)
+{
+    int tours = tourCourant;
+    while (resteUnTour(nbteam, nbJoueurs, tours, repeche))
+        ++tours;
+    return tours;
+}
+
 bool tirageARefaire(StatutTirage statut, int tourCourant, int essais)
 {
     if (essais >= essaisTirageMax)

@@ -16,6 +16,9 @@ inline constexpr int essaisTirageMax = 10;
 /// want of its type).
 [[nodiscard]] bool resteUnTour(int nbteam, int nbJoueurs, int tourCourant, bool repeche);
 
+/// Rounds that a competition will have, \p tourCourant being drawn: resteUnTour() asked round after round.
+int toursPrevus(int nbteam, int nbJoueurs, int tourCourant, bool repeche);
+
 /// Whether the draw of the round after \p tourCourant is to be tried again after \p essais attempts.
 [[nodiscard]] bool tirageARefaire(StatutTirage statut, int tourCourant, int essais);
 

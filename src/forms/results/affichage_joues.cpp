@@ -28,7 +28,7 @@ LigneJouee redige(const Partage &partage, const donnees::Rencontre &rencontre)
     const store::Valeur &score1 = rencontre.score1;
     const store::Valeur &score2 = rencontre.score2;
     LigneJouee ligne;
-    ligne.premiereGagne = rencontre.exempt() || (!score2.estNull() && score1.reel() > score2.reel());
+    ligne.premiereGagne = rencontre.premiereGagne();
     ligne.textes[0] = QString::number(rencontre.tour);
     ligne.textes[1] = QString::number(rencontre.equipe1);
     ligne.textes[2] = rencontre.exempt() ? partage.mes(42) : QString::number(rencontre.equipe2);
