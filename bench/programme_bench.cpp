@@ -5,6 +5,7 @@
 #include "engine/routines_tirage.h"
 #include "garde/sauvegarde.h"
 #include "mesure.h"
+#include "outils/projection.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -150,13 +151,16 @@ BENCHMARK(ClicTirageSuivant)
     ->Iterations(5)
     ->UseManualTime();
 
-/// From Enter behind the loser's score to the form that waits for the next team, the result safe on the disk.
+/// From Enter behind the loser's score to the form that waits for the next team, the result safe on the disk; the
+/// public sees it too, where \p publique is not 0.
 void ResultatEntre(benchmark::State &etat)
 {
     limite(etat, 16);
     constexpr int tours = 3;
     EcranResultats ecran(int(etat.range(0)), tours);
     ProgrammePilote &prog = ecran.prog;
+    if (etat.range(1) != 0)
+        projection({prog.partage(), prog.formulaires(), prog.boites}, *prog.torvik()).montre();
     prog.clique(u"EResultats"_qs, u"tirage_suivant"_qs);
     for ([[maybe_unused]] auto _ : etat) {
         const QString attendue = prog.valeur(u"select equipe_1 from scores where score_1 is null limit 1"_qs).texte();
@@ -170,7 +174,13 @@ void ResultatEntre(benchmark::State &etat)
             etat.SkipWithError("the result has not been stored");
     }
 }
-BENCHMARK(ResultatEntre)->ArgName("equipes")->Arg(512)->Unit(benchmark::kMillisecond)->Iterations(60)->UseManualTime();
+BENCHMARK(ResultatEntre)
+    ->ArgNames({"equipes", "publique"})
+    ->Args({512, 0})
+    ->Args({512, 1})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(60)
+    ->UseManualTime();
 
 /// From nothing to the welcome window, the key of the base derived, and its copy made or, at a further start, proved.
 void Demarrage(benchmark::State &etat)

@@ -17,6 +17,10 @@ reduit() { # picture, name, then what is to be done to it
         "PNG8:docs/images/$nom.png"
 }
 
+projete() { # name in the manual, picture of the day: what a projector shows, at a third of its size
+    reduit "$jour"/[0-9][0-9][0-9]-"$2".png "$1" -resize 640x -bordercolor '#8896A3' -border 1
+}
+
 forme() { # name in the manual, picture of the day, part of it to keep (all without)
     reduit "$jour"/[0-9][0-9][0-9]-"$2".png "$1" ${3:+-crop "$3"} -bordercolor '#8896A3' -border 1
 }
@@ -56,6 +60,8 @@ forme importation boite-importation
 forme purge boite-purge
 forme copies francais-copiessecurite
 forme rapport rapport-tirage
+forme affichage-reglages affichage-reglages
+projete affichage affichage-tirage
 feuille feuille-tirage tirage-tour1
 feuille feuille-classement classement
 feuille feuille-palmares palmares-detail

@@ -32,13 +32,22 @@ bool montre(const QAccessibleInterface &lecture)
 QAccessible::Role roleVoulu(const QWidget &controle)
 {
     const std::pair<const char *, QAccessible::Role> roles[] = {
-        {"QCheckBox", QAccessible::CheckBox},     {"QRadioButton", QAccessible::RadioButton},
-        {"QPushButton", QAccessible::PushButton}, {"QToolButton", QAccessible::PushButton},
-        {"QComboBox", QAccessible::ComboBox},     {"QLineEdit", QAccessible::EditableText},
-        {"QTableView", QAccessible::Table},       {"QListWidget", QAccessible::List},
-        {"QTabBar", QAccessible::PageTabList},    {"QPlainTextEdit", QAccessible::EditableText},
-        {"Cadran", QAccessible::Graphic},         {"Rouleau", QAccessible::Graphic},
+        {"QCheckBox", QAccessible::CheckBox},
+        {"QRadioButton", QAccessible::RadioButton},
+        {"QPushButton", QAccessible::PushButton},
+        {"QToolButton", QAccessible::PushButton},
+        {"QComboBox", QAccessible::ComboBox},
+        {"QLineEdit", QAccessible::EditableText},
+        {"QTableView", QAccessible::Table},
+        {"QListWidget", QAccessible::List},
+        {"QSpinBox", QAccessible::SpinBox},
+        {"QTabBar", QAccessible::PageTabList},
+        {"QPlainTextEdit", QAccessible::EditableText},
+        {"Cadran", QAccessible::Graphic},
+        {"Rouleau", QAccessible::Graphic},
     };
+    if (const auto *bouton = qobject_cast<const QPushButton *>(&controle); bouton != nullptr && bouton->isCheckable())
+        return QAccessible::CheckBox;
     for (const auto &[classe, role] : roles) {
         if (controle.inherits(classe))
             return role;

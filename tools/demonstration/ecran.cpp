@@ -8,6 +8,8 @@ namespace demonstration {
 namespace {
 
 constexpr char description[] = R"({"screens":[{"name":"portable","x":0,"y":0,"width":1366,"height":768,)"
+                               R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1},)"
+                               R"({"name":"projecteur","x":1366,"y":0,"width":1920,"height":1080,)"
                                R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]})";
 constexpr char plateforme[] = "QT_QPA_PLATFORM";
 

@@ -4,8 +4,8 @@
 
 namespace demonstration {
 
-/// The screen of a club's laptop (1366 x 768) for a run without any display. Made before the application, and kept as
-/// long as it lives.
+/// The screen of a club's laptop (1366 x 768), with a projector beside it, for a run without any display. Made before
+/// the application, and kept as long as it lives.
 class EcranPortable
 {
 public:

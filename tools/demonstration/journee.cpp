@@ -25,6 +25,7 @@ Journee::Journee(const Options &options, const Plateau &plateau, Hasard &hasard)
     , m_impressions(m_main, m_boites, m_photographe, options.dossier)
     , m_registre(m_programme, m_main, m_boites, m_photographe, m_impressions, plateau)
     , m_outils(m_main, m_boites, m_photographe, m_horloge)
+    , m_affichage(m_main, m_photographe)
     , m_visite(m_programme, m_main, m_photographe)
     , m_resultats(m_programme, m_main, plateau, hasard, m_photographe)
 {
@@ -158,9 +159,13 @@ void Journee::joueTours()
         if (m_resultats.tour() == 2) {
             m_impressions.rapport();
             m_resultats.ouvre();
+            m_affichage.ouvre(2);
+            m_resultats.ouvre();
             m_resultats.ouvreVues();
         }
         const int rencontres = m_resultats.saisitTour();
+        if (m_resultats.tour() == 2)
+            m_affichage.ferme();
         dit(u"Tour %1 : %2 résultats saisis en %3 s"_qs.arg(m_resultats.tour())
                 .arg(rencontres)
                 .arg(double(chronometre.elapsed()) / 1000, 0, 'f', 1));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "affichage.h"
 #include "app/programme.h"
 #include "boites_pilotees.h"
 #include "hasard.h"
@@ -55,6 +56,7 @@ private:
     Impressions m_impressions;
     Registre m_registre;
     Outils m_outils;
+    Affichage m_affichage;
     Visite m_visite;
     Resultats m_resultats;
     std::set<int> m_avertis;

@@ -22,10 +22,11 @@ const Langue chacune[] = {{u"anglais"_qs, u"English"_qs},        {u"allemand"_qs
                           {u"espagnol"_qs, u"Español"_qs},       {u"italien"_qs, u"Italiano"_qs},
                           {u"neerlandais"_qs, u"Nederlands"_qs}, {u"francais"_qs, u"Français"_qs}};
 
-const QString formes[] = {u"Accueil"_qs,    u"Econcours"_qs, u"Eequipes"_qs,       u"Ejoueurs"_qs,     u"Listesoc"_qs,
-                          u"Listco"_qs,     u"listeq"_qs,    u"listjo"_qs,         u"EResultats"_qs,   u"manqres"_qs,
-                          u"valresu"_qs,    u"Groupes"_qs,   u"I_tirage"_qs,       u"palmares"_qs,     u"Resusoc"_qs,
-                          u"FrmHorloge"_qs, u"langues"_qs,   u"CopiesSecurite"_qs, u"RapportTirage"_qs};
+const QString formes[] = {u"Accueil"_qs,    u"Econcours"_qs,      u"Eequipes"_qs,      u"Ejoueurs"_qs,
+                          u"Listesoc"_qs,   u"Listco"_qs,         u"listeq"_qs,        u"listjo"_qs,
+                          u"EResultats"_qs, u"manqres"_qs,        u"valresu"_qs,       u"Groupes"_qs,
+                          u"I_tirage"_qs,   u"palmares"_qs,       u"Resusoc"_qs,       u"FrmHorloge"_qs,
+                          u"langues"_qs,    u"CopiesSecurite"_qs, u"RapportTirage"_qs, u"AffichagePublic"_qs};
 const QString mobiles[] = {u"EResultats"_qs, u"manqres"_qs,  u"Accueil"_qs, u"Listesoc"_qs,
                            u"Resusoc"_qs,    u"Listco"_qs,   u"listjo"_qs,  u"Eequipes"_qs,
                            u"Econcours"_qs,  u"Ejoueurs"_qs, u"listeq"_qs};

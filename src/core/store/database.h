@@ -36,6 +36,8 @@ public:
 
     /// Not before it is opened, nor behind Close().
     bool estOuverte() const { return m_ouverte != nullptr; }
+    /// Lives as long as this opening: it tells whoever kept something read that the file is another one by now.
+    std::weak_ptr<const void> temoin() const { return m_ouverte; }
     /// Path that the file was opened by; throws when it is closed.
     QString fichier() const;
 

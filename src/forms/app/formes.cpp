@@ -5,6 +5,7 @@
 #include "competitions/econcours.h"
 #include "fenetres/alerte.h"
 #include "noms/formes.h"
+#include "outils/affichage_public.h"
 #include "outils/copies_securite.h"
 #include "outils/rapport_tirage.h"
 #include "printing/i_tirage.h"
@@ -60,6 +61,7 @@ constexpr LigneForme table[] = {
     {formes::langues,         fabrique<langues>,         std::nullopt,    Rien,   {}},
     {formes::CopiesSecurite,  fabrique<CopiesSecurite>,  std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 14, 0}},
     {formes::RapportTirage,   fabrique<RapportTirage>,   std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 15, 0}},
+    {formes::AffichagePublic, fabrique<AffichagePublic>, std::nullopt,    Rien,   {}},
     {nomAlerte,               fabrique<Alerte>,          std::nullopt,    Rien,   {}},
 };
 // clang-format on

@@ -3,6 +3,7 @@
 #include "clock/acces_horloge.h"
 #include "fenetres/formulaires.h"
 #include "noms/formes.h"
+#include "noms/mesures_horloge.h"
 #include "partage/routines.h"
 #include "son/son.h"
 #include "ui_frmhorloge.h"
@@ -91,6 +92,28 @@ void FrmHorloge::Form_Load()
     m_loterie.remplit(m_ui->Maxvaleur->text().toShort());
     m_timer1->setSingleShot(true);
     Timer1_Timer();
+    ditMesures();
+}
+
+void FrmHorloge::Form_Unload()
+{
+    mesuresHorloge(formulaires()) = {};
+}
+
+void FrmHorloge::ditMesures()
+{
+    mesuresHorloge(formulaires()).chronometre = [this]() -> std::optional<qint64> {
+        if (!m_chronometre.tourne())
+            return std::nullopt;
+        const Chronometre::Champs champs = m_chronometre.champs();
+        return (champs.heures * 60 + champs.minutes) * 60 + champs.secondes;
+    };
+    mesuresHorloge(formulaires()).alarme = [this]() -> std::optional<qint64> {
+        if (!m_alarme.estMise())
+            return std::nullopt;
+        const QDateTime maintenant(partage().horloge.jour(), partage().horloge.heure());
+        return std::max<qint64>(maintenant.secsTo(m_heureAlarme), 0);
+    };
 }
 
 void FrmHorloge::showEvent(QShowEvent *evenement)

@@ -33,6 +33,7 @@ public:
 
     std::vector<Infobulle> infobulles() const override;
     void Form_Load() override;
+    void Form_Unload() override;
 
     /// The clock goes on: the alarm is looked at, then the next time shown.
     void Timer1_Timer();
@@ -70,6 +71,7 @@ private:
 
     QTimer *creeTimer(const QString &nom, void (FrmHorloge::*traitement)());
     void relieBoutons();
+    void ditMesures();
 
     void montreHeure();
     void montreChronometre();

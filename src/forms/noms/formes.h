@@ -7,6 +7,7 @@
 namespace formes {
 
 inline constexpr NomForme Accueil{u"Accueil"};
+inline constexpr NomForme AffichagePublic{u"AffichagePublic"};
 inline constexpr NomForme CopiesSecurite{u"CopiesSecurite"};
 inline constexpr NomForme DetailResultats{u"Détail_résultats"};
 inline constexpr NomForme Econcours{u"Econcours"};

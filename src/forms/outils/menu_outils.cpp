@@ -21,6 +21,7 @@ const std::vector<Entree> &entrees()
 {
     static const std::vector<Entree> lignes{
         {formes::RapportTirage, Qt::Key_F7, QT_TRANSLATE_NOOP("MenuOutils", "&Rapport du tirage")},
+        {formes::AffichagePublic, Qt::Key_F8, QT_TRANSLATE_NOOP("MenuOutils", "&Affichage public")},
         {formes::CopiesSecurite, Qt::Key_F9, QT_TRANSLATE_NOOP("MenuOutils", "&Copies de sécurité")},
     };
     return lignes;
@@ -40,10 +41,16 @@ MenuOutils::MenuOutils(const Contexte &contexte, QWidget *parent)
         // The forms are windows of their own: the keys count in each of them.
         action->setShortcutContext(Qt::ApplicationShortcut);
         connect(action, &QAction::triggered, this,
-                [this, &entree] { Execute(m_contexte.boites, [&] { m_contexte.formulaires.Montre(entree.forme); }); });
+                [this, &entree] { Execute(m_contexte.boites, [&] { montre(entree.forme); }); });
     }
     traduit();
     apresTirage(contexte.formulaires).traite = [contexte] { MontreRapportApresTirage(contexte); };
+}
+
+void MenuOutils::montre(NomForme forme)
+{
+    m_contexte.formulaires.Cache(formes::Accueil);
+    m_contexte.formulaires.Montre(forme);
 }
 
 void MenuOutils::traduit()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fenetres/formulaire.h"
+#include "fenetres/nom_forme.h"
 
 #include <QMenu>
 
@@ -17,6 +18,8 @@ protected:
     void changeEvent(QEvent *evenement) override;
 
 private:
+    /// The welcome window stands in front of all others: it makes way, as for the forms of the other menus.
+    void montre(NomForme forme);
     void traduit();
 
     Contexte m_contexte;

@@ -5,6 +5,7 @@
 #include "engine/routines_resultats.h"
 #include "fenetres/formulaires.h"
 #include "noms/formes.h"
+#include "noms/ordre_resultats.h"
 #include "noms/passation.h"
 #include "partage/routines.h"
 #include "results/etat_resultats.h"
@@ -176,10 +177,18 @@ void EResultats::validationScore(Cote cote, TextesGardes &gardes)
     }
     gardes = {};
     const qint64 tour = partage().TourCourant;
-    if (EnregistreScore(partage(),
-                        {m_ui->listconcours->currentText(), m_ui->Equipe1->text(), m_ui->Equipe2->text(),
-                         m_ui->Score1->text(), m_ui->Score2->text(), etatResultats(formulaires()).ScoreReel}))
+    const ScoreSaisi saisi{m_ui->listconcours->currentText(),
+                           m_ui->Equipe1->text(),
+                           m_ui->Equipe2->text(),
+                           m_ui->Score1->text(),
+                           m_ui->Score2->text(),
+                           etatResultats(formulaires()).ScoreReel};
+    if (EnregistreScore(partage(), saisi)) {
+        ordreDesResultats(formulaires())
+            .note(qint32(store::Valeur(saisi.concours).entier()), int(tour), store::Valeur(saisi.equipe1).entier(),
+                  store::Valeur(saisi.equipe2).entier());
         termineSaisie(cote, tour);
+    }
     videRencontre();
     DoEvents();
     SetFocus(m_ui->Equipe1);

@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="fr_FR">
 <context>
+    <name>AffichagePublic</name>
+    <message>
+        <source>Affichage public</source>
+        <translation>Öffentliche Anzeige</translation>
+    </message>
+    <message>
+        <source>Pages qui tournent</source>
+        <translation>Wechselnde Seiten</translation>
+    </message>
+    <message>
+        <source>Tirage du tour</source>
+        <translation>Auslosung der Runde</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Erwartete Begegnungen</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Letzte Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Rangliste</translation>
+    </message>
+    <message>
+        <source>Horloge, chronomètre et alarme</source>
+        <translation>Uhr, Stoppuhr und Wecker</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page</source>
+        <translation>Dauer einer Seite</translation>
+    </message>
+    <message>
+        <source> secondes</source>
+        <translation> Sekunden</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page, en secondes</source>
+        <translation>Dauer einer Seite in Sekunden</translation>
+    </message>
+    <message>
+        <source>Ecran</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Plein écran (F11)</source>
+        <translation>Vollbild (F11)</translation>
+    </message>
+    <message>
+        <source>Fond sombre</source>
+        <translation>Dunkler Grund</translation>
+    </message>
+    <message>
+        <source>Afficher</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Pause (F12)</source>
+        <translation>Pause (F12)</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Ecran %1</source>
+        <translation>Bildschirm %1</translation>
+    </message>
+    <message>
+        <source>L&apos;affichage tourne seul sur l&apos;autre écran pendant que vous travaillez ici.</source>
+        <translation>Die Anzeige läuft von selbst auf dem anderen Bildschirm, während Sie hier arbeiten.</translation>
+    </message>
+    <message>
+        <source>Un seul écran est branché : l&apos;affichage s&apos;ouvre dans une fenêtre ordinaire.</source>
+        <translation>Nur ein Bildschirm ist angeschlossen: Die Anzeige öffnet sich in einem gewöhnlichen Fenster.</translation>
+    </message>
+    <message>
+        <source>Cacher</source>
+        <translation>Verbergen</translation>
+    </message>
+</context>
+<context>
     <name>CopiesSecurite</name>
     <message>
         <source>Copies de sécurité</source>
@@ -137,6 +224,83 @@
     </message>
 </context>
 <context>
+    <name>ListesPubliques</name>
+    <message>
+        <source>Tirage du tour %1</source>
+        <translation>Auslosung der Runde %1</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Erwartete Begegnungen</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Letzte Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Rangliste</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) inscrite(s)</source>
+        <translation>
+            <numerusform>%n Mannschaft eingeschrieben</numerusform>
+            <numerusform>%n Mannschaften eingeschrieben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Concours terminé</source>
+        <translation>Wettbewerb beendet</translation>
+    </message>
+    <message>
+        <source>Tour %1 / %2</source>
+        <translation>Runde %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>, manque %n résultat(s)</source>
+        <translation>
+            <numerusform>, %n Ergebnis fehlt</numerusform>
+            <numerusform>, %n Ergebnisse fehlen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, complet</source>
+        <translation>, vollständig</translation>
+    </message>
+    <message>
+        <source>Dernier résultat : %1 bat %2</source>
+        <translation>Letztes Ergebnis: %1 schlägt %2</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>spielfrei</translation>
+    </message>
+    <message>
+        <source>Lancées</source>
+        <translation>Begonnen</translation>
+    </message>
+    <message>
+        <source>Pas encore lancées</source>
+        <translation>Noch nicht begonnen</translation>
+    </message>
+    <message>
+        <source>Equ.</source>
+        <translation>Mann.</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Verein</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>+/−</source>
+        <translation>+/−</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
@@ -149,6 +313,10 @@
     <message>
         <source>&amp;Rapport du tirage</source>
         <translation>Be&amp;richt der Auslosung</translation>
+    </message>
+    <message>
+        <source>&amp;Affichage public</source>
+        <translation>Öffentliche &amp;Anzeige</translation>
     </message>
 </context>
 <context>
@@ -455,6 +623,29 @@
     <message>
         <source>Score</source>
         <translation>Punkte</translation>
+    </message>
+</context>
+<context>
+    <name>VuePublique</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Chronomètre</source>
+        <translation>Stoppuhr</translation>
+    </message>
+    <message>
+        <source>Alarme dans</source>
+        <translation>Wecker in</translation>
+    </message>
+    <message>
+        <source>Alarme</source>
+        <translation>Wecker</translation>
+    </message>
+    <message>
+        <source>Affichage public</source>
+        <translation>Öffentliche Anzeige</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="fr_FR">
 <context>
+    <name>AffichagePublic</name>
+    <message>
+        <source>Affichage public</source>
+        <translation>Public display</translation>
+    </message>
+    <message>
+        <source>Pages qui tournent</source>
+        <translation>Pages that take turns</translation>
+    </message>
+    <message>
+        <source>Tirage du tour</source>
+        <translation>Draw of the round</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Matches awaited</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Last results</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Ranking</translation>
+    </message>
+    <message>
+        <source>Horloge, chronomètre et alarme</source>
+        <translation>Clock, stopwatch and alarm</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page</source>
+        <translation>Time of a page</translation>
+    </message>
+    <message>
+        <source> secondes</source>
+        <translation> seconds</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page, en secondes</source>
+        <translation>Time of a page, in seconds</translation>
+    </message>
+    <message>
+        <source>Ecran</source>
+        <translation>Screen</translation>
+    </message>
+    <message>
+        <source>Plein écran (F11)</source>
+        <translation>Full screen (F11)</translation>
+    </message>
+    <message>
+        <source>Fond sombre</source>
+        <translation>Dark ground</translation>
+    </message>
+    <message>
+        <source>Afficher</source>
+        <translation>Show</translation>
+    </message>
+    <message>
+        <source>Pause (F12)</source>
+        <translation>Pause (F12)</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Ecran %1</source>
+        <translation>Screen %1</translation>
+    </message>
+    <message>
+        <source>L&apos;affichage tourne seul sur l&apos;autre écran pendant que vous travaillez ici.</source>
+        <translation>The display runs by itself on the other screen while you work here.</translation>
+    </message>
+    <message>
+        <source>Un seul écran est branché : l&apos;affichage s&apos;ouvre dans une fenêtre ordinaire.</source>
+        <translation>Only one screen is connected: the display opens in an ordinary window.</translation>
+    </message>
+    <message>
+        <source>Cacher</source>
+        <translation>Hide</translation>
+    </message>
+</context>
+<context>
     <name>CopiesSecurite</name>
     <message>
         <source>Copies de sécurité</source>
@@ -137,6 +224,83 @@
     </message>
 </context>
 <context>
+    <name>ListesPubliques</name>
+    <message>
+        <source>Tirage du tour %1</source>
+        <translation>Draw of round %1</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Matches awaited</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Last results</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Ranking</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) inscrite(s)</source>
+        <translation>
+            <numerusform>%n team registered</numerusform>
+            <numerusform>%n teams registered</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Concours terminé</source>
+        <translation>Competition over</translation>
+    </message>
+    <message>
+        <source>Tour %1 / %2</source>
+        <translation>Round %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>, manque %n résultat(s)</source>
+        <translation>
+            <numerusform>, %n result missing</numerusform>
+            <numerusform>, %n results missing</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, complet</source>
+        <translation>, complete</translation>
+    </message>
+    <message>
+        <source>Dernier résultat : %1 bat %2</source>
+        <translation>Last result: %1 beats %2</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>bye</translation>
+    </message>
+    <message>
+        <source>Lancées</source>
+        <translation>Started</translation>
+    </message>
+    <message>
+        <source>Pas encore lancées</source>
+        <translation>Not yet started</translation>
+    </message>
+    <message>
+        <source>Equ.</source>
+        <translation>Team</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>+/−</source>
+        <translation>+/−</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
@@ -149,6 +313,10 @@
     <message>
         <source>&amp;Rapport du tirage</source>
         <translation>&amp;Report of the draw</translation>
+    </message>
+    <message>
+        <source>&amp;Affichage public</source>
+        <translation>&amp;Public display</translation>
     </message>
 </context>
 <context>
@@ -455,6 +623,29 @@
     <message>
         <source>Score</source>
         <translation>Score</translation>
+    </message>
+</context>
+<context>
+    <name>VuePublique</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Chronomètre</source>
+        <translation>Stopwatch</translation>
+    </message>
+    <message>
+        <source>Alarme dans</source>
+        <translation>Alarm in</translation>
+    </message>
+    <message>
+        <source>Alarme</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Affichage public</source>
+        <translation>Public display</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="fr_FR">
 <context>
+    <name>AffichagePublic</name>
+    <message>
+        <source>Affichage public</source>
+        <translation>Pantalla pública</translation>
+    </message>
+    <message>
+        <source>Pages qui tournent</source>
+        <translation>Páginas que se alternan</translation>
+    </message>
+    <message>
+        <source>Tirage du tour</source>
+        <translation>Sorteo de la ronda</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Partidas pendientes</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Últimos resultados</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Clasificación</translation>
+    </message>
+    <message>
+        <source>Horloge, chronomètre et alarme</source>
+        <translation>Reloj, cronómetro y alarma</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page</source>
+        <translation>Duración de una página</translation>
+    </message>
+    <message>
+        <source> secondes</source>
+        <translation> segundos</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page, en secondes</source>
+        <translation>Duración de una página, en segundos</translation>
+    </message>
+    <message>
+        <source>Ecran</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>Plein écran (F11)</source>
+        <translation>Pantalla completa (F11)</translation>
+    </message>
+    <message>
+        <source>Fond sombre</source>
+        <translation>Fondo oscuro</translation>
+    </message>
+    <message>
+        <source>Afficher</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Pause (F12)</source>
+        <translation>Pausa (F12)</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Ecran %1</source>
+        <translation>Pantalla %1</translation>
+    </message>
+    <message>
+        <source>L&apos;affichage tourne seul sur l&apos;autre écran pendant que vous travaillez ici.</source>
+        <translation>La pantalla pública avanza sola en el otro monitor mientras usted trabaja aquí.</translation>
+    </message>
+    <message>
+        <source>Un seul écran est branché : l&apos;affichage s&apos;ouvre dans une fenêtre ordinaire.</source>
+        <translation>Hay un solo monitor conectado: la pantalla pública se abre en una ventana normal.</translation>
+    </message>
+    <message>
+        <source>Cacher</source>
+        <translation>Ocultar</translation>
+    </message>
+</context>
+<context>
     <name>CopiesSecurite</name>
     <message>
         <source>Copies de sécurité</source>
@@ -137,6 +224,83 @@
     </message>
 </context>
 <context>
+    <name>ListesPubliques</name>
+    <message>
+        <source>Tirage du tour %1</source>
+        <translation>Sorteo de la ronda %1</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Partidas pendientes</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Últimos resultados</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Clasificación</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) inscrite(s)</source>
+        <translation>
+            <numerusform>%n equipo inscrito</numerusform>
+            <numerusform>%n equipos inscritos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Concours terminé</source>
+        <translation>Concurso terminado</translation>
+    </message>
+    <message>
+        <source>Tour %1 / %2</source>
+        <translation>Ronda %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>, manque %n résultat(s)</source>
+        <translation>
+            <numerusform>, falta %n resultado</numerusform>
+            <numerusform>, faltan %n resultados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, complet</source>
+        <translation>, completa</translation>
+    </message>
+    <message>
+        <source>Dernier résultat : %1 bat %2</source>
+        <translation>Último resultado: %1 gana a %2</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>exenta</translation>
+    </message>
+    <message>
+        <source>Lancées</source>
+        <translation>Empezadas</translation>
+    </message>
+    <message>
+        <source>Pas encore lancées</source>
+        <translation>Aún no empezadas</translation>
+    </message>
+    <message>
+        <source>Equ.</source>
+        <translation>Equ.</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>+/−</source>
+        <translation>+/−</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
@@ -149,6 +313,10 @@
     <message>
         <source>&amp;Rapport du tirage</source>
         <translation>&amp;Informe del sorteo</translation>
+    </message>
+    <message>
+        <source>&amp;Affichage public</source>
+        <translation>&amp;Pantalla pública</translation>
     </message>
 </context>
 <context>
@@ -455,6 +623,29 @@
     <message>
         <source>Score</source>
         <translation>Tanteo</translation>
+    </message>
+</context>
+<context>
+    <name>VuePublique</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Chronomètre</source>
+        <translation>Cronómetro</translation>
+    </message>
+    <message>
+        <source>Alarme dans</source>
+        <translation>Alarma en</translation>
+    </message>
+    <message>
+        <source>Alarme</source>
+        <translation>Alarma</translation>
+    </message>
+    <message>
+        <source>Affichage public</source>
+        <translation>Pantalla pública</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="fr_FR">
 <context>
+    <name>ListesPubliques</name>
+    <message numerus="yes">
+        <source>%n équipe(s) inscrite(s)</source>
+        <translation>
+            <numerusform>%n équipe inscrite</numerusform>
+            <numerusform>%n équipes inscrites</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>, manque %n résultat(s)</source>
+        <translation>
+            <numerusform>, manque %n résultat</numerusform>
+            <numerusform>, manque %n résultats</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MotsCopies</name>
     <message numerus="yes">
         <source>%n concours de plus</source>

@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="fr_FR">
 <context>
+    <name>AffichagePublic</name>
+    <message>
+        <source>Affichage public</source>
+        <translation>Schermo pubblico</translation>
+    </message>
+    <message>
+        <source>Pages qui tournent</source>
+        <translation>Pagine che si alternano</translation>
+    </message>
+    <message>
+        <source>Tirage du tour</source>
+        <translation>Sorteggio del turno</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Partite attese</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Ultimi risultati</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Classifica</translation>
+    </message>
+    <message>
+        <source>Horloge, chronomètre et alarme</source>
+        <translation>Orologio, cronometro e sveglia</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page</source>
+        <translation>Durata di una pagina</translation>
+    </message>
+    <message>
+        <source> secondes</source>
+        <translation> secondi</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page, en secondes</source>
+        <translation>Durata di una pagina, in secondi</translation>
+    </message>
+    <message>
+        <source>Ecran</source>
+        <translation>Schermo</translation>
+    </message>
+    <message>
+        <source>Plein écran (F11)</source>
+        <translation>Schermo intero (F11)</translation>
+    </message>
+    <message>
+        <source>Fond sombre</source>
+        <translation>Sfondo scuro</translation>
+    </message>
+    <message>
+        <source>Afficher</source>
+        <translation>Mostra</translation>
+    </message>
+    <message>
+        <source>Pause (F12)</source>
+        <translation>Pausa (F12)</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Pagina seguente</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Ecran %1</source>
+        <translation>Schermo %1</translation>
+    </message>
+    <message>
+        <source>L&apos;affichage tourne seul sur l&apos;autre écran pendant que vous travaillez ici.</source>
+        <translation>Lo schermo pubblico scorre da solo sull&apos;altro monitor mentre lavorate qui.</translation>
+    </message>
+    <message>
+        <source>Un seul écran est branché : l&apos;affichage s&apos;ouvre dans une fenêtre ordinaire.</source>
+        <translation>È collegato un solo monitor: lo schermo pubblico si apre in una finestra normale.</translation>
+    </message>
+    <message>
+        <source>Cacher</source>
+        <translation>Nascondi</translation>
+    </message>
+</context>
+<context>
     <name>CopiesSecurite</name>
     <message>
         <source>Copies de sécurité</source>
@@ -137,6 +224,83 @@
     </message>
 </context>
 <context>
+    <name>ListesPubliques</name>
+    <message>
+        <source>Tirage du tour %1</source>
+        <translation>Sorteggio del turno %1</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Partite attese</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Ultimi risultati</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Classifica</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) inscrite(s)</source>
+        <translation>
+            <numerusform>%n squadra iscritta</numerusform>
+            <numerusform>%n squadre iscritte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Concours terminé</source>
+        <translation>Gara terminata</translation>
+    </message>
+    <message>
+        <source>Tour %1 / %2</source>
+        <translation>Turno %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>, manque %n résultat(s)</source>
+        <translation>
+            <numerusform>, manca %n risultato</numerusform>
+            <numerusform>, mancano %n risultati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, complet</source>
+        <translation>, completo</translation>
+    </message>
+    <message>
+        <source>Dernier résultat : %1 bat %2</source>
+        <translation>Ultimo risultato: %1 batte %2</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>riposa</translation>
+    </message>
+    <message>
+        <source>Lancées</source>
+        <translation>Iniziate</translation>
+    </message>
+    <message>
+        <source>Pas encore lancées</source>
+        <translation>Non ancora iniziate</translation>
+    </message>
+    <message>
+        <source>Equ.</source>
+        <translation>Sq.</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Società</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>+/−</source>
+        <translation>+/−</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
@@ -149,6 +313,10 @@
     <message>
         <source>&amp;Rapport du tirage</source>
         <translation>&amp;Rapporto del sorteggio</translation>
+    </message>
+    <message>
+        <source>&amp;Affichage public</source>
+        <translation>&amp;Schermo pubblico</translation>
     </message>
 </context>
 <context>
@@ -455,6 +623,29 @@
     <message>
         <source>Score</source>
         <translation>Punteggio</translation>
+    </message>
+</context>
+<context>
+    <name>VuePublique</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Chronomètre</source>
+        <translation>Cronometro</translation>
+    </message>
+    <message>
+        <source>Alarme dans</source>
+        <translation>Sveglia tra</translation>
+    </message>
+    <message>
+        <source>Alarme</source>
+        <translation>Sveglia</translation>
+    </message>
+    <message>
+        <source>Affichage public</source>
+        <translation>Schermo pubblico</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,93 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="fr_FR">
 <context>
+    <name>AffichagePublic</name>
+    <message>
+        <source>Affichage public</source>
+        <translation>Openbaar scherm</translation>
+    </message>
+    <message>
+        <source>Pages qui tournent</source>
+        <translation>Wisselende pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>Tirage du tour</source>
+        <translation>Loting van de ronde</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Verwachte partijen</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Laatste uitslagen</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Klassement</translation>
+    </message>
+    <message>
+        <source>Horloge, chronomètre et alarme</source>
+        <translation>Klok, stopwatch en alarm</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page</source>
+        <translation>Duur van een pagina</translation>
+    </message>
+    <message>
+        <source> secondes</source>
+        <translation> seconden</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;une page, en secondes</source>
+        <translation>Duur van een pagina, in seconden</translation>
+    </message>
+    <message>
+        <source>Ecran</source>
+        <translation>Scherm</translation>
+    </message>
+    <message>
+        <source>Plein écran (F11)</source>
+        <translation>Volledig scherm (F11)</translation>
+    </message>
+    <message>
+        <source>Fond sombre</source>
+        <translation>Donkere achtergrond</translation>
+    </message>
+    <message>
+        <source>Afficher</source>
+        <translation>Tonen</translation>
+    </message>
+    <message>
+        <source>Pause (F12)</source>
+        <translation>Pauze (F12)</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Volgende pagina</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Ecran %1</source>
+        <translation>Scherm %1</translation>
+    </message>
+    <message>
+        <source>L&apos;affichage tourne seul sur l&apos;autre écran pendant que vous travaillez ici.</source>
+        <translation>Het openbare scherm loopt vanzelf op het andere beeldscherm terwijl u hier werkt.</translation>
+    </message>
+    <message>
+        <source>Un seul écran est branché : l&apos;affichage s&apos;ouvre dans une fenêtre ordinaire.</source>
+        <translation>Er is maar één beeldscherm aangesloten: het openbare scherm opent in een gewoon venster.</translation>
+    </message>
+    <message>
+        <source>Cacher</source>
+        <translation>Verbergen</translation>
+    </message>
+</context>
+<context>
     <name>CopiesSecurite</name>
     <message>
         <source>Copies de sécurité</source>
@@ -137,6 +224,83 @@
     </message>
 </context>
 <context>
+    <name>ListesPubliques</name>
+    <message>
+        <source>Tirage du tour %1</source>
+        <translation>Loting van ronde %1</translation>
+    </message>
+    <message>
+        <source>Rencontres attendues</source>
+        <translation>Verwachte partijen</translation>
+    </message>
+    <message>
+        <source>Derniers résultats</source>
+        <translation>Laatste uitslagen</translation>
+    </message>
+    <message>
+        <source>Classement</source>
+        <translation>Klassement</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s) inscrite(s)</source>
+        <translation>
+            <numerusform>%n team ingeschreven</numerusform>
+            <numerusform>%n teams ingeschreven</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Concours terminé</source>
+        <translation>Wedstrijd afgelopen</translation>
+    </message>
+    <message>
+        <source>Tour %1 / %2</source>
+        <translation>Ronde %1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>, manque %n résultat(s)</source>
+        <translation>
+            <numerusform>, %n uitslag ontbreekt</numerusform>
+            <numerusform>, %n uitslagen ontbreken</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, complet</source>
+        <translation>, volledig</translation>
+    </message>
+    <message>
+        <source>Dernier résultat : %1 bat %2</source>
+        <translation>Laatste uitslag: %1 wint van %2</translation>
+    </message>
+    <message>
+        <source>exempte</source>
+        <translation>vrij</translation>
+    </message>
+    <message>
+        <source>Lancées</source>
+        <translation>Begonnen</translation>
+    </message>
+    <message>
+        <source>Pas encore lancées</source>
+        <translation>Nog niet begonnen</translation>
+    </message>
+    <message>
+        <source>Equ.</source>
+        <translation>Team</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>+/−</source>
+        <translation>+/−</translation>
+    </message>
+</context>
+<context>
     <name>MenuOutils</name>
     <message>
         <source>&amp;Outils</source>
@@ -149,6 +313,10 @@
     <message>
         <source>&amp;Rapport du tirage</source>
         <translation>&amp;Verslag van de loting</translation>
+    </message>
+    <message>
+        <source>&amp;Affichage public</source>
+        <translation>Openbaar &amp;scherm</translation>
     </message>
 </context>
 <context>
@@ -455,6 +623,29 @@
     <message>
         <source>Score</source>
         <translation>Score</translation>
+    </message>
+</context>
+<context>
+    <name>VuePublique</name>
+    <message>
+        <source>Pause</source>
+        <translation>Pauze</translation>
+    </message>
+    <message>
+        <source>Chronomètre</source>
+        <translation>Stopwatch</translation>
+    </message>
+    <message>
+        <source>Alarme dans</source>
+        <translation>Alarm over</translation>
+    </message>
+    <message>
+        <source>Alarme</source>
+        <translation>Alarm</translation>
+    </message>
+    <message>
+        <source>Affichage public</source>
+        <translation>Openbaar scherm</translation>
     </message>
 </context>
 </TS>
