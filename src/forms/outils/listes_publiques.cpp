@@ -81,8 +81,7 @@ QString ListesPubliques::dernierResultat(const Partage &partage, const EtatPubli
     const QString phrase = tr("Dernier résultat : %1 bat %2").arg(gagnante).arg(perdante);
     if (premier.isEmpty())
         return phrase;
-    return phrase + u", "_qs
-        + (dernier.premiereGagne() ? premier + tiret + second : second + tiret + premier);
+    return phrase + u", "_qs + (dernier.premiereGagne() ? premier + tiret + second : second + tiret + premier);
 }
 
 namespace {
@@ -99,8 +98,11 @@ ListePublique tirage(const EtatPublic &etat, const QString &exempte)
             liste.lignes.push_back(
                 {{numero(rencontre.equipe1), club(etat, rencontre.equipe1), {}, {}, {exempte, false, Encre::Normale}}});
         else
-            liste.lignes.push_back({{numero(rencontre.equipe1), club(etat, rencontre.equipe1), {tiret},
-                                     numero(rencontre.equipe2), club(etat, rencontre.equipe2)}});
+            liste.lignes.push_back({{numero(rencontre.equipe1),
+                                     club(etat, rencontre.equipe1),
+                                     {tiret},
+                                     numero(rencontre.equipe2),
+                                     club(etat, rencontre.equipe2)}});
     }
     return liste;
 }

@@ -179,7 +179,8 @@ void VuePublique::elargit(Mise &mise, const std::vector<double> &entieres) const
     mise.largeur += part * manque;
 }
 
-/// Title, lists, widths and pages, all anew. A kind of page that has nothing to show is left out; the clock stands in for all.
+/// Title, lists, widths and pages, all anew. A kind of page that has nothing to show is left out; the clock stands in
+/// for all.
 void VuePublique::remet()
 {
     setWindowTitle(tr("Affichage public"));
@@ -256,8 +257,8 @@ void VuePublique::composeTete()
     const double voulue = largeurTexte(drapeau, true) * tailleDrapeau * u + 2 * marge * u;
     const double largeurDrapeau = drapeau.isEmpty() ? 0 : std::min(voulue, tete.width() * 0.48);
     m_drapeau = {tete.right() - largeurHeure - largeurDrapeau, tete.top(), largeurDrapeau, tete.height()};
-    pose(m_drapeau.adjusted(marge * u / 2, 0, -marge * u / 2, 0), drapeau, tailleDrapeau * u, m_theme->encreDrapeau, true,
-         Qt::AlignHCenter);
+    pose(m_drapeau.adjusted(marge * u / 2, 0, -marge * u / 2, 0), drapeau, tailleDrapeau * u, m_theme->encreDrapeau,
+         true, Qt::AlignHCenter);
     const QRectF titre(tete.topLeft(), QSizeF(m_drapeau.left() - tete.left() - marge * u, tete.height()));
     pose(titre, ListesPubliques::titre(m_etat, feuillet.genre), tailleTitre * u, m_theme->accent, true);
     if (avecHeure)
@@ -274,8 +275,8 @@ void VuePublique::composePied()
     if (m_carrousel.enPause())
         page = page.isEmpty() ? tr("Pause") : page + u" – "_qs + tr("Pause");
     const double gauche = pied.width() * 0.7;
-    pose({pied.topLeft(), QSizeF(gauche, pied.height())},
-         ListesPubliques::dernierResultat(m_contexte.partage, m_etat), taillePied * u, m_theme->discrete);
+    pose({pied.topLeft(), QSizeF(gauche, pied.height())}, ListesPubliques::dernierResultat(m_contexte.partage, m_etat),
+         taillePied * u, m_theme->discrete);
     pose({pied.left() + gauche, pied.top(), pied.width() - gauche, pied.height()}, page, taillePied * u,
          m_theme->discrete, true, Qt::AlignRight);
 }
@@ -289,8 +290,7 @@ void VuePublique::composeListe()
     const QRectF place = corps();
     const double pas = colonnes.lettre * MiseEnColonnes::interligne;
     const double largeur = mise.largeur * colonnes.lettre;
-    const double pasColonne =
-        colonnes.colonnes < 2
+    const double pasColonne = colonnes.colonnes < 2
         ? 0
         : std::min((place.width() - largeur) / (colonnes.colonnes - 1), largeur + ecartListes * colonnes.lettre);
     const double bord = place.left() + (place.width() - largeur - pasColonne * (colonnes.colonnes - 1)) / 2;
