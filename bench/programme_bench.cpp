@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QTableView>
 
 // What the operator waits for: the store, the forms and the disk included.
 
@@ -100,6 +101,33 @@ BENCHMARK(CalculClassement)
     ->Args({4000, 8, 150})
     ->Args({10000, 8, 0})
     ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+/// The sums of a season, from its rows to the list painted.
+void SommesSaison(benchmark::State &etat)
+{
+    limite(etat, 500);
+    ProgrammePilote prog;
+    prog.demarre();
+    const essai::Concours &joue = concoursJoue(int(etat.range(1)), 7);
+    for (int fois = 0; fois < etat.range(0); ++fois)
+        poseRencontres(prog.base(), poseConcours(prog.base(), {.equipes = joue.equipes()}), joue.rencontres());
+    for ([[maybe_unused]] auto _ : etat) {
+        prog.menu(u"mnu_Saison"_qs)->trigger();
+        QApplication::processEvents();
+        etat.PauseTiming();
+        if (prog.controle<QTableView>(u"Saison"_qs, u"Lignes"_qs)->model()->rowCount() == 0)
+            etat.SkipWithError("the list is empty");
+        prog.formulaires().Decharge(NomForme(u"Saison"));
+        QApplication::processEvents();
+        etat.ResumeTiming();
+    }
+}
+BENCHMARK(SommesSaison)
+    ->ArgNames({"concours", "equipes"})
+    ->Args({40, 128})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(5)
     ->UseRealTime();
 
 /// A safety copy of a season's base, on the disk.

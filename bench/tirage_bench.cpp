@@ -1,4 +1,5 @@
 #include "concours_bench.h"
+#include "engine/rapport_tirage.h"
 #include "mesure.h"
 
 #include "engine/classement.h"
@@ -66,6 +67,49 @@ BENCHMARK(Classement)
     ->Args({4000, 8})
     ->Args({10000, 8})
     ->Unit(benchmark::kMillisecond);
+
+/// The report of a round: its matches, and what each level could have at least.
+void RapportDuTour(benchmark::State &etat)
+{
+    limite(etat, double(etat.range(2)));
+    essai::Concours &concours = concoursJoue(int(etat.range(0)), int(etat.range(1)));
+    const std::vector<moteur::Partie> parties = concours.rencontres();
+    QHash<int, QString> clubs;
+    for (const moteur::EquipeInscrite &equipe : concours.equipes())
+        clubs.insert(equipe.equipe, equipe.club);
+    for ([[maybe_unused]] auto _ : etat) {
+        moteur::RapportTour rapport = moteur::etablitRapport(parties, int(etat.range(1)), clubs);
+        moteur::calculeMinimums(rapport, parties, clubs);
+        benchmark::DoNotOptimize(rapport);
+    }
+}
+BENCHMARK(RapportDuTour)
+    ->ArgNames({"equipes", "tour", ""})
+    ->Args({128, 2, 0})
+    ->Args({1000, 1, 1000})
+    ->Args({1000, 2, 1000})
+    ->Args({1000, 5, 1000})
+    ->Unit(benchmark::kMillisecond);
+
+/// The largest graph that a level can have: some clubs share all teams, and the draw heeds none of them.
+void RapportPeuDeClubs(benchmark::State &etat)
+{
+    limite(etat, 1000);
+    constexpr int equipes = 1000;
+    std::vector<moteur::Partie> parties;
+    QHash<int, QString> clubs;
+    for (int equipe = 1; equipe <= equipes; ++equipe) {
+        clubs.insert(equipe, u"Club %1"_qs.arg((equipe - 1) / 2 % etat.range(0)));
+        if (equipe % 2 == 0)
+            parties.push_back({.tour = 1, .rencontre = equipe / 2, .equipe1 = equipe - 1, .equipe2 = equipe});
+    }
+    for ([[maybe_unused]] auto _ : etat) {
+        moteur::RapportTour rapport = moteur::etablitRapport(parties, 1, clubs);
+        moteur::calculeMinimums(rapport, parties, clubs);
+        benchmark::DoNotOptimize(rapport);
+    }
+}
+BENCHMARK(RapportPeuDeClubs)->ArgName("clubs")->Arg(2)->Arg(3)->Arg(40)->Unit(benchmark::kMillisecond);
 
 void TirageTour1(benchmark::State &etat)
 {

@@ -53,6 +53,7 @@ forme impression impression-tirage
 forme palmares palmares-noms
 forme feuille-equipe feuille-equipe
 forme outils outils
+forme saison saison-clubs
 forme langues francais-langues
 forme panachees boite-panachees
 forme retardataire boite-retardataire

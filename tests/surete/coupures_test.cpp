@@ -1,11 +1,14 @@
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
+#include "commun/concours_en_base.h"
+#include "engine/routines_rapport.h"
 #include "garde/reprise.h"
 #include "garde/restauration.h"
 #include "garde/sauvegarde.h"
 #include "journee.h"
 #include "panne_systeme.h"
 #include "partage/base.h"
+#include "partage/concours_courant.h"
 
 #include <gtest/gtest.h>
 
@@ -18,6 +21,7 @@
 #include <csignal>
 #include <iostream>
 #include <random>
+#include <set>
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -467,4 +471,86 @@ TEST_F(Coupures, ARestorationCutAtAnyCallLeavesOneOfTheTwoBasesWhole)
     }
     EXPECT_GT(anciennes, 40);
     EXPECT_GT(nouvelles, 4);
+}
+
+/// Killed, torn or refused at any call, a round that is drawn anew is the old one or the new one.
+TEST_F(Coupures, ARoundDrawnAnewAndCutAtAnyCallIsTheOldOneOrTheNewOne)
+{
+    const BaseEssai base;
+    AleaFixe alea{1};
+    Horloge horloge;
+    std::vector<moteur::EquipeInscrite> equipes;
+    std::vector<moteur::Partie> parties;
+    for (int equipe = 1; equipe <= 16; ++equipe) {
+        equipes.push_back({equipe, u"Club %1"_qs.arg(equipe % 5)});
+        if (equipe % 2 == 0) {
+            parties.push_back({.tour = 1,
+                               .rencontre = equipe / 2,
+                               .equipe1 = equipe - 1,
+                               .equipe2 = equipe,
+                               .score1 = 13,
+                               .score2 = equipe % 12});
+            parties.push_back({.tour = 2, .equipe1 = equipe - 1, .equipe2 = equipe});
+        }
+    }
+    const auto ouvre = [&](Partage &partage) {
+        partage.EspaceTravail = &partage.moteurBase.Workspaces(0);
+        partage.BaseDonnees = base.ouvre();
+        partage.ConcoursCourant = 1;
+        ChargeConcours(partage, partage.ConcoursCourant);
+    };
+    QStringList ancien;
+    QStringList nouveau;
+    std::vector<moteur::Partie> propose;
+    {
+        store::Database ouverte = base.ouvre();
+        ASSERT_EQ(poseConcours(ouverte, {.equipes = equipes}), 1);
+        poseRencontres(ouverte, 1, parties);
+    }
+    std::erase_if(parties, [](const moteur::Partie &partie) { return partie.tour == 1; });
+    {
+        Partage partage(base.dossier(), alea, horloge);
+        ouvre(partage);
+        propose = ProposeTour(partage, 2).parties;
+        RemplaceTour(partage, propose);
+        nouveau = Contenu(partage.BaseDonnees.native());
+    }
+    std::set<QStringList> trouves;
+    for (const Genre genre : {Genre::Mort, Genre::Dechirure, Genre::Refus, Genre::Plein}) {
+        int fin = 1;
+        for (int apres = 0; fin != toutVaBien; ++apres) {
+            {
+                Partage partage(base.dossier(), alea, horloge);
+                ouvre(partage);
+                RemplaceTour(partage, parties);
+                ancien = Contenu(partage.BaseDonnees.native());
+                ASSERT_NE(ancien, nouveau);
+            }
+            const pid_t enfant = fork();
+            if (enfant == 0) {
+                Partage partage(base.dossier(), alea, horloge);
+                ouvre(partage);
+                panne::arme(genre, apres, genre == Genre::Plein ? 1000 : 1);
+                try {
+                    RemplaceTour(partage, propose);
+                } catch (const store::Erreur &) {
+                    panne::desarme();
+                    _exit(2);
+                }
+                _exit(panne::desarme() ? 2 : toutVaBien);
+            }
+            int statut = 0;
+            waitpid(enfant, &statut, 0);
+            fin = WIFEXITED(statut) ? WEXITSTATUS(statut) : 1;
+            SCOPED_TRACE(testing::Message() << "kind " << int(genre) << ", call " << apres);
+            ASSERT_LT(apres, 500);
+            Partage partage(base.dossier(), alea, horloge);
+            ouvre(partage);
+            const QStringList trouve = Contenu(partage.BaseDonnees.native());
+            ASSERT_TRUE(trouve == ancien || trouve == nouveau);
+            trouves.insert(trouve);
+        }
+        EXPECT_EQ(fin, toutVaBien);
+    }
+    EXPECT_EQ(trouves.size(), 2U);
 }

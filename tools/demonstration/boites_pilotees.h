@@ -24,6 +24,7 @@ enum class Boite {
     Importation,
     EquipeImportee,
     MeilleurTirage,
+    ListeExportee,
     Copie,
     Suppression,
     CopieFaite,

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTabBar>
+#include <QTableView>
 
 namespace demonstration {
 
@@ -15,13 +17,23 @@ const QString dialogue = u"I_tirage"_qs;
 const QString liste = u"palmares"_qs;
 const QString feuilles = u"Resusoc"_qs;
 const QString rapportTirage = u"RapportTirage"_qs;
+const QString sommes = u"Saison"_qs;
+const QString fichierSommes = u"saison-clubs.csv"_qs;
 
 } // namespace
 
 QStringList Impressions::fichiers()
 {
-    return {u"rapport.pdf"_qs,           u"fiches.pdf"_qs,   u"tirage-tour1.pdf"_qs,    u"classement.pdf"_qs,
-            u"classement-detail.pdf"_qs, u"palmares.pdf"_qs, u"palmares-detail.pdf"_qs, u"equipe-club.pdf"_qs};
+    return {u"rapport.pdf"_qs,
+            u"fiches.pdf"_qs,
+            u"tirage-tour1.pdf"_qs,
+            u"classement.pdf"_qs,
+            u"classement-detail.pdf"_qs,
+            u"palmares.pdf"_qs,
+            u"palmares-detail.pdf"_qs,
+            u"equipe-club.pdf"_qs,
+            u"saison.pdf"_qs,
+            fichierSommes};
 }
 
 void Impressions::ouvre(const QString &option)
@@ -120,6 +132,25 @@ void Impressions::club(const QString &fichier)
     imprime(feuilles, u"imprimer"_qs, fichier);
     ferme(feuilles);
     ferme(liste);
+}
+
+void Impressions::saison()
+{
+    m_main.menu(u"mnu_Saison"_qs)->trigger();
+    m_main.exigeFocus(sommes, u"Lignes"_qs);
+    auto *lignes = m_main.controle<QTableView>(sommes, u"Lignes"_qs);
+    exige(lignes->model()->rowCount() > 0, u"La saison ne montre aucun club."_qs);
+    m_photographe.prend(u"saison-clubs", *m_main.fenetre(sommes));
+    imprime(sommes, u"Imprimer"_qs, u"saison.pdf"_qs);
+    const QString chemin = QDir(m_dossier).filePath(fichierSommes);
+    m_boites.choisit(chemin);
+    m_main.clique(m_main.controle(sommes, u"Exporter"_qs));
+    exige(m_boites.fois(Boite::ListeExportee) == 1 && QFileInfo(chemin).size() > 0,
+          u"La liste des clubs n'est pas sortie."_qs);
+    m_main.controle<QTabBar>(sommes, u"Vue"_qs)->setCurrentIndex(1);
+    exige(lignes->model()->rowCount() > 0, u"La saison ne montre aucune licence."_qs);
+    m_photographe.prend(u"saison-licences", *m_main.fenetre(sommes));
+    m_main.clique(m_main.controle(sommes, u"Fermer"_qs));
 }
 
 } // namespace demonstration

@@ -26,6 +26,9 @@ public:
     /// Sheet of a club of the first match in the honours list, or of its first team when both clubs are mixed.
     void club(const QString &fichier);
 
+    /// The sums of the season, on paper and in a file for a spreadsheet.
+    void saison();
+
     /// Names of all documents that a day can leave.
     static QStringList fichiers();
 

@@ -46,6 +46,8 @@ void Journee::joue()
     m_impressions.classement(u"classement-detail.pdf"_qs, true);
     m_impressions.palmares(u"palmares.pdf"_qs, u"palmares-detail.pdf"_qs);
     m_impressions.club(u"equipe-club.pdf"_qs);
+    m_impressions.saison();
+    m_resultats.ouvre();
     m_registre.choisitEquipe();
     m_registre.copieEtSupprime();
     m_outils.essaie();
@@ -71,6 +73,7 @@ void Journee::prevoitBoites()
     m_boites.attend(Boite::Retardataire, mes(126), ReponseBoite::Oui, u"boite-retardataire");
     m_boites.attend(Boite::MemeClub, u"deux équipes d'un même club"_qs, ReponseBoite::OK, u"boite-meme-club");
     m_boites.attend(Boite::MeilleurTirage, u"Le mettre à la place ?"_qs, ReponseBoite::Oui, u"boite-meilleur-tirage");
+    m_boites.attend(Boite::ListeExportee, u"La liste est dans"_qs, ReponseBoite::OK, u"boite-exportee");
     m_boites.attend(Boite::Copie, u"Concours dupliqué sous le numéro"_qs, ReponseBoite::OK, u"boite-copie");
     m_boites.attend(Boite::Suppression, mes(96), ReponseBoite::Oui, u"boite-suppression");
     m_boites.attend(Boite::DejaRencontrees, u"deux équipes se sont déjà rencontrées"_qs, ReponseBoite::OK,

@@ -26,7 +26,8 @@ const QString formes[] = {u"Accueil"_qs,    u"Econcours"_qs,      u"Eequipes"_qs
                           u"Listesoc"_qs,   u"Listco"_qs,         u"listeq"_qs,        u"listjo"_qs,
                           u"EResultats"_qs, u"manqres"_qs,        u"valresu"_qs,       u"Groupes"_qs,
                           u"I_tirage"_qs,   u"palmares"_qs,       u"Resusoc"_qs,       u"FrmHorloge"_qs,
-                          u"langues"_qs,    u"CopiesSecurite"_qs, u"RapportTirage"_qs, u"AffichagePublic"_qs};
+                          u"langues"_qs,    u"CopiesSecurite"_qs, u"RapportTirage"_qs, u"AffichagePublic"_qs,
+                          u"Saison"_qs};
 const QString mobiles[] = {u"EResultats"_qs, u"manqres"_qs,  u"Accueil"_qs, u"Listesoc"_qs,
                            u"Resusoc"_qs,    u"Listco"_qs,   u"listjo"_qs,  u"Eequipes"_qs,
                            u"Econcours"_qs,  u"Ejoueurs"_qs, u"listeq"_qs};

@@ -205,10 +205,12 @@ Saison LitSaison(store::Database &base, const FiltreSaison &filtre)
 {
     Saison saison;
     Releve releve;
-    Lecture lecteurMembres(base, u"select concours, equipe, nom, prenom, licence, societe from equipes "
-                                 u"order by concours, equipe, doublon"_qs);
-    Lecture lecteurParties(base, u"select concours, tour, equipe_1, equipe_2, score_1, score_2, repechage from scores "
-                                 u"order by concours, tour, equipe_1, rowid"_qs);
+    Lecture lecteurMembres(base,
+                           u"select concours, equipe, nom, prenom, licence, societe from equipes "
+                           u"order by concours, equipe, doublon"_qs);
+    Lecture lecteurParties(base,
+                           u"select concours, tour, equipe_1, equipe_2, score_1, score_2, repechage from scores "
+                           u"order by concours, tour, equipe_1, rowid"_qs);
     for (donnees::Concours &concours : donnees::ListeConcours(base)) {
         const qint32 numero = concours.numero;
         if (!retenu(concours, filtre))

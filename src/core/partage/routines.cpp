@@ -48,10 +48,15 @@ QString SansApostrophe(QString texte)
     return texte.remove(u'\'');
 }
 
-QString FormateDate(QDate date, const QString &format)
+QString FormatDate(const QString &format)
 {
     QString qt = format.isEmpty() ? u"dd/mm/yyyy"_qs : format.toLower();
-    return date.toString(qt.replace(u'm', u'M'));
+    return qt.replace(u'm', u'M');
+}
+
+QString FormateDate(QDate date, const QString &format)
+{
+    return date.toString(FormatDate(format));
 }
 
 QString FormateDate(const Partage &partage, const store::Valeur &date)

@@ -26,6 +26,8 @@ QString TailleEquipe(int joueurs);
 /// \p texte without its apostrophes.
 QString SansApostrophe(QString texte);
 
+/// A format of d, m and y (message 117, such as dd/mm/yyyy) as the toolkit writes it; day first when it is empty.
+QString FormatDate(const QString &format);
 /// \p date in a format of d, m and y (message 117, such as dd/mm/yyyy); day first when the format is empty. Empty for
 /// an invalid date.
 QString FormateDate(QDate date, const QString &format);

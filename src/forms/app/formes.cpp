@@ -8,6 +8,7 @@
 #include "outils/affichage_public.h"
 #include "outils/copies_securite.h"
 #include "outils/rapport_tirage.h"
+#include "outils/saison.h"
 #include "printing/i_tirage.h"
 #include "printing/palmares.h"
 #include "printing/resusoc.h"
@@ -62,6 +63,7 @@ constexpr LigneForme table[] = {
     {formes::CopiesSecurite,  fabrique<CopiesSecurite>,  std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 14, 0}},
     {formes::RapportTirage,   fabrique<RapportTirage>,   std::nullopt,    Rien,   { 0, 0, 0,  0,  0, 15, 0}},
     {formes::AffichagePublic, fabrique<AffichagePublic>, std::nullopt,    Rien,   {}},
+    {formes::Saison,          fabrique<FormeSaison>,     std::nullopt,    Rien,   {}},
     {nomAlerte,               fabrique<Alerte>,          std::nullopt,    Rien,   {}},
 };
 // clang-format on

@@ -26,6 +26,7 @@ inline constexpr NomForme manqres{u"manqres"};
 inline constexpr NomForme palmares{u"palmares"};
 inline constexpr NomForme RapportTirage{u"RapportTirage"};
 inline constexpr NomForme Resusoc{u"Resusoc"};
+inline constexpr NomForme Saison{u"Saison"};
 inline constexpr NomForme valresu{u"valresu"};
 
 } // namespace formes

@@ -12,7 +12,7 @@ namespace {
 struct Entree
 {
     NomForme forme;
-    QKeyCombination touche;
+    QKeySequence touche;
     const char *texte;
 };
 
@@ -23,6 +23,7 @@ const std::vector<Entree> &entrees()
         {formes::RapportTirage, Qt::Key_F7, QT_TRANSLATE_NOOP("MenuOutils", "&Rapport du tirage")},
         {formes::AffichagePublic, Qt::Key_F8, QT_TRANSLATE_NOOP("MenuOutils", "&Affichage public")},
         {formes::CopiesSecurite, Qt::Key_F9, QT_TRANSLATE_NOOP("MenuOutils", "&Copies de sécurité")},
+        {formes::Saison, {}, QT_TRANSLATE_NOOP("MenuOutils", "&Saison")},
     };
     return lignes;
 }

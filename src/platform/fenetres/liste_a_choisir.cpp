@@ -18,7 +18,7 @@ constexpr QSize taille(860, 460);
 
 } // namespace
 
-void appreteListe(QTableWidget &table)
+void appreteListe(QTableView &table)
 {
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setSelectionMode(QAbstractItemView::SingleSelection);

@@ -5,6 +5,7 @@
 #include <optional>
 
 class QPushButton;
+class QTableView;
 class QTableWidget;
 struct BoiteListe;
 
@@ -28,7 +29,7 @@ private:
 
 /// Makes \p table a list to choose a row from: whole rows, nothing to edit, heads as wide as their contents, rows high
 /// enough for a finger.
-void appreteListe(QTableWidget &table);
+void appreteListe(QTableView &table);
 
 /// Puts \p textes into the cells of a row, from the first column on; numbers stand under each other.
 void ecritLigne(QTableWidget &table, int ligne, const QStringList &textes);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <set>
 
 using moteur::NiveauRapporte;
@@ -148,6 +149,41 @@ TEST(RapportTirage, EveryMatchIsToldAsTheRowsTellItAndNoPairingHasFewerDefects)
     }
     for (const char *attendu : {"remontée", "répétition évitable", "répétition forcée", "club évitable", "club forcé"})
         EXPECT_GT(vus[QString::fromUtf8(attendu)], 0) << attendu;
+}
+
+/// Nobody wins, so that all stand on one level: in its last rounds hardly a pair is left that has not met.
+TEST(RapportTirage, TheLeastIsExactWhereHardlyAnyPairIsLeft)
+{
+    int reste = 0;
+    for (quint32 graine = 1; graine <= 200; ++graine) {
+        SCOPED_TRACE(graine);
+        std::mt19937 sort(graine);
+        const int nombre = graine % 2 == 0 ? 8 : 10;
+        std::vector<int> equipes(std::size_t(nombre), 0);
+        std::iota(equipes.begin(), equipes.end(), 1);
+        QHash<int, QString> clubsDesEquipes;
+        for (const int equipe : equipes)
+            clubsDesEquipes.insert(equipe, u"Club %1"_qs.arg(sort() % 5));
+        std::vector<Partie> parties;
+        const int dernier = nombre + int(graine % 3);
+        for (int tour = 1; tour <= dernier; ++tour) {
+            std::ranges::shuffle(equipes, sort);
+            for (std::size_t i = 0; i < equipes.size(); i += 2)
+                parties.push_back(
+                    {.tour = tour, .equipe1 = equipes[i], .equipe2 = equipes[i + 1], .score1 = 5, .score2 = 5});
+        }
+        const SurPapier papier(parties, dernier, clubsDesEquipes);
+        RapportTour rapport = moteur::etablitRapport(parties, dernier, clubsDesEquipes);
+        moteur::calculeMinimums(rapport, parties, clubsDesEquipes);
+        ASSERT_EQ(rapport.niveaux.size(), 1U);
+        Moindres moindres;
+        essaieTout(equipes, papier, 0, 0, 0, moindres);
+        const NiveauRapporte &niveau = rapport.niveaux.front();
+        EXPECT_EQ(niveau.repetitionsAuMoins, niveau.repetitions > 0 ? moindres.repetitions : 0);
+        EXPECT_EQ(niveau.defautsAuMoins, niveau.defauts > 0 ? moindres.defauts : 0);
+        reste += niveau.defautsAuMoins > 0 && niveau.defautsAuMoins < niveau.defauts;
+    }
+    EXPECT_GT(reste, 10);
 }
 
 TEST(RapportTirage, ASecondByeIsTold)

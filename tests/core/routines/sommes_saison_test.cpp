@@ -64,8 +64,8 @@ std::map<QString, Somme> reckoned(store::Database &base, bool parLicence, const 
         const qint64 concours = liste[u"concours"].entier();
         bool complet = true;
         const std::map<qint64, Bilan> equipes = bilans(base, concours, complet);
-        store::Recordset membres = base.OpenRecordset(
-            u"select * from equipes where concours = %1 order by equipe, doublon"_qs.arg(concours));
+        store::Recordset membres =
+            base.OpenRecordset(u"select * from equipes where concours = %1 order by equipe, doublon"_qs.arg(concours));
         for (; !membres.Eof(); membres.MoveNext()) {
             const auto equipe = equipes.find(membres[u"equipe"].entier());
             const QString cle = membres[parLicence ? u"licence" : u"societe"].texte();
@@ -119,14 +119,16 @@ TEST(SommesSaison, ClubsAndLicencesAddUpToWhatTheRowsOfAllCompetitionsTell)
     std::mt19937 sort(5);
     const char *const types[] = {"1 - Doublettes", "2 - Triplettes", "2 - Triples"};
     for (int i = 0; i < 7; ++i) {
-        essai::Concours joue(essai::inscrit(9 + 7 * i, {.clubs = 6, .pourcentPanache = 20, .pourcentSans = 10,
-                                                       .casseMelee = true}, sort),
+        essai::Concours joue(essai::inscrit(9 + 7 * i,
+                                            {.clubs = 6, .pourcentPanache = 20, .pourcentSans = 10, .casseMelee = true},
+                                            sort),
                              i % 2 == 0, quint32(i));
         for (int tour = 0; tour < i; ++tour)
             joue.joueTour({.pourcentMots = 10, .pourcentSansVainqueur = 10});
-        const qint32 numero = poseConcours(base, {.type = QString::fromUtf8(types[i % 3]),
-                                                  .joueurs = i % 3 == 0 ? 2 : 3,
-                                                  .equipes = joue.equipes()});
+        const qint32 numero = poseConcours(base,
+                                           {.type = QString::fromUtf8(types[i % 3]),
+                                            .joueurs = i % 3 == 0 ? 2 : 3,
+                                            .equipes = joue.equipes()});
         poseRencontres(base, numero, joue.rencontres());
         base.Execute(u"update concours set date = '2026-0%1-1%1' where concours = %2"_qs.arg(8 - i).arg(numero));
     }

@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Par rapport à la base</source>
-        <translation>Unterschied</translation>
+        <translation>Gegenüber der Datei in Gebrauch</translation>
     </message>
     <message>
         <source>Concours</source>
@@ -224,6 +224,41 @@
     </message>
 </context>
 <context>
+    <name>FormeSaison</name>
+    <message>
+        <source>Clubs</source>
+        <translation>Vereine</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Lizenzen</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Wettbewerbe</translation>
+    </message>
+    <message>
+        <source>tous</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Saison du %1 au %2</source>
+        <translation>Saison vom %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Exporter la liste</source>
+        <translation>Liste exportieren</translation>
+    </message>
+    <message>
+        <source>La liste est dans %1.</source>
+        <translation>Die Liste ist in %1.</translation>
+    </message>
+    <message>
+        <source>La liste n&apos;a pas pu être écrite : %1</source>
+        <translation>Die Liste konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>ListesPubliques</name>
     <message>
         <source>Tirage du tour %1</source>
@@ -317,6 +352,10 @@
     <message>
         <source>&amp;Affichage public</source>
         <translation>Öffentliche &amp;Anzeige</translation>
+    </message>
+    <message>
+        <source>&amp;Saison</source>
+        <translation>&amp;Saison</translation>
     </message>
 </context>
 <context>
@@ -467,6 +506,112 @@
     <message>
         <source>Résultats</source>
         <translation>Ergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>MotsSaison</name>
+    <message>
+        <source>Concours</source>
+        <translation>Wettbewerbe</translation>
+    </message>
+    <message>
+        <source>Parties</source>
+        <translation>Spiele</translation>
+    </message>
+    <message>
+        <source>Gagnées</source>
+        <translation>Gewonnen</translation>
+    </message>
+    <message>
+        <source>Pour</source>
+        <translation>Erzielt</translation>
+    </message>
+    <message>
+        <source>Contre</source>
+        <translation>Erhalten</translation>
+    </message>
+    <message>
+        <source>Ecart</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Catégorie</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Mannschaften</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Runden</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Verein</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Lizenz</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Name</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n Wettbewerb</numerusform>
+            <numerusform>%n Wettbewerbe</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n Mannschaft</numerusform>
+            <numerusform>%n Mannschaften</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partie(s)</source>
+        <translation>
+            <numerusform>%n Spiel</numerusform>
+            <numerusform>%n Spiele</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s)</source>
+        <translation>
+            <numerusform>%n Verein</numerusform>
+            <numerusform>%n Vereine</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n licence(s)</source>
+        <translation>
+            <numerusform>%n Lizenz</numerusform>
+            <numerusform>%n Lizenzen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>N°</source>
+        <translation>Nr.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +768,61 @@
     <message>
         <source>Score</source>
         <translation>Punkte</translation>
+    </message>
+</context>
+<context>
+    <name>Saison</name>
+    <message>
+        <source>Saison</source>
+        <translation>Saison</translation>
+    </message>
+    <message>
+        <source>Du</source>
+        <translation>Vom</translation>
+    </message>
+    <message>
+        <source>Premier jour</source>
+        <translation>Erster Tag</translation>
+    </message>
+    <message>
+        <source>au</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>Dernier jour</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, concours après concours</source>
+        <translation>Zahl der Mannschaften, Wettbewerb für Wettbewerb</translation>
+    </message>
+    <message>
+        <source>Liste montrée</source>
+        <translation>Gezeigte Liste</translation>
+    </message>
+    <message>
+        <source>Sommes de la saison</source>
+        <translation>Summen der Saison</translation>
+    </message>
+    <message>
+        <source>Copier</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Exporter...</source>
+        <translation>Exportieren...</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

@@ -224,6 +224,41 @@
     </message>
 </context>
 <context>
+    <name>FormeSaison</name>
+    <message>
+        <source>Clubs</source>
+        <translation>Clubs</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Licences</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Competitions</translation>
+    </message>
+    <message>
+        <source>tous</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>Saison du %1 au %2</source>
+        <translation>Season from %1 to %2</translation>
+    </message>
+    <message>
+        <source>Exporter la liste</source>
+        <translation>Export the list</translation>
+    </message>
+    <message>
+        <source>La liste est dans %1.</source>
+        <translation>The list is in %1.</translation>
+    </message>
+    <message>
+        <source>La liste n&apos;a pas pu être écrite : %1</source>
+        <translation>The list could not be written: %1</translation>
+    </message>
+</context>
+<context>
     <name>ListesPubliques</name>
     <message>
         <source>Tirage du tour %1</source>
@@ -317,6 +352,10 @@
     <message>
         <source>&amp;Affichage public</source>
         <translation>&amp;Public display</translation>
+    </message>
+    <message>
+        <source>&amp;Saison</source>
+        <translation>&amp;Season</translation>
     </message>
 </context>
 <context>
@@ -467,6 +506,112 @@
     <message>
         <source>Résultats</source>
         <translation>Results</translation>
+    </message>
+</context>
+<context>
+    <name>MotsSaison</name>
+    <message>
+        <source>Concours</source>
+        <translation>Competitions</translation>
+    </message>
+    <message>
+        <source>Parties</source>
+        <translation>Matches</translation>
+    </message>
+    <message>
+        <source>Gagnées</source>
+        <translation>Won</translation>
+    </message>
+    <message>
+        <source>Pour</source>
+        <translation>For</translation>
+    </message>
+    <message>
+        <source>Contre</source>
+        <translation>Against</translation>
+    </message>
+    <message>
+        <source>Ecart</source>
+        <translation>Difference</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Place</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Catégorie</source>
+        <translation>Category</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Teams</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rounds</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licence</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Name</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n competition</numerusform>
+            <numerusform>%n competitions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n team</numerusform>
+            <numerusform>%n teams</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partie(s)</source>
+        <translation>
+            <numerusform>%n match</numerusform>
+            <numerusform>%n matches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s)</source>
+        <translation>
+            <numerusform>%n club</numerusform>
+            <numerusform>%n clubs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n licence(s)</source>
+        <translation>
+            <numerusform>%n licence</numerusform>
+            <numerusform>%n licences</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>N°</source>
+        <translation>No.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +768,61 @@
     <message>
         <source>Score</source>
         <translation>Score</translation>
+    </message>
+</context>
+<context>
+    <name>Saison</name>
+    <message>
+        <source>Saison</source>
+        <translation>Season</translation>
+    </message>
+    <message>
+        <source>Du</source>
+        <translation>From</translation>
+    </message>
+    <message>
+        <source>Premier jour</source>
+        <translation>First day</translation>
+    </message>
+    <message>
+        <source>au</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Dernier jour</source>
+        <translation>Last day</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, concours après concours</source>
+        <translation>Number of teams, competition by competition</translation>
+    </message>
+    <message>
+        <source>Liste montrée</source>
+        <translation>List shown</translation>
+    </message>
+    <message>
+        <source>Sommes de la saison</source>
+        <translation>Sums of the season</translation>
+    </message>
+    <message>
+        <source>Copier</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Exporter...</source>
+        <translation>Export...</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Close</translation>
     </message>
 </context>
 <context>

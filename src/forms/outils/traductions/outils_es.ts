@@ -224,6 +224,41 @@
     </message>
 </context>
 <context>
+    <name>FormeSaison</name>
+    <message>
+        <source>Clubs</source>
+        <translation>Clubes</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Licencias</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Concursos</translation>
+    </message>
+    <message>
+        <source>tous</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>Saison du %1 au %2</source>
+        <translation>Temporada del %1 al %2</translation>
+    </message>
+    <message>
+        <source>Exporter la liste</source>
+        <translation>Exportar la lista</translation>
+    </message>
+    <message>
+        <source>La liste est dans %1.</source>
+        <translation>La lista está en %1.</translation>
+    </message>
+    <message>
+        <source>La liste n&apos;a pas pu être écrite : %1</source>
+        <translation>No se pudo escribir la lista: %1</translation>
+    </message>
+</context>
+<context>
     <name>ListesPubliques</name>
     <message>
         <source>Tirage du tour %1</source>
@@ -317,6 +352,10 @@
     <message>
         <source>&amp;Affichage public</source>
         <translation>&amp;Pantalla pública</translation>
+    </message>
+    <message>
+        <source>&amp;Saison</source>
+        <translation>&amp;Temporada</translation>
     </message>
 </context>
 <context>
@@ -467,6 +506,112 @@
     <message>
         <source>Résultats</source>
         <translation>Resultados</translation>
+    </message>
+</context>
+<context>
+    <name>MotsSaison</name>
+    <message>
+        <source>Concours</source>
+        <translation>Concursos</translation>
+    </message>
+    <message>
+        <source>Parties</source>
+        <translation>Partidas</translation>
+    </message>
+    <message>
+        <source>Gagnées</source>
+        <translation>Ganadas</translation>
+    </message>
+    <message>
+        <source>Pour</source>
+        <translation>A favor</translation>
+    </message>
+    <message>
+        <source>Contre</source>
+        <translation>En contra</translation>
+    </message>
+    <message>
+        <source>Ecart</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Puesto</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Catégorie</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Equipos</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rondas</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licencia</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Nombre</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n concurso</numerusform>
+            <numerusform>%n concursos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n equipo</numerusform>
+            <numerusform>%n equipos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partie(s)</source>
+        <translation>
+            <numerusform>%n partida</numerusform>
+            <numerusform>%n partidas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s)</source>
+        <translation>
+            <numerusform>%n club</numerusform>
+            <numerusform>%n clubes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n licence(s)</source>
+        <translation>
+            <numerusform>%n licencia</numerusform>
+            <numerusform>%n licencias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>N°</source>
+        <translation>N.º</translation>
     </message>
 </context>
 <context>
@@ -623,6 +768,61 @@
     <message>
         <source>Score</source>
         <translation>Tanteo</translation>
+    </message>
+</context>
+<context>
+    <name>Saison</name>
+    <message>
+        <source>Saison</source>
+        <translation>Temporada</translation>
+    </message>
+    <message>
+        <source>Du</source>
+        <translation>Del</translation>
+    </message>
+    <message>
+        <source>Premier jour</source>
+        <translation>Primer día</translation>
+    </message>
+    <message>
+        <source>au</source>
+        <translation>al</translation>
+    </message>
+    <message>
+        <source>Dernier jour</source>
+        <translation>Último día</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, concours après concours</source>
+        <translation>Número de equipos, concurso por concurso</translation>
+    </message>
+    <message>
+        <source>Liste montrée</source>
+        <translation>Lista mostrada</translation>
+    </message>
+    <message>
+        <source>Sommes de la saison</source>
+        <translation>Sumas de la temporada</translation>
+    </message>
+    <message>
+        <source>Copier</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Exporter...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>

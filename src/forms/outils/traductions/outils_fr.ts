@@ -113,6 +113,44 @@
     </message>
 </context>
 <context>
+    <name>MotsSaison</name>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n concours</numerusform>
+            <numerusform>%n concours</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n équipe</numerusform>
+            <numerusform>%n équipes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partie(s)</source>
+        <translation>
+            <numerusform>%n partie</numerusform>
+            <numerusform>%n parties</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s)</source>
+        <translation>
+            <numerusform>%n club</numerusform>
+            <numerusform>%n clubs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n licence(s)</source>
+        <translation>
+            <numerusform>%n licence</numerusform>
+            <numerusform>%n licences</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RapportTirage</name>
     <message numerus="yes">
         <source>%n rencontre(s) déjà jouée(s)</source>

@@ -224,6 +224,41 @@
     </message>
 </context>
 <context>
+    <name>FormeSaison</name>
+    <message>
+        <source>Clubs</source>
+        <translation>Società</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Tessere</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Gare</translation>
+    </message>
+    <message>
+        <source>tous</source>
+        <translation>tutti</translation>
+    </message>
+    <message>
+        <source>Saison du %1 au %2</source>
+        <translation>Stagione dal %1 al %2</translation>
+    </message>
+    <message>
+        <source>Exporter la liste</source>
+        <translation>Esporta l&apos;elenco</translation>
+    </message>
+    <message>
+        <source>La liste est dans %1.</source>
+        <translation>L&apos;elenco è in %1.</translation>
+    </message>
+    <message>
+        <source>La liste n&apos;a pas pu être écrite : %1</source>
+        <translation>Non è stato possibile scrivere l&apos;elenco: %1</translation>
+    </message>
+</context>
+<context>
     <name>ListesPubliques</name>
     <message>
         <source>Tirage du tour %1</source>
@@ -317,6 +352,10 @@
     <message>
         <source>&amp;Affichage public</source>
         <translation>&amp;Schermo pubblico</translation>
+    </message>
+    <message>
+        <source>&amp;Saison</source>
+        <translation>S&amp;tagione</translation>
     </message>
 </context>
 <context>
@@ -467,6 +506,112 @@
     <message>
         <source>Résultats</source>
         <translation>Risultati</translation>
+    </message>
+</context>
+<context>
+    <name>MotsSaison</name>
+    <message>
+        <source>Concours</source>
+        <translation>Gare</translation>
+    </message>
+    <message>
+        <source>Parties</source>
+        <translation>Partite</translation>
+    </message>
+    <message>
+        <source>Gagnées</source>
+        <translation>Vinte</translation>
+    </message>
+    <message>
+        <source>Pour</source>
+        <translation>Fatti</translation>
+    </message>
+    <message>
+        <source>Contre</source>
+        <translation>Subiti</translation>
+    </message>
+    <message>
+        <source>Ecart</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Posto</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Luogo</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Catégorie</source>
+        <translation>Categoria</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Squadre</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Turni</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Società</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Tessera</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Nome</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n gara</numerusform>
+            <numerusform>%n gare</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n squadra</numerusform>
+            <numerusform>%n squadre</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partie(s)</source>
+        <translation>
+            <numerusform>%n partita</numerusform>
+            <numerusform>%n partite</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s)</source>
+        <translation>
+            <numerusform>%n società</numerusform>
+            <numerusform>%n società</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n licence(s)</source>
+        <translation>
+            <numerusform>%n tessera</numerusform>
+            <numerusform>%n tessere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>N°</source>
+        <translation>N.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +768,61 @@
     <message>
         <source>Score</source>
         <translation>Punteggio</translation>
+    </message>
+</context>
+<context>
+    <name>Saison</name>
+    <message>
+        <source>Saison</source>
+        <translation>Stagione</translation>
+    </message>
+    <message>
+        <source>Du</source>
+        <translation>Dal</translation>
+    </message>
+    <message>
+        <source>Premier jour</source>
+        <translation>Primo giorno</translation>
+    </message>
+    <message>
+        <source>au</source>
+        <translation>al</translation>
+    </message>
+    <message>
+        <source>Dernier jour</source>
+        <translation>Ultimo giorno</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, concours après concours</source>
+        <translation>Numero di squadre, gara per gara</translation>
+    </message>
+    <message>
+        <source>Liste montrée</source>
+        <translation>Elenco mostrato</translation>
+    </message>
+    <message>
+        <source>Sommes de la saison</source>
+        <translation>Somme della stagione</translation>
+    </message>
+    <message>
+        <source>Copier</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Exporter...</source>
+        <translation>Esporta...</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Stampa</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>

@@ -224,6 +224,41 @@
     </message>
 </context>
 <context>
+    <name>FormeSaison</name>
+    <message>
+        <source>Clubs</source>
+        <translation>Clubs</translation>
+    </message>
+    <message>
+        <source>Licences</source>
+        <translation>Licenties</translation>
+    </message>
+    <message>
+        <source>Concours</source>
+        <translation>Wedstrijden</translation>
+    </message>
+    <message>
+        <source>tous</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Saison du %1 au %2</source>
+        <translation>Seizoen van %1 tot %2</translation>
+    </message>
+    <message>
+        <source>Exporter la liste</source>
+        <translation>Lijst exporteren</translation>
+    </message>
+    <message>
+        <source>La liste est dans %1.</source>
+        <translation>De lijst staat in %1.</translation>
+    </message>
+    <message>
+        <source>La liste n&apos;a pas pu être écrite : %1</source>
+        <translation>De lijst kon niet worden geschreven: %1</translation>
+    </message>
+</context>
+<context>
     <name>ListesPubliques</name>
     <message>
         <source>Tirage du tour %1</source>
@@ -317,6 +352,10 @@
     <message>
         <source>&amp;Affichage public</source>
         <translation>Openbaar &amp;scherm</translation>
+    </message>
+    <message>
+        <source>&amp;Saison</source>
+        <translation>&amp;Seizoen</translation>
     </message>
 </context>
 <context>
@@ -467,6 +506,112 @@
     <message>
         <source>Résultats</source>
         <translation>Uitslagen</translation>
+    </message>
+</context>
+<context>
+    <name>MotsSaison</name>
+    <message>
+        <source>Concours</source>
+        <translation>Wedstrijden</translation>
+    </message>
+    <message>
+        <source>Parties</source>
+        <translation>Partijen</translation>
+    </message>
+    <message>
+        <source>Gagnées</source>
+        <translation>Gewonnen</translation>
+    </message>
+    <message>
+        <source>Pour</source>
+        <translation>Voor</translation>
+    </message>
+    <message>
+        <source>Contre</source>
+        <translation>Tegen</translation>
+    </message>
+    <message>
+        <source>Ecart</source>
+        <translation>Verschil</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Lieu</source>
+        <translation>Plaats</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Catégorie</source>
+        <translation>Categorie</translation>
+    </message>
+    <message>
+        <source>Equipes</source>
+        <translation>Teams</translation>
+    </message>
+    <message>
+        <source>Tours</source>
+        <translation>Rondes</translation>
+    </message>
+    <message>
+        <source>Club</source>
+        <translation>Club</translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation>Licentie</translation>
+    </message>
+    <message>
+        <source>Nom</source>
+        <translation>Naam</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n concours</source>
+        <translation>
+            <numerusform>%n wedstrijd</numerusform>
+            <numerusform>%n wedstrijden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n équipe(s)</source>
+        <translation>
+            <numerusform>%n team</numerusform>
+            <numerusform>%n teams</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n partie(s)</source>
+        <translation>
+            <numerusform>%n partij</numerusform>
+            <numerusform>%n partijen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n club(s)</source>
+        <translation>
+            <numerusform>%n club</numerusform>
+            <numerusform>%n clubs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n licence(s)</source>
+        <translation>
+            <numerusform>%n licentie</numerusform>
+            <numerusform>%n licenties</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>N°</source>
+        <translation>Nr.</translation>
     </message>
 </context>
 <context>
@@ -623,6 +768,61 @@
     <message>
         <source>Score</source>
         <translation>Score</translation>
+    </message>
+</context>
+<context>
+    <name>Saison</name>
+    <message>
+        <source>Saison</source>
+        <translation>Seizoen</translation>
+    </message>
+    <message>
+        <source>Du</source>
+        <translation>Van</translation>
+    </message>
+    <message>
+        <source>Premier jour</source>
+        <translation>Eerste dag</translation>
+    </message>
+    <message>
+        <source>au</source>
+        <translation>tot</translation>
+    </message>
+    <message>
+        <source>Dernier jour</source>
+        <translation>Laatste dag</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Soort</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, concours après concours</source>
+        <translation>Aantal teams, wedstrijd na wedstrijd</translation>
+    </message>
+    <message>
+        <source>Liste montrée</source>
+        <translation>Getoonde lijst</translation>
+    </message>
+    <message>
+        <source>Sommes de la saison</source>
+        <translation>Totalen van het seizoen</translation>
+    </message>
+    <message>
+        <source>Copier</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Exporter...</source>
+        <translation>Exporteren...</translation>
+    </message>
+    <message>
+        <source>Imprimer</source>
+        <translation>Afdrukken</translation>
+    </message>
+    <message>
+        <source>Fermer</source>
+        <translation>Sluiten</translation>
     </message>
 </context>
 <context>
