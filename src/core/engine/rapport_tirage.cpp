@@ -263,7 +263,6 @@ RapportTour etablitRapport(std::span<const Partie> parties, int tour, const QHas
         if (rapport.niveaux.empty() || rapport.niveaux.back().niveau != paire.niveau)
             rapport.niveaux.push_back({.niveau = paire.niveau});
         NiveauRapporte &niveau = rapport.niveaux.back();
-        ++niveau.rencontres;
         niveau.repetitionsAuMoins = niveau.repetitions += paire.dejaAuTour.has_value();
         niveau.memeClubAuMoins = niveau.memeClub += paire.memeClub;
         niveau.defautsAuMoins = niveau.defauts += paire.dejaAuTour || paire.memeClub;

@@ -34,7 +34,6 @@ struct NiveauRapporte
     bool operator==(const NiveauRapporte &) const = default;
 
     int niveau = 0;
-    int rencontres = 0;
     int repetitions = 0;
     int repetitionsAuMoins = 0;
     int memeClub = 0;
