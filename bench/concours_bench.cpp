@@ -6,7 +6,7 @@
 std::vector<moteur::EquipeInscrite> champ(int equipes)
 {
     std::mt19937 sort(2024);
-    return essai::inscrit(equipes, {.clubs = 1 + equipes / 8, .pourcentHote = 20, .pourcentPanache = 5}, sort);
+    return equipesMelangees(equipes, {.clubs = 1 + equipes / 8, .pourcentHote = 20, .pourcentPanache = 5}, sort);
 }
 
 essai::Concours &concoursJoue(int equipes, int tours)

@@ -42,7 +42,7 @@ public:
     {
         prog.demarre();
         poseJoueurs(prog.base());
-        poseConcours(prog.base(), {.equipes = concoursJoue(equipes, 1).equipes()});
+        poseConcours(prog.base(), {.type = u"2 - Triplettes"_qs, .equipes = concoursJoue(equipes, 1).equipes()});
         // The first member of each team is a known player.
         prog.base().Execute(u"update equipes set licence = '0000' + equipe where concours > 0 and doublon = 0");
         prog.ouvre(u"f_equipes"_qs);

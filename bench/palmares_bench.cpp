@@ -30,7 +30,8 @@ std::vector<moteur::Partie> toursComplets(int equipes, int tours)
 void prepare(ProgrammePilote &prog, int equipes, int tours)
 {
     prog.demarre();
-    poseRencontres(prog.base(), poseConcours(prog.base(), {.equipes = champ(equipes)}), toursComplets(equipes, tours));
+    poseRencontres(prog.base(), poseConcours(prog.base(), {.type = u"2 - Triplettes"_qs, .equipes = champ(equipes)}),
+                   toursComplets(equipes, tours));
     prog.ouvre(u"f_resultats"_qs);
 }
 

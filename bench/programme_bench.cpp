@@ -24,7 +24,7 @@ void poseSaison(store::Database &base)
 {
     const essai::Concours &ancien = concoursJoue(64, 6);
     for (int fois = 0; fois < concoursDeLaSaison; ++fois) {
-        const qint32 numero = poseConcours(base, {.equipes = ancien.equipes()});
+        const qint32 numero = poseConcours(base, {.type = u"2 - Triplettes"_qs, .equipes = ancien.equipes()});
         poseRencontres(base, numero, ancien.rencontres());
     }
     base.EcritEnGroupe([&] {
@@ -44,7 +44,7 @@ void poseSaison(store::Database &base)
 qint32 poseConcoursJoue(store::Database &base, int equipes, int tours)
 {
     const essai::Concours &concours = concoursJoue(equipes, tours);
-    const qint32 numero = poseConcours(base, {.equipes = concours.equipes()});
+    const qint32 numero = poseConcours(base, {.type = u"2 - Triplettes"_qs, .equipes = concours.equipes()});
     poseRencontres(base, numero, concours.rencontres());
     return numero;
 }

@@ -19,7 +19,9 @@ public:
     {
         prog.demarre();
         const essai::Concours &concours = concoursJoue(equipes, tours);
-        poseRencontres(prog.base(), poseConcours(prog.base(), {.equipes = concours.equipes()}), concours.rencontres());
+        poseRencontres(prog.base(),
+                       poseConcours(prog.base(), {.type = u"2 - Triplettes"_qs, .equipes = concours.equipes()}),
+                       concours.rencontres());
         prog.ouvre(u"f_resultats"_qs);
         prog.clique(u"EResultats"_qs, u"manquants"_qs);
         prog.clique(u"EResultats"_qs, u"VALIDATION"_qs);

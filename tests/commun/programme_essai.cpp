@@ -19,8 +19,6 @@ bool attendActive(const QWidget *fenetre)
 
 void ProgrammeEssai::SetUp()
 {
-    horloge.date = QDate(2026, 5, 3);
-    horloge.instant = QTime(14, 30);
     ASSERT_TRUE(demarre());
 }
 
@@ -73,30 +71,4 @@ QLineEdit *ProgrammeEssai::champ(const QString &nomForme, const QString &nom)
     if (const auto *combo = qobject_cast<QComboBox *>(controle(nomForme, nom)))
         return combo->lineEdit();
     return controle<QLineEdit>(nomForme, nom);
-}
-
-qint32 ProgrammeEssai::creeConcours(const Concours &concours)
-{
-    store::Recordset ligne = base().OpenRecordset(u"concours", store::dbOpenTable);
-    ligne.AddNew();
-    ligne[u"type"] = concours.type;
-    ligne[u"lieu"] = concours.lieu;
-    ligne[u"categorie"] = concours.categorie;
-    ligne[u"date"] = concours.date;
-    ligne[u"repeche"] = concours.repeche;
-    ligne.Update();
-    return qint32(ligne[u"concours"].entier());
-}
-
-QStringList ProgrammeEssai::lignes(const QString &sql)
-{
-    QStringList textes;
-    store::Instruction lecture(base().native(), sql);
-    while (lecture.avance()) {
-        QStringList champs;
-        for (int i = 0; i < lecture.colonnes(); ++i)
-            champs += lecture.estNulle(i) ? u"Null"_qs : lecture.valeur(i).texte();
-        textes += champs.join(u'|');
-    }
-    return textes;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "commun/affiche.h"
+#include "commun/contenu.h"
 #include "commun/programme_pilote.h"
 
 #include <QComboBox>
@@ -12,16 +12,6 @@
 class ProgrammeEssai : public testing::Test, protected ProgrammePilote
 {
 protected:
-    /// A competition as a test wants it; the type decides the players a team.
-    struct Concours
-    {
-        QString type = u"1 - Doublettes"_qs;
-        QString lieu = u"Draguignan"_qs;
-        QString categorie = u"Seniors"_qs;
-        QDate date = QDate(2026, 5, 3);
-        bool repeche = false;
-    };
-
     void SetUp() override;
     void TearDown() override;
 
@@ -43,11 +33,11 @@ protected:
     QLineEdit *champ(const QString &nomForme, const QString &nom);
     bool visible(const QString &nomForme, const QString &nom) { return controle(nomForme, nom)->isVisible(); }
 
-    qint32 creeConcours(const Concours &concours);
+    qint32 creeConcours(const ConcoursInscrit &concours = {}) { return poseConcours(base(), concours); }
     void execute(const QString &sql) { base().Execute(sql); }
     /// Runs a statement past the program's dialect, to damage the base on purpose.
     void abime(const QString &sql) { base().native().executeScript(sql); }
     /// Rows of a statement, their fields joined by "|".
-    QStringList lignes(const QString &sql);
+    QStringList lignes(const QString &sql) { return Lignes(base().native(), sql); }
     qint64 nombre(const QString &sql) { return valeur(sql).entier(); }
 };

@@ -1,24 +1,13 @@
 #pragma once
 
 #include "commun/boites_script.h"
+#include "commun/concours_en_base.h"
+#include "commun/partage_essai.h"
 #include "pilote/gestes.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
-
-/// A day and a time that change only when a test changes them.
-class HorlogeArretee : public Horloge
-{
-public:
-    QDate jour() const override { return date; }
-    QTime heure() const override { return instant; }
-    qint64 ecoule() const override { return millisecondes; }
-
-    QDate date = QDate(2026, 7, 14);
-    QTime instant = QTime(9, 30);
-    qint64 millisecondes = 0;
-};
 
 /// The whole program on a fresh base of its own, driven by keys and clicks as an operator drives it.
 class ProgrammePilote : public pilote::Gestes

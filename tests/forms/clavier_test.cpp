@@ -1,7 +1,6 @@
 // A whole day without a mouse, and the keys that make it possible.
 #include "app/manuel.h"
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 #include "fenetres/touches_alt.h"
 #include "grille/flexgrid.h"
@@ -167,7 +166,7 @@ TEST_F(Clavier, UneJourneeEntiere)
 /// What a click does in a grid, Enter does on its current row, and the menu key what a right click does.
 TEST_F(Clavier, LesGrillesSeCliquentAuClavier)
 {
-    const qint32 concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+    const qint32 concours = poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
     poseRencontres(prog.base(), concours, {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 7}});
     touches({Qt::Key_F10, Qt::Key_Right, Qt::Key_Right, Qt::Key_Return});
     alt(u"VALIDATION"_qs);
@@ -180,9 +179,9 @@ TEST_F(Clavier, LesGrillesSeCliquentAuClavier)
     ASSERT_NE(grille, nullptr);
     alt(u"Thonneur_1"_qs);
     touches({Qt::Key_Down, Qt::Key_Right});
-    EXPECT_EQ(grille->Text(), u"  1 (A)  bat   2 (B) "_qs);
+    EXPECT_EQ(grille->Text(), u"  1 (Club 1)  bat   2 (Club 2) "_qs);
     touche(Qt::Key_Menu);
-    EXPECT_EQ(grille->TextMatrix(1, 1), u"  1 Joueur 1 C (A)  bat   2 Joueur 2 C (B) "_qs);
+    EXPECT_EQ(grille->TextMatrix(1, 1), u"  1 NOM1 P (Club 1)  bat   2 NOM2 P (Club 2) "_qs);
     touches({Qt::Key_Down, Qt::Key_Right});
     touche(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(fenetre(), u"Resusoc"_qs);

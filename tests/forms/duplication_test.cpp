@@ -14,21 +14,14 @@ class Copie : public ProgrammeEssai
 protected:
     void prepare()
     {
-        creeConcours({.type = u"2 - Triplettes"_qs, .lieu = u"L'Étoile d'Aÿ"_qs, .repeche = true});
-        creeConcours({});
-        for (int equipe = 1; equipe <= 3; ++equipe) {
-            for (int doublon = 0; doublon < 3; ++doublon)
-                execute(u"insert into equipes (concours, equipe, doublon, nom, engage) values "
-                        "(1, %1, %2, 'O''Brien %2', %3)"_qs.arg(equipe)
-                            .arg(doublon)
-                            .arg(equipe - 1));
-            execute(u"insert into evolution (concours, equipe, principal) values (1, %1, 4)"_qs.arg(equipe));
-        }
-        for (const int concours : {1, 2})
-            execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2) values (%1, 1, 1, 1, 2)"_qs.arg(
-                concours));
+        creeConcours(
+            {.type = u"2 - Triplettes"_qs, .repeche = true, .lieu = u"L'Étoile d'Aÿ"_qs, .equipes = equipesDeClubs(3)});
+        abime(u"update equipes set nom = 'O''Brien ' || doublon, engage = equipe - 1;"
+              "update evolution set principal = 4"_qs);
+        poseRencontres(base(), 1, {{.tour = 2, .equipe1 = 1, .equipe2 = 2}});
+        creeConcours();
+        poseRencontres(base(), 2, {{.tour = 1, .equipe1 = 1, .equipe2 = 2}});
         execute(u"insert into equipes (concours, equipe, nom) values (2, 1, 'AUTRE')"_qs);
-        execute(u"update concours set tourpri = 2 where concours = 1"_qs);
         ouvreFamille(u"f_concours"_qs, C);
     }
     void choisit(const QString &numero) { liste(C, u"référence"_qs)->setEditText(numero); }

@@ -1,5 +1,4 @@
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 
 #include <gtest/gtest.h>
@@ -19,10 +18,7 @@ protected:
     void ouvre() { prog.ouvre(u"f_concours"_qs); }
     qint32 concours(const QString &type = u"2 - Triplettes"_qs, int equipes = 0)
     {
-        ConcoursInscrit inscrit{.type = type};
-        for (int equipe = 1; equipe <= equipes; ++equipe)
-            inscrit.equipes.push_back({equipe, u"Club"_qs});
-        return poseConcours(prog.base(), inscrit);
+        return poseConcours(prog.base(), {.type = type, .equipes = equipesDeClubs(equipes)});
     }
     template<typename Widget = QLineEdit>
     Widget *controle(const QString &nom)

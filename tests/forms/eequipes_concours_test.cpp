@@ -44,15 +44,14 @@ TEST_F(ChoixConcours, WithoutACompetitionItMakesWayForTheEditor)
 
 TEST_F(ChoixConcours, ItOpensOnTheLastCompetition)
 {
-    creeConcours({});
+    creeConcours();
     const qint32 dernier =
-        creeConcours({.type = u"2 - Triplettes"_qs, .lieu = u"Aups"_qs, .categorie = u"Vétérans"_qs});
-    equipesStockees(dernier, 1);
+        concoursDe(1, {.type = u"2 - Triplettes"_qs, .lieu = u"Aups"_qs, .categorie = u"Vétérans"_qs});
     ouvreFamille(u"f_equipes"_qs, E);
     EXPECT_EQ(partage().ConcoursCourant, dernier);
     EXPECT_EQ(texte(E, u"référence"_qs), u"000002"_qs);
     EXPECT_EQ(texte(E, u"Lieuc"_qs), u"Aups"_qs);
-    EXPECT_EQ(texte(E, u"datec"_qs), u"03/05/2026"_qs);
+    EXPECT_EQ(texte(E, u"datec"_qs), u"14/07/2026"_qs);
     EXPECT_EQ(texte(E, u"typec"_qs), u"Triplettes"_qs);
     EXPECT_EQ(texte(E, u"categorie"_qs), u"Vétérans"_qs);
     EXPECT_EQ(lignesVisibles(), 3);
@@ -65,9 +64,8 @@ TEST_F(ChoixConcours, ItOpensOnTheLastCompetition)
 
 TEST_F(ChoixConcours, AnotherNumberTakesTheFormOver)
 {
-    creeConcours({.type = u"3 - Tête à tête"_qs, .lieu = u"Aups"_qs, .categorie = u"Dames"_qs, .repeche = true});
+    concoursDe(1, {.type = u"3 - Tête à tête"_qs, .repeche = true, .lieu = u"Aups"_qs, .categorie = u"Dames"_qs});
     execute(u"update concours set tourpri = 2"_qs);
-    equipesStockees(1, 1);
     ouvre();
     remplit(E, u"NomJ_0"_qs, u"A"_qs);
     formulaires().etat<Passation>().PanacheeAutorisee = true;

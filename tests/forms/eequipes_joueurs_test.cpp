@@ -108,8 +108,7 @@ TEST_F(JoueursDEquipe, ALicenceOfAnotherTeamIsShownAndCleared)
 
 TEST_F(JoueursDEquipe, ATeamReadBackKeepsItsOwnLicences)
 {
-    equipesStockees(1, 2);
-    ouvre();
+    ouvre(u"1 - Doublettes"_qs, 2);
     appelle(u"2"_qs);
     clic(E, u"LicenceJ_1"_qs);
     entre();

@@ -8,9 +8,8 @@ class Retard : public Inscription
 protected:
     void apresTirage(int exempte)
     {
-        equipesStockees(1, 3);
         club(u"DUP"_qs);
-        m_concours = ouvre();
+        m_concours = ouvre(u"1 - Doublettes"_qs, 3);
         ASSERT_EQ(m_concours, 1);
         rencontre(1, 1, 1, 2);
         if (exempte > 0)

@@ -133,8 +133,7 @@ TEST_F(Enregistrement, GapsStayAndOnlyTheHighestNumberComesBack)
 TEST_F(Enregistrement, NumbersOutOfRangeGoBackToTheHighestOne)
 {
     const QString refus = partage().mes(81) + u"\r\n"_qs + partage().mes(82);
-    equipesStockees(1, 3);
-    ouvre();
+    ouvre(u"1 - Doublettes"_qs, 3);
     for (const QString &faux : {u"0"_qs, u"abc"_qs, u"2bis"_qs, u"-1"_qs, u"5"_qs, u"99999999999999999999"_qs}) {
         boites.attend(refus);
         appelle(faux);
@@ -227,9 +226,8 @@ TEST_F(Enregistrement, AFailingStoreNeverLeavesATeamThatLooksRegistered)
 
 TEST_F(Enregistrement, AFailedCorrectionIsToldAndTheOtherWritesStay)
 {
-    equipesStockees(1, 1);
     club(u"DUP"_qs);
-    const qint32 concours = ouvre();
+    const qint32 concours = ouvre(u"1 - Doublettes"_qs, 1);
     execute(u"update evolution set principal = 3"_qs);
     abime(u"create trigger panne before update on equipes when old.doublon = 0 "
           "begin select raise(abort, 'panne'); end"_qs);
@@ -238,7 +236,7 @@ TEST_F(Enregistrement, AFailedCorrectionIsToldAndTheOtherWritesStay)
     remplit(E, u"NomJ_1"_qs, u"Y"_qs);
     boites.attend(u"L'équipe 1 n'a pas pu être enregistrée"_qs);
     clic(E, u"Okc"_qs);
-    EXPECT_EQ(equipe(concours, 1), QStringList({u"0|NOM1|P0|L1-0|DUP|Null|0"_qs, u"1|Y|P1|L1-1|DUP|A|1"_qs}));
+    EXPECT_EQ(equipe(concours, 1), QStringList({u"0|NOM1|P0|L1-0|DUP|A|1"_qs, u"1|Y|P1|L1-1|DUP|A|1"_qs}));
     EXPECT_EQ(nombre(u"select principal from evolution"_qs), 1);
     EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"X"_qs);
 }

@@ -79,8 +79,7 @@ TEST_F(Joueurs, ACorrectionStoresTheTextsAsTypedAndProposesTheNumberOfTheTeams)
     for (const auto *nom : {u"UN", u"DEUX", u"TROIS"})
         joueur(u"L"_qs + QString::fromUtf16(nom), QString::fromUtf16(nom), u"P"_qs, u"DUP"_qs);
     execute(u"update equipes set ne = '1960-01-31', sexe = 'F' where concours = 0 and equipe = 2"_qs);
-    const qint32 concours = creeConcours({});
-    equipesStockees(concours, 7);
+    const qint32 concours = concoursDe(7);
     partage().ConcoursCourant = concours;
     ouvreJoueurs();
     EXPECT_EQ(numero(), u"0004"_qs);

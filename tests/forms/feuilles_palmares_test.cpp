@@ -20,8 +20,8 @@ struct Mise
     int margeScore = 1200;
     double taille = 14;
 
-    int largeur() const { return paysage ? 16838 : 11906; }
-    int hauteurUtile() const { return (paysage ? 11906 : 16838) - 480; }
+    int largeur() const { return paysage ? hauteurPapier : largeurPapier; }
+    int hauteurUtile() const { return (paysage ? largeurPapier : hauteurPapier) - 480; }
     int limite() const { return hauteurUtile() - 2000; }
 };
 
@@ -51,7 +51,7 @@ std::vector<Dessin> FeuillesPalmares::corps(const PageDessinee &page, const Mise
 void FeuillesPalmares::verifieEntete(const PageDessinee &page, const Mise &mise)
 {
     const double taille = mise.detail ? 14 : 18;
-    const Dessin *date = trouve(page, u"03/05/2026"_qs);
+    const Dessin *date = trouve(page, u"14/07/2026"_qs);
     const Dessin *categorie = trouve(page, u"Doublettes"_qs);
     ASSERT_TRUE(date != nullptr && categorie != nullptr);
     EXPECT_TRUE(date->x1 == 400 && date->y1 == 300 && date->taille == taille && !date->gras);
@@ -142,10 +142,7 @@ TEST_F(FeuillesPalmares, ASelectionPrintsItsRowsWhicheverWayItWasMade)
         choisit(debut, fin);
         const Pages pages = imprime(false, false);
         ASSERT_EQ(pages.size(), 1u);
-        QString phrases;
-        for (const Dessin &dessin : pages[0].dessins)
-            phrases += dessin.x1 == 300 ? dessin.texte : QString();
-        EXPECT_EQ(phrases, attendue);
+        EXPECT_EQ(rangeesA(pages[0], {300}).join(QString()), attendue);
     }
 }
 
@@ -164,7 +161,7 @@ TEST_F(FeuillesPalmares, LongTextsOfTheHeadAndTheListStayApart)
     }
     for (const Pages &pages : feuilles) {
         ASSERT_EQ(pages.size(), 1u);
-        VerifiePlaces(pages[0], 11906 - 480, 16838 - 480 - 1500);
+        VerifiePlaces(pages[0], largeurPapier - 480, hauteurPapier - 480 - 1500);
         EXPECT_TRUE(texteDe(pages[0]).contains(lieuLong + u"|Doublettes|"_qs + categorieLongue));
     }
 }
@@ -193,25 +190,15 @@ TEST_F(FeuillesPalmares, TheListOfTeamsTakesAsManyPlayersAsATeamHas)
     ouvre(4, {{1, 1, 2, 13, 4}});
     execute(u"update equipes set societe = '*Panachée' where equipe = 1"_qs);
     execute(u"insert into equipes (concours, equipe, doublon, nom, licence, societe) values "
-            "(0, 1, 0, 'NOM1', 'L10', 'Club connu')"_qs);
+            "(0, 1, 0, 'NOM1', 'L1-0', 'Club connu')"_qs);
     execute(u"delete from equipes where concours = 1 and equipe = 2 and doublon = 1"_qs);
     ASSERT_TRUE(ImprimeDetail({partage(), formulaires(), boites}));
     ASSERT_EQ(documents.size(), 1u);
-    QStringList lignes;
-    int y = 0;
-    for (const Dessin &dessin : documents[0][0].dessins) {
-        if (dessin.x1 != 300 && dessin.x1 != 700 && dessin.x1 != 4100 && dessin.x1 != 5100)
-            continue;
-        if (dessin.y1 != y)
-            lignes += dessin.texte;
-        else
-            lignes.back() += u'|' + dessin.texte;
-        y = dessin.y1;
-    }
+    const QStringList lignes = rangeesA(documents[0][0], {300, 700, 4100, 5100});
     const QStringList attendues = {
-        u"1|- NOM1 Paul|L10|Club connu"_qs, u"- NOM1 Paul|L11|."_qs,      u"2|- NOM2 Paul|L20|Club 2"_qs,
-        u"-  Paul|L30|Club 3"_qs, // borrowed from the team behind
-        u"3|-  Paul|L31|Club 3"_qs,         u"- NOM4 Paul|L40|Club 4"_qs, u"4|- NOM4 Paul|L41|Club 4"_qs,
+        u"1|- NOM1 P0|L1-0|Club connu"_qs, u"- NOM1 P1|L1-1|."_qs,      u"2|- NOM2 P0|L2-0|Club 2"_qs,
+        u"-  P0|L3-0|Club 3"_qs, // borrowed from the team behind
+        u"3|-  P1|L3-1|Club 3"_qs,         u"- NOM4 P0|L4-0|Club 4"_qs, u"4|- NOM4 P1|L4-1|Club 4"_qs,
     };
     EXPECT_EQ(lignes, attendues) << lignes.join(u'\n').toStdString();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 #include "partage/langue.h"
 #include "printing/resusoc.h"
@@ -19,8 +18,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(prog.demarre());
-        const qint32 concours =
-            poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs}, {4, u"D"_qs}}});
+        const qint32 concours = poseConcours(prog.base(), {.equipes = equipesDeClubs(4)});
         poseRencontres(prog.base(), concours,
                        {{.tour = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 7},
                         {.tour = 1, .equipe1 = 3, .equipe2 = 4}});

@@ -1,5 +1,4 @@
-#include "commun/papier_garde.h"
-#include "commun/programme_essai.h"
+#include "feuilles_essai.h"
 
 #include <QLineEdit>
 
@@ -8,30 +7,21 @@ namespace {
 const QString D = u"I_tirage"_qs;
 
 /// A doublette competition of \p n teams whose rounds are rows of the test.
-class Impression : public ProgrammeEssai
+class Impression : public FeuillesEssai
 {
 protected:
     void prepare(int equipes, int tours)
     {
-        creeConcours({});
-        for (int equipe = 1; equipe <= equipes; ++equipe) {
-            for (int doublon = 0; doublon < 2; ++doublon)
-                execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) values "
-                        "(1, %1, %2, 'NOM%1', 'P%2', 'L%1%2', 'Club %1')"_qs.arg(equipe)
-                            .arg(doublon));
-        }
+        std::vector<moteur::Partie> rencontres;
         for (int tour = 1; tour <= tours; ++tour) {
-            for (int equipe = 1; equipe <= equipes; equipe += 2) {
-                const bool exempt = equipe == equipes;
-                execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) values "
-                        "(1, 1, %1, %2, %3, 13, %4)"_qs.arg(tour)
-                            .arg(equipe)
-                            .arg(exempt ? 0 : equipe + 1)
-                            .arg(equipe % 13));
-            }
+            for (int equipe = 1; equipe <= equipes; equipe += 2)
+                rencontres.push_back({.tour = tour,
+                                      .equipe1 = equipe,
+                                      .equipe2 = equipe == equipes ? 0 : equipe + 1,
+                                      .score1 = 13,
+                                      .score2 = equipe % 13});
         }
-        execute(u"update concours set tourpri = %1"_qs.arg(tours));
-        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        poseRencontres(base(), creeConcours({.equipes = equipesDeClubs(equipes), .clubDesAutres = {}}), rencontres);
         ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);
         clic(u"EResultats"_qs, u"imprimer"_qs);
     }
@@ -42,12 +32,8 @@ protected:
         clic(D, classement ? u"Option3"_qs : u"Option1"_qs);
         if (detail)
             clic(D, u"Label2"_qs);
-        documents.clear();
-        clic(D, u"Imprime"_qs);
-        return documents.size() == 1 ? documents.front() : Pages();
+        return imprimes([this] { clic(D, u"Imprime"_qs); });
     }
-
-    std::vector<Pages> documents;
 };
 
 TEST_F(Impression, TheDialogOffersOnlyWhatCanBePrinted)
@@ -114,18 +100,18 @@ TEST_F(Impression, ADrawSheetHoldsEveryMatchAboveItsFooter)
     const Pages pages = imprime(false);
     ASSERT_EQ(pages.size(), 2u);
     EXPECT_TRUE(texteDe(pages[0]).startsWith(
-        u"03/05/2026|Draguignan|Doublettes|Seniors|Tour N° 1|Terrain|38 Equipes|1|(Club 1)|2|(Club 2)|3|"_qs))
+        u"14/07/2026|Sète|Doublettes|Seniors|Tour N° 1|Terrain|38 Equipes|1|(Club 1)|2|(Club 2)|3|"_qs))
         << texteDe(pages[0]).toStdString();
     EXPECT_TRUE(texteDe(pages[1]).contains(u"37|(Club 37)|Exempt|"_qs));
     for (std::size_t page = 0; page < pages.size(); ++page) {
         const Dessin *pied = trouve(pages[page], u"Page %1"_qs.arg(page + 1));
         ASSERT_NE(pied, nullptr);
-        EXPECT_EQ(pied->y1, 16838 - 480 - 800);
-        VerifiePlaces(pages[page], 11906 - 240, pied->y1);
+        EXPECT_EQ(pied->y1, hauteurPapier - 480 - 800);
+        VerifiePlaces(pages[page], largeurPapier - 240, pied->y1);
     }
     const Dessin *numero = trouve(pages[0], u"1"_qs);
     EXPECT_TRUE(numero->gras && numero->taille == 33 && numero->x1 == 100);
-    EXPECT_EQ(trouve(pages[0], u"2"_qs)->x1, 11906 / 2);
+    EXPECT_EQ(trouve(pages[0], u"2"_qs)->x1, largeurPapier / 2);
 }
 
 TEST_F(Impression, TheRankingLeavesThePlaceOfATieEmpty)
@@ -136,7 +122,7 @@ TEST_F(Impression, TheRankingLeavesThePlaceOfATieEmpty)
     ASSERT_FALSE(pages.empty());
     const QString texte = texteDe(pages.front());
     EXPECT_TRUE(
-        texte.contains(u"Clt|Equipe|J|G|P|Pp|Pc|Ga|1|-|1|(Club 1)|1|1|0|13|3|10|NOM1 P0 (L10)|NOM1 P1 (L11)|-|3|"
+        texte.contains(u"Clt|Equipe|J|G|P|Pp|Pc|Ga|1|-|1|(Club 1)|1|1|0|13|3|10|NOM1 P0 (L1-0)|NOM1 P1 (L1-1)|-|3|"
                        "(Club 3)|1|1|0|13|3|10|"_qs))
         << texte.toStdString();
     EXPECT_TRUE(texte.contains(u"|3|-|2|(Club 2)|1|0|1|3|13|-10|"_qs)) << texte.toStdString();
@@ -155,10 +141,10 @@ TEST_F(Impression, LongTextsGetSmallerBeforeTheyMeetOthers)
     for (const QString &lieu : {u"Boulodrome Jean Moulin, Saint-Raphaël"_qs, lieuLong}) {
         partage().LieuConcours = lieu;
         for (const PageDessinee &page : imprime(false)) {
-            VerifiePlaces(page, 11906 - 480, 16838 - 480 - 800);
+            VerifiePlaces(page, largeurPapier - 480, hauteurPapier - 480 - 800);
             const Dessin *terrain = trouve(page, u"Terrain"_qs);
             ASSERT_NE(terrain, nullptr);
-            EXPECT_EQ(terrain->x1, 11906 - 1800);
+            EXPECT_EQ(terrain->x1, largeurPapier - 1800);
             for (const Dessin &dessin : page.dessins)
                 EXPECT_TRUE(dessin.genre == Dessin::Trait || dessin.y1 <= terrain->y1 || dessin.x2 < terrain->x1)
                     << dessin.texte.toStdString();
@@ -167,7 +153,7 @@ TEST_F(Impression, LongTextsGetSmallerBeforeTheyMeetOthers)
         }
         int tirets = 0;
         for (const PageDessinee &page : imprime(true)) {
-            VerifiePlaces(page, 11906 - 480, 16838 - 480 - 800);
+            VerifiePlaces(page, largeurPapier - 480, hauteurPapier - 480 - 800);
             for (std::size_t i = 0; i + 1 < page.dessins.size(); ++i) {
                 if (page.dessins[i].texte.trimmed() != u"-")
                     continue;
@@ -186,7 +172,7 @@ TEST_F(Impression, PlayersStandUnderTheirOwnTeam)
     prepare(30, 1);
     int equipes = 0;
     for (const PageDessinee &page : imprime(true, true)) {
-        VerifiePlaces(page, 11906 - 480, 16838 - 480 - 800);
+        VerifiePlaces(page, largeurPapier - 480, hauteurPapier - 480 - 800);
         const Dessin *rang = nullptr; // last stroke of a team's row
         const Dessin *membre = nullptr;
         for (const Dessin &dessin : page.dessins) {

@@ -1,28 +1,21 @@
-#include "commun/papier_garde.h"
+#include "feuilles_essai.h"
 #include "grille/flexgrid.h"
-#include "inscription_essai.h"
 
 #include <QTest>
 
 namespace {
 
-constexpr int pied = 16838 - 480 - 1500;
+constexpr int pied = hauteurPapier - 480 - 1500;
 
-class FeuillesDeListe : public Inscription
+class FeuillesDeListe : public FeuillesEssai
 {
 protected:
-    void SetUp() override
-    {
-        Inscription::SetUp();
-        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
-    }
     FlexGrid *ouvreListe(const QString &bouton, const QString &nom)
     {
         clic(E, bouton);
         active(nom);
         return static_cast<FlexGrid *>(controle(nom, u"Les_équipes"_qs));
     }
-    std::vector<Pages> documents;
 };
 
 TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
@@ -44,7 +37,12 @@ TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
     EXPECT_TRUE(texteDe(pages[1]).contains(u"|P30 X|L30|DUP|31/01/1960|F|"_qs));
     for (std::size_t page = 0; page < pages.size(); ++page)
         EXPECT_TRUE(texteDe(pages[page]).endsWith(u"|Page %1"_qs.arg(page + 1)));
-    const QList<int> places{150, 900, 11906 - 7500, 11906 - 6000, 11906 - 3300, 11906 - 2000};
+    const QList<int> places{150,
+                            900,
+                            largeurPapier - 7500,
+                            largeurPapier - 6000,
+                            largeurPapier - 3300,
+                            largeurPapier - 2000};
     const QStringList derniere{u"50"_qs, u"P49 X"_qs, u"L49"_qs, u"DUP"_qs, u"31/01/1960"_qs, u"F"_qs};
     for (int colonne = 0; colonne < 6; ++colonne) {
         const Dessin *cellule = trouve(pages[2], derniere[colonne]);
@@ -53,7 +51,7 @@ TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
         EXPECT_TRUE(cellule->taille == 10 && !cellule->gras);
     }
     for (const PageDessinee &page : pages)
-        VerifiePlaces(page, 11906 - 480, pied);
+        VerifiePlaces(page, largeurPapier - 480, pied);
 
     grille->setRow(4);
     grille->setRowSel(2);
@@ -71,8 +69,7 @@ TEST_F(FeuillesDeListe, ThePlayersChosenOrAllOfThem)
 
 TEST_F(FeuillesDeListe, TheRegistrationsUnderTheHeadOfTheirCompetition)
 {
-    const qint32 concours = creeConcours({.type = u"2 - Triplettes"_qs, .lieu = u"L'Étoile d'Aÿ"_qs});
-    equipesStockees(concours, 13);
+    const qint32 concours = concoursDe(13, {.lieu = u"L'Étoile d'Aÿ"_qs});
     partage().ConcoursCourant = concours;
     ouvreFamille(u"f_equipes"_qs, E);
     ouvreListe(u"Command1"_qs, u"listeq"_qs);
@@ -81,7 +78,7 @@ TEST_F(FeuillesDeListe, TheRegistrationsUnderTheHeadOfTheirCompetition)
     const Pages &pages = documents.front();
     ASSERT_EQ(pages.size(), 2u);
     const QString tete =
-        u"03/05/2026|L'Étoile d'Aÿ|Triplettes|Seniors|Liste des inscriptions|Equipe|Nom-Prénom|Licence|"
+        u"14/07/2026|L'Étoile d'Aÿ|Doublettes|Seniors|Liste des inscriptions|Equipe|Nom-Prénom|Licence|"
         "Société|"_qs;
     EXPECT_TRUE(texteDe(pages[0]).startsWith(tete + u"1|NOM1 P0|L1-0|DUP|NOM1 P1|L1-1|DUP|2|"_qs))
         << texteDe(pages[0]).toStdString();
@@ -90,14 +87,14 @@ TEST_F(FeuillesDeListe, TheRegistrationsUnderTheHeadOfTheirCompetition)
     EXPECT_EQ(trouve(pages[0], u"L1-0"_qs)->x1, 4500);
     EXPECT_EQ(trouve(pages[0], u"DUP"_qs)->x1, 6000);
     for (const PageDessinee &page : pages)
-        VerifiePlaces(page, 11906 - 480, pied);
+        VerifiePlaces(page, largeurPapier - 480, pied);
 
     partage().LieuConcours = lieuLong;
     partage().CategorieConcours = categorieLongue;
     clic(u"listeq"_qs, u"imprimer_selection"_qs);
     ASSERT_EQ(documents.size(), 2u);
-    VerifiePlaces(documents[1].front(), 11906 - 480, pied);
-    EXPECT_TRUE(texteDe(documents[1].front()).contains(lieuLong + u"|Triplettes|"_qs + categorieLongue));
+    VerifiePlaces(documents[1].front(), largeurPapier - 480, pied);
+    EXPECT_TRUE(texteDe(documents[1].front()).contains(lieuLong + u"|Doublettes|"_qs + categorieLongue));
 }
 
 } // namespace

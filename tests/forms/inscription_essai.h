@@ -6,61 +6,44 @@
 class Inscription : public ProgrammeEssai
 {
 protected:
-    inline static const QString E = QStringLiteral("Eequipes");
-    inline static const QString L = QStringLiteral("Listesoc");
+    inline static const QString E = u"Eequipes"_qs;
+    inline static const QString L = u"Listesoc"_qs;
 
-    /// Opens the registration on a competition of that type; gives its number.
-    qint32 ouvre(const QString &type = QStringLiteral("1 - Doublettes"))
+    /// Opens the registration on a competition of that type, some teams of club DUP in it; gives its number.
+    qint32 ouvre(const QString &type = u"1 - Doublettes"_qs, int equipes = 0)
     {
-        const qint32 numero = creeConcours({.type = type});
-        partage().ConcoursCourant = numero;
-        ouvreFamille(QStringLiteral("f_equipes"), E);
-        return numero;
+        partage().ConcoursCourant = concoursDe(equipes, {.type = type});
+        ouvreFamille(u"f_equipes"_qs, E);
+        return partage().ConcoursCourant;
+    }
+
+    /// A competition with teams 1 to \p equipes of one club.
+    qint32 concoursDe(int equipes, ConcoursInscrit concours = {})
+    {
+        for (int equipe = 1; equipe <= equipes; ++equipe)
+            concours.equipes.push_back({equipe, u"DUP"_qs});
+        concours.clubDesAutres = {};
+        return creeConcours(concours);
     }
 
     void club(const QString &nom)
     {
-        store::Recordset ligne = partage().BaseDonnees.OpenRecordset(u"societes", store::dbOpenTable);
-        ligne.AddNew();
-        ligne[u"societe"] = nom;
-        ligne[u"codesoc"] = ++m_code;
-        ligne.Update();
+        execute(
+            u"insert into societes (societe, codesoc) values ('%1', %2)"_qs.arg(QString(nom).replace(u'\'', u"''"_qs))
+                .arg(++m_code));
     }
 
     /// A player of the players' file, or a member of a team of competition \p concours.
     void joueur(const QString &licence, const QString &nom, const QString &prenom, const QString &societe,
                 int concours = 0, int equipe = 0, int doublon = 0)
     {
-        store::Recordset ligne = partage().BaseDonnees.OpenRecordset(u"equipes", store::dbOpenTable);
-        ligne.AddNew();
-        ligne[u"concours"] = concours;
-        ligne[u"equipe"] = concours == 0 ? ++m_serie : equipe;
-        ligne[u"doublon"] = doublon;
-        ligne[u"licence"] = licence;
-        ligne[u"nom"] = nom;
-        ligne[u"prenom"] = prenom;
-        ligne[u"societe"] = societe;
-        ligne.Update();
-    }
-
-    /// Teams 1 to \p dernier of two members each, stored past the form.
-    void equipesStockees(qint32 concours, int dernier, int premier = 1)
-    {
-        for (int equipe = premier; equipe <= dernier; ++equipe) {
-            for (int place = 0; place < 2; ++place)
-                joueur(QStringLiteral("L%1-%2").arg(equipe).arg(place), QStringLiteral("NOM%1").arg(equipe),
-                       QStringLiteral("P%1").arg(place), QStringLiteral("DUP"), concours, equipe, place);
-            execute(QStringLiteral("insert into evolution (concours, equipe, principal) values (%1, %2, 1)")
-                        .arg(concours)
-                        .arg(equipe));
-        }
+        poseMembre(base(), concours, concours == 0 ? ++m_serie : equipe, doublon, {nom, prenom, licence, societe});
     }
 
     void rencontre(qint32 concours, int numero, int equipe1, int equipe2)
     {
-        execute(QStringLiteral("insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2) "
-                               "values (%1, 1, 1, %2, %3, %4)")
-                    .arg(concours)
+        execute(u"insert into scores (concours, tableau, tour, rencontre, equipe_1, equipe_2) "
+                "values (%1, 1, 1, %2, %3, %4)"_qs.arg(concours)
                     .arg(numero)
                     .arg(equipe1)
                     .arg(equipe2));
@@ -81,15 +64,15 @@ protected:
     /// Types an unlicensed team of two in one club, and stores it by the mouse.
     void inscrit(const QString &nom, const QString &societe)
     {
-        remplit(E, QStringLiteral("NomJ_0"), nom);
-        remplit(E, QStringLiteral("Société"), societe);
-        clic(E, QStringLiteral("Okc"));
+        remplit(E, u"NomJ_0"_qs, nom);
+        remplit(E, u"Société"_qs, societe);
+        clic(E, u"Okc"_qs);
     }
 
     /// Calls up a team by its number, as the operator does.
     void appelle(const QString &numero)
     {
-        remplit(E, QStringLiteral("Equipe"), numero);
+        remplit(E, u"Equipe"_qs, numero);
         entre();
     }
 
@@ -102,8 +85,7 @@ protected:
     }
     QStringList numeros(qint32 concours)
     {
-        return lignes(
-            QStringLiteral("select distinct equipe from equipes where concours = %1 order by 1").arg(concours));
+        return lignes(u"select distinct equipe from equipes where concours = %1 order by 1"_qs.arg(concours));
     }
 
 private:

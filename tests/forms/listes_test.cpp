@@ -78,7 +78,7 @@ TEST_F(Listes, TheTeamsAreShownAndWrittenToTheirFile)
     joueur(u"A1"_qs, u"O'Brien"_qs, u"Éric"_qs, u"L'Étoile d'Aÿ"_qs);
     joueur(u"a1"_qs, u"SECOND"_qs, u"P"_qs, u"Ailleurs"_qs);
     const qint32 concours = ouvre();
-    const QString debut = u"\uFEFFDraguignan\r\nConcours du 03/05/2026  Doublettes Seniors\r\n"_qs;
+    const QString debut = u"\uFEFFSète\r\nConcours du 14/07/2026  Doublettes Seniors\r\n"_qs;
     const QByteArray entete = debut.toUtf8() + "Equipe N° " + colonnes(u"Société"_qs, 30)
         + colonnes(u"Nom-Prénom"_qs, 40) + colonnes(u"Licence"_qs, 15) + "\r\n";
     ouvreListe(u"Command1"_qs, Q);
@@ -118,8 +118,7 @@ TEST_F(Listes, TheTeamsAreShownAndWrittenToTheirFile)
 
 TEST_F(Listes, AClickOnATeamWritesItsNumberIntoTheFieldThatAsked)
 {
-    const qint32 concours = ouvre();
-    equipesStockees(concours, 12);
+    const qint32 concours = ouvre(u"1 - Doublettes"_qs, 12);
     rencontre(concours, 1, 11, 7);
     execute(u"update concours set tourpri = 1"_qs);
     ouvreFamille(u"f_resultats"_qs, R);
@@ -266,7 +265,7 @@ TEST_F(Listes, ARightClickSortsTheOtherWayEachTime)
 
 TEST_F(Listes, AColumnWithBlanksTurnsRoundToo)
 {
-    equipesStockees(ouvre(), 12);
+    ouvre(u"1 - Doublettes"_qs, 12);
     ouvreListe(u"Command1"_qs, Q);
     const auto sansBlancs = [&] {
         QStringList numeros = colonne(Q, 0);
@@ -296,8 +295,8 @@ TEST_F(Listes, AllCompetitionsStandInTheirList)
     const QString titre = grille(u"Listco"_qs, u"Liste_c"_qs)->FormatString();
     EXPECT_TRUE(titre.trimmed().endsWith(u"|<Catégorie"_qs)) << titre.toStdString();
     EXPECT_EQ(rangees(u"Listco"_qs, u"Liste_c"_qs),
-              QStringList({u"1|03/05/2026|L'Étoile d'Aÿ|1 - Doublettes|Seniors"_qs,
-                           u"2|03/05/2026|Draguignan|2 - Triplettes|Seniors"_qs}));
+              QStringList({u"1|14/07/2026|L'Étoile d'Aÿ|1 - Doublettes|Seniors"_qs,
+                           u"2|14/07/2026|Sète|2 - Triplettes|Seniors"_qs}));
     execute(u"delete * from concours where concours = 1"_qs);
     clic(u"Econcours"_qs, u"Command1"_qs);
     EXPECT_EQ(grille(u"Listco"_qs, u"Liste_c"_qs)->Rows(), 2);

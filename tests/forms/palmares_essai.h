@@ -1,9 +1,7 @@
 #pragma once
 
-#include "commun/papier_garde.h"
-#include "commun/programme_essai.h"
-
 #include "fenetres/formulaires.h"
+#include "feuilles_essai.h"
 #include "grille/flexgrid.h"
 
 #include <QAbstractButton>
@@ -19,7 +17,6 @@ struct Match
     int equipe2;
     std::optional<int> score1 = {};
     std::optional<int> score2 = {};
-    int tableau = 1;
 };
 
 /// Surname of both members of a team.
@@ -31,28 +28,18 @@ inline QString nomDe(int equipe)
 inline const QString nomPalmares = u"palmares"_qs;
 
 /// A doublette competition whose matches are rows of the test, and its honours list.
-class PalmaresEssai : public ProgrammeEssai
+class PalmaresEssai : public FeuillesEssai
 {
 protected:
-    void ouvre(int equipes, const std::vector<Match> &matchs)
+    /// \p suite is a statement that changes the rows before the list is opened.
+    void ouvre(int equipes, const std::vector<Match> &matchs, const QString &suite = {})
     {
-        creeConcours({});
-        for (int equipe = 1; equipe <= equipes; ++equipe) {
-            for (int doublon = 0; doublon < 2; ++doublon)
-                execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) values "
-                        "(1, %1, %2, '%3', 'Paul', 'L%1%2', 'Club %1')"_qs.arg(equipe)
-                            .arg(doublon)
-                            .arg(nomDe(equipe)));
-        }
-        const auto sql = [](std::optional<int> score) { return score ? QString::number(*score) : u"Null"_qs; };
-        for (const Match &m : matchs)
-            execute(u"insert into scores (concours, tableau, tour, equipe_1, equipe_2, score_1, score_2) values "
-                    "(1, %1, %2, %3, %4, %5, %6)"_qs.arg(m.tableau)
-                        .arg(m.tour)
-                        .arg(m.equipe1)
-                        .arg(m.equipe2)
-                        .arg(sql(m.score1), sql(m.score2)));
-        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+        std::vector<moteur::Partie> parties;
+        for (const auto &[tour, equipe1, equipe2, score1, score2] : matchs)
+            parties.push_back(
+                {.tour = tour, .equipe1 = equipe1, .equipe2 = equipe2, .score1 = score1, .score2 = score2});
+        poseRencontres(base(), creeConcours({.equipes = equipesDeClubs(equipes), .clubDesAutres = {}}), parties);
+        abime(u"update equipes set nom = '' where equipe = 3;"_qs + suite);
         ouvreFamille(u"f_resultats"_qs, u"EResultats"_qs);
         clic(u"EResultats"_qs, u"hit"_qs);
         ASSERT_NE(forme(nomPalmares), nullptr);
@@ -96,10 +83,6 @@ protected:
     {
         coche(detail ? u"detail"_qs : u"Option1"_qs, true);
         coche(u"typedit"_qs, paysage);
-        documents.clear();
-        clic(nomPalmares, u"imprimer"_qs);
-        return documents.size() == 1 ? documents.front() : Pages();
+        return imprimes([this] { clic(nomPalmares, u"imprimer"_qs); });
     }
-
-    std::vector<Pages> documents;
 };

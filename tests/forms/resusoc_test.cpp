@@ -1,7 +1,5 @@
-#include "commun/papier_garde.h"
-#include "commun/programme_essai.h"
-
 #include "fenetres/formulaires.h"
+#include "feuilles_essai.h"
 #include "grille/flexgrid.h"
 #include "partage/concours_courant.h"
 #include "printing/imprime_equipe.h"
@@ -16,29 +14,23 @@ namespace {
 
 const QString R = u"Resusoc"_qs;
 const QString adresse = u"www.varlotour.example"_qs;
-constexpr int largeurPapier = 11906;
-constexpr int hauteurPapier = 16838;
 const QString soixante = u"ASSOCIATION DES AMATEURS DE BOULES ET PÉTANQUE DE LA VALLÉE "_qs;
 
 /// A doublette competition and an honours list whose rows the test writes.
-class FeuilleEquipe : public ProgrammeEssai
+class FeuilleEquipe : public FeuillesEssai
 {
 protected:
     void SetUp() override
     {
-        ProgrammeEssai::SetUp();
-        qint32 concours = creeConcours({});
+        FeuillesEssai::SetUp();
+        qint32 concours = creeConcours();
         partage().ConcoursCourant = ChargeConcours(partage(), concours);
         grille.setCols(3);
-        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
     }
 
-    void membre(int equipe, int doublon, QString nom, const QString &prenom, QString club)
+    void membre(int equipe, int doublon, const QString &nom, const QString &prenom, const QString &club)
     {
-        execute(u"insert into equipes (concours, equipe, doublon, nom, prenom, licence, societe) "
-                "values (1, %1, %2, '%3', '%4', 'L%1%2', '%5')"_qs.arg(equipe)
-                    .arg(doublon)
-                    .arg(nom.replace(u'\'', u"''"_qs), prenom, club.replace(u'\'', u"''"_qs)));
+        poseMembre(base(), 1, equipe, doublon, {nom, prenom, u"L%1%2"_qs.arg(equipe).arg(doublon), club});
     }
 
     void rangee(const QString &tour, const QString &phrase, const QString &score = u"13:7"_qs)
@@ -48,10 +40,11 @@ protected:
 
     Pages imprime(const QString &texte, GenreFeuille genre, bool avecNoms = true)
     {
-        documents.clear();
-        ImprimeEquipe({partage(), formulaires(), boites}, grille, avecNoms, texte, genre);
-        EXPECT_EQ(documents.size(), 1u);
-        return documents.size() == 1 ? documents.front() : Pages(1);
+        const Pages pages = imprimes([&] {
+            ImprimeEquipe({partage(), formulaires(), boites}, grille, avecNoms, texte, genre);
+        });
+        EXPECT_FALSE(pages.empty());
+        return pages.empty() ? Pages(1) : pages;
     }
 
     static QStringList textes(const PageDessinee &page, bool italique)
@@ -65,7 +58,6 @@ protected:
     }
 
     FlexGrid grille;
-    std::vector<Pages> documents;
 };
 
 TEST_F(FeuilleEquipe, AClubHasItsTeamsAndTheMatchesOfEveryClubThatHoldsItsName)
@@ -81,7 +73,7 @@ TEST_F(FeuilleEquipe, AClubHasItsTeamsAndTheMatchesOfEveryClubThatHoldsItsName)
     rangee(u"Tour 3"_qs, u" 12 (Aix)  Exempt"_qs, {});
     const Pages pages = imprime(u"Aix"_qs, GenreFeuille::Club);
     ASSERT_EQ(pages.size(), 1u);
-    const QStringList droits = {u"03/05/2026 Draguignan"_qs,
+    const QStringList droits = {u"14/07/2026 Sète"_qs,
                                 u"Equipes de Aix"_qs,
                                 u"Tour 1"_qs,
                                 u" 12 (Aix)  bat   3 (Aix) "_qs,
@@ -163,9 +155,7 @@ TEST_F(FeuilleEquipe, WithoutNamesTheWholeNumberTellsTheTeam)
     rangee({}, u" 13 (Var)  bat  30 (Aix) "_qs);
     rangee({}, u" 23 (Boule 3 )  bat 103 (Aix) "_qs);
     const Pages pages = imprime(u"3 "_qs, GenreFeuille::Equipe, false);
-    QStringList phrases;
-    for (const Dessin &dessin : pages[0].dessins)
-        phrases += dessin.x1 == 350 ? QStringList{dessin.texte} : QStringList();
+    const QStringList phrases = rangeesA(pages[0], {350});
     EXPECT_EQ(phrases, QStringList(std::begin(siennes), std::end(siennes))) << phrases.join(u'|').toStdString();
     EXPECT_EQ(textes(pages[0], true), (QStringList{u"- NOM Paul L30 Aix"_qs, u"-   L31 Aix"_qs}));
 }

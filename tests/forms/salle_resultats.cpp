@@ -12,10 +12,8 @@ void SalleResultats::ouvre(int equipes, bool repeche)
 
 qint32 SalleResultats::inscrit(int equipes, bool repeche)
 {
-    ConcoursInscrit concours{.repeche = repeche};
-    for (int equipe = 1; equipe <= equipes; ++equipe)
-        concours.equipes.push_back({equipe, u"Club %1"_qs.arg(equipe)});
-    return poseConcours(prog.base(), concours);
+    return poseConcours(prog.base(),
+                        {.type = u"2 - Triplettes"_qs, .repeche = repeche, .equipes = equipesDeClubs(equipes)});
 }
 
 void SalleResultats::rouvre()

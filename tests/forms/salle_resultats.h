@@ -1,7 +1,6 @@
 #pragma once
 
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,6 @@
 #include "app/formes.h"
 #include "app/torvik.h"
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 #include "garde/sauvegarde.h"
 #include "partage/base.h"
@@ -117,7 +116,7 @@ TEST(FenetrePrincipale, UneFamilleALaFois)
 {
     ProgrammePilote prog;
     ASSERT_TRUE(prog.demarre());
-    poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+    poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
     prog.ouvre(u"f_concours"_qs);
     EXPECT_TRUE(visible(prog, u"Econcours"_qs));
     EXPECT_FALSE(visible(prog, u"Accueil"_qs));
@@ -164,7 +163,7 @@ TEST(FenetrePrincipale, FermerAvecDesEcransOuverts)
 {
     ProgrammePilote prog;
     ASSERT_TRUE(prog.demarre());
-    poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+    poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
     prog.ouvre(u"f_resultats"_qs);
     prog.torvik()->close(); // no box may come up: unloading does not touch the base any more
     EXPECT_FALSE(prog.base().estOuverte());
@@ -346,7 +345,7 @@ TEST(FenetrePrincipale, UneBaseQuiDisparaitPendantLeTravailSeDitEtSeCopie)
         ProgrammePilote prog;
         prog.avecCopies();
         ASSERT_TRUE(prog.demarre());
-        poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+        poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
         prog.base().native().consolide();
         c.geste(prog.fichier());
         const QByteArray apres = contenu(prog.fichier());
@@ -361,7 +360,7 @@ TEST(FenetrePrincipale, UneBaseQuiDisparaitPendantLeTravailSeDitEtSeCopie)
         EXPECT_EQ(contenu(prog.fichier()), apres) << "the other file is somebody else's";
         store::BaseNative copie(ListeCopies(prog.dossier()).back().fichier, motDePasseBase,
                                 store::BaseNative::Mode::LectureSeule);
-        EXPECT_EQ(copie.valeurUnique(u"select count(*) from equipes"_qs).entier(), 6);
+        EXPECT_EQ(copie.valeurUnique(u"select count(*) from equipes"_qs).entier(), 4);
         EXPECT_EQ(copie.valeurUnique(u"select count(*) from societes where societe = 'APRES'"_qs).entier(), 1);
     }
 }

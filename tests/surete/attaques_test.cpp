@@ -1,5 +1,4 @@
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/contenu.h"
 #include "commun/programme_pilote.h"
 #include "grille/flexgrid.h"
@@ -84,8 +83,7 @@ protected:
     {
         ASSERT_TRUE(prog.demarre());
         for (int i = 0; i < 2; ++i) {
-            const qint32 concours =
-                poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs}, {4, u"D"_qs}}});
+            const qint32 concours = poseConcours(prog.base(), {.equipes = equipesDeClubs(4)});
             poseRencontres(prog.base(), concours,
                            {{.tour = 1, .rencontre = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 7},
                             {.tour = 1, .rencontre = 2, .equipe1 = 3, .equipe2 = 4}});

@@ -1,4 +1,3 @@
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +38,7 @@ TEST(Croissance, FormsOpenedAndClosedAgainAndAgainLeaveNothing)
     QPixmapCache::setCacheLimit(0);
     ProgrammePilote prog;
     ASSERT_TRUE(prog.demarre());
-    const qint32 concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+    const qint32 concours = poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
     poseRencontres(prog.base(), concours, {{.tour = 1, .rencontre = 1, .equipe1 = 1, .equipe2 = 2}});
     prog.boites.repondATout();
     for (const QString &nom : prog.formulaires().noms()) {

@@ -1,5 +1,6 @@
 #include "journee.h"
 
+#include "commun/concours_en_base.h"
 #include "donnees/inscription.h"
 #include "engine/routines_resultats.h"
 #include "engine/routines_tirage.h"
@@ -123,12 +124,7 @@ void Journee::fait(int operation)
 
 void Journee::creeConcours()
 {
-    store::Recordset concours = m_partage.BaseDonnees.OpenRecordset(u"concours", store::dbOpenTable);
-    concours.AddNew();
-    concours[u"type"] = u"3 - Tête à tête";
-    concours[u"lieu"] = u"Sète";
-    concours[u"pro"] = true;
-    concours.Update();
+    poseConcours(m_partage.BaseDonnees, {.type = u"3 - Tête à tête"_qs});
 }
 
 void Journee::inscrit(qint64 numero)

@@ -1,4 +1,5 @@
 #include "commun/base_essai.h"
+#include "commun/concours_en_base.h"
 #include "donnees/clubs.h"
 #include "donnees/equipes.h"
 #include "donnees/rencontres.h"
@@ -14,12 +15,7 @@ class SalleDesDonnees : public testing::Test
 protected:
     void membre(qint32 concours, int equipe, int place, const QString &licence, const QString &club)
     {
-        base.Execute(
-            u"insert into equipes (concours, equipe, doublon, licence, societe) values (%1, %2, %3, '%4', '%5')"_qs
-                .arg(concours)
-                .arg(equipe)
-                .arg(place)
-                .arg(licence, club));
+        poseMembre(base, concours, equipe, place, {.nom = {}, .prenom = {}, .licence = licence, .club = club});
     }
     void rencontre(int tableau, int tour, int equipe1, int equipe2, const QString &score1, const QString &score2)
     {

@@ -6,26 +6,6 @@ using moteur::StatutTirage;
 
 namespace {
 
-int tours(int equipes, int nbJoueurs, bool repeche)
-{
-    int tour = 1;
-    while (moteur::resteUnTour(equipes * nbJoueurs, nbJoueurs, tour, repeche))
-        ++tour;
-    return tour;
-}
-
-TEST(ControleTours, NombreDeToursSelonLesEquipes)
-{
-    for (int nbJoueurs = 1; nbJoueurs <= 3; ++nbJoueurs) {
-        EXPECT_EQ(tours(2, nbJoueurs, false), 1);
-        EXPECT_EQ(tours(2, nbJoueurs, true), 2);
-        EXPECT_EQ(tours(15, nbJoueurs, false), 3);
-        EXPECT_EQ(tours(16, nbJoueurs, false), 4);
-        EXPECT_EQ(tours(16, nbJoueurs, true), 5);
-        EXPECT_EQ(tours(512, nbJoueurs, false), 9);
-    }
-}
-
 TEST(ControleTours, EquipesIncompletesEtTypeInconnu)
 {
     EXPECT_FALSE(moteur::resteUnTour(47, 3, 3, false)); // 15 teams and two thirds

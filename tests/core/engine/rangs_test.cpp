@@ -1,10 +1,9 @@
-#include "concours_joue.h"
-
 #include "engine/rangs.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 
 using moteur::LigneClassement;
 
@@ -78,30 +77,27 @@ TEST(Rangs, GeneralParVictoiresPuisDifference)
 TEST(Rangs, DAccordAvecUnComptageDesEquipesDevant)
 {
     std::mt19937 sort(11);
-    for (const int nombre : {2, 8, 37, 128}) {
-        essai::Concours concours(essai::inscrit(nombre, {}, sort), false, 3);
-        while (concours.joueTour({.pourcentMots = 5, .pourcentSansVainqueur = 4})) {
-            std::vector<LigneClassement> lignes = concours.classement();
-            std::ranges::sort(lignes, moteur::avantAuRang);
-            const auto devant = [&](const LigneClassement &a, const LigneClassement &b) {
-                return a.gagnées != b.gagnées ? a.gagnées > b.gagnées : *a.ga > *b.ga;
-            };
-            std::optional<int> precedente;
-            for (const moteur::PlaceGenerale &place : moteur::classementGeneral(lignes)) {
-                const LigneClassement &ligne = lignes[place.ligne];
-                const int attendue =
-                    1 + int(std::ranges::count_if(lignes, [&](const auto &autre) { return devant(autre, ligne); }));
-                EXPECT_EQ(place.position.value_or(precedente.value_or(0)), attendue) << "equipe " << ligne.equipe;
-                EXPECT_EQ(place.position.has_value(), precedente != attendue);
-                precedente = attendue;
-            }
-            const std::vector<std::optional<int>> niveaux = moteur::positionsParNiveau(lignes);
-            for (std::size_t i = 0; i < lignes.size(); ++i) {
-                const int attendue =
-                    1 + int(std::ranges::count_if(lignes, [&](const auto &autre) { return devant(autre, lignes[i]); }));
-                const bool ex = i > 0 && !devant(lignes[i - 1], lignes[i]);
-                EXPECT_EQ(niveaux[i], ex ? std::nullopt : std::optional(attendue));
-            }
+    const auto devant = [](const LigneClassement &a, const LigneClassement &b) {
+        return a.gagnées != b.gagnées ? a.gagnées > b.gagnées : *a.ga > *b.ga;
+    };
+    for (int fois = 0; fois < 100; ++fois) {
+        std::vector<LigneClassement> lignes;
+        for (int numero = 1; numero <= 2 + fois; ++numero)
+            lignes.push_back(equipe(numero, int(sort() % 6), int(sort() % 41) - 20));
+        std::ranges::sort(lignes, moteur::avantAuRang);
+        const auto attendue = [&](const LigneClassement &ligne) {
+            return 1 + int(std::ranges::count_if(lignes, [&](const auto &autre) { return devant(autre, ligne); }));
+        };
+        int precedente = 0;
+        for (const auto &[rang, position] : moteur::classementGeneral(lignes)) {
+            const int sienne = attendue(lignes[rang]);
+            EXPECT_EQ(position, sienne == precedente ? std::nullopt : std::optional(sienne));
+            precedente = sienne;
+        }
+        const std::vector<std::optional<int>> positions = moteur::positionsParNiveau(lignes);
+        for (std::size_t i = 0; i < lignes.size(); ++i) {
+            const bool exAequo = i > 0 && !devant(lignes[i - 1], lignes[i]);
+            EXPECT_EQ(positions[i], exAequo ? std::nullopt : std::optional(attendue(lignes[i])));
         }
     }
 }

@@ -1,4 +1,4 @@
-#include "concours_joue.h"
+#include "bench/concours_joue.h"
 #include "engine/rapport_tirage.h"
 
 #include <gtest/gtest.h>
@@ -95,8 +95,8 @@ TEST(RapportTirage, EveryMatchIsToldAsTheRowsTellItAndNoPairingHasFewerDefects)
     for (quint32 graine = 1; graine <= 120; ++graine) {
         SCOPED_TRACE(graine);
         std::mt19937 sort(graine);
-        essai::Concours concours(essai::inscrit(int(4 + graine % 9), {.clubs = int(2 + graine % 4), .pourcentSans = 10},
-                                                sort),
+        essai::Concours concours(equipesMelangees(int(4 + graine % 9),
+                                                  {.clubs = int(2 + graine % 4), .pourcentSans = 10}, sort),
                                  graine % 2 == 0, graine);
         while (concours.tourpri() < 6 && concours.joueTour()) {}
         const std::vector<Partie> parties = concours.rencontres();

@@ -1,5 +1,7 @@
-#include "concours_joue.h"
 #include "modele_lent.h"
+
+#include "commun/concours_en_base.h"
+#include "partage/alea.h"
 
 #include <gtest/gtest.h>
 
@@ -107,62 +109,6 @@ TEST(TirageSuivant, ChampsEcritsALaMain)
     EXPECT_EQ(sansIssue.tire().statut, StatutTirage::RienASignaler) << "a later success has the last word";
 }
 
-TEST(TirageSuivant, RemonteLaMeilleureDuNiveauImpair)
-{
-    for (const bool repeche : {false, true}) {
-        Champ champ;
-        champ.repeche = repeche;
-        champ.ajoute(1, 50000);
-        champ.ajoute(0, 80000, u"A"_qs, -9);
-        champ.ajoute(0, 70000, u"A"_qs, -8);
-        champ.ajoute(0, 60000, u"B"_qs, -2); // the best of its level
-        champ.ajoute(0, 40000, u"A"_qs, std::nullopt);
-        const moteur::TabTirage table = champ.tire();
-        EXPECT_EQ(paires(table), "1-4 3-2 5-0");
-        EXPECT_EQ(table.lignes[0].pt2, 1);
-        EXPECT_EQ(table.lignes[0].club2, u"B"_qs);
-        EXPECT_EQ(champ.classement[3].pt, 1);
-        EXPECT_EQ(champ.classement[3].alea, 80000);
-        EXPECT_EQ(champ.classement[1].alea, 60000);
-        EXPECT_EQ(champ.classement[3].repechage, repeche ? std::optional(1) : std::nullopt);
-        EXPECT_EQ(champ.classement[1].repechage, repeche ? std::optional(0) : std::nullopt);
-    }
-}
-
-TEST(TirageSuivant, RemonteDejaEnTeteEtAleasEgaux)
-{
-    Champ champ;
-    champ.repeche = true;
-    champ.ajoute(1, 50000);
-    champ.ajoute(0, 60000, u"A"_qs, -1);
-    EXPECT_EQ(paires(champ.tire()), "1-2");
-    EXPECT_EQ(champ.classement[1].repechage, 1); // it pulls itself up
-
-    Champ egaux;
-    egaux.ajoute(1, 50000);
-    for (int i = 0; i < 6; ++i)
-        egaux.ajoute(0, 60000, u"A"_qs, i == 4 ? 5 : -5);
-    EXPECT_EQ(paires(egaux.tire()), "1-6 2-3 4-5 7-0");
-}
-
-/// The team pulled up meets its own club and nobody can change with it: the next of its new level takes its place.
-TEST(TirageSuivant, RemonteRemplaceeParLaSuivanteDeSonNiveau)
-{
-    Champ champ;
-    champ.tourpri = 1;
-    champ.repeche = true;
-    champ.ajoute(1, 90000, u"B"_qs, 6);
-    champ.ajoute(1, 80000, u"A"_qs, 5);
-    champ.ajoute(1, 70000, u"A"_qs, 1);
-    champ.ajoute(0, 60000, u"A"_qs, 2); // lost by no 13, and ahead of the winner 3
-    champ.ajoute(0, 50000, u"C"_qs, -9);
-    const moteur::TabTirage table = champ.tire();
-    EXPECT_EQ(paires(table), "1-2 4-3 5-0");
-    EXPECT_EQ(table.statut, StatutTirage::MemeClub); // behind team 3 there is nobody left
-    EXPECT_EQ(champ.classement[3].repechage, std::nullopt);
-    EXPECT_EQ(champ.classement[2].repechage, 1);
-}
-
 TEST(TirageSuivant, UnSigneParRencontreLue)
 {
     Champ quatre = champ("1111", "ABCD");
@@ -189,12 +135,12 @@ Champ invente(std::mt19937 &sort)
     const int niveaux = entre(0, 4);
     const int pas = entre(1, 3); // above 1: nobody stands in the levels between
     const int aleas = entre(0, 1) ? 4 : 90000;
-    const essai::Melange melange{.clubs = entre(1, 6),
-                                 .pourcentHote = entre(0, 1) * 45,
-                                 .pourcentPanache = entre(0, 1) * 20,
-                                 .pourcentSans = entre(0, 3) ? 0 : 30,
-                                 .casseMelee = entre(0, 1) == 1};
-    for (const moteur::EquipeInscrite &equipe : essai::inscrit(nombre, melange, sort)) {
+    const Melange melange{.clubs = entre(1, 6),
+                          .pourcentHote = entre(0, 1) * 45,
+                          .pourcentPanache = entre(0, 1) * 20,
+                          .pourcentSans = entre(0, 3) ? 0 : 30,
+                          .casseMelee = entre(0, 1) == 1};
+    for (const moteur::EquipeInscrite &equipe : equipesMelangees(nombre, melange, sort)) {
         const std::optional<int> ga = entre(0, 9) ? std::optional(entre(-6, 6)) : std::nullopt;
         champ.ajoute(pas * entre(0, niveaux), 10000 + entre(0, aleas), equipe.club, ga);
     }

@@ -1,6 +1,7 @@
 #include "garde/dossier_travail.h"
 
 #include "commun/affiche.h"
+#include "commun/fichiers_essai.h"
 #include "partage/base.h"
 
 #include <QDateTime>
@@ -23,16 +24,10 @@ protected:
 
     void ecrit(const QString &fichier, const QByteArray &contenu) const
     {
-        QFile sortie(racine.filePath(fichier));
-        ASSERT_TRUE(sortie.open(QIODevice::WriteOnly) && sortie.write(contenu) == contenu.size())
-            << fichier.toStdString();
+        ecritFichier(racine.filePath(fichier), contenu);
     }
 
-    QByteArray lit(const QString &fichier) const
-    {
-        QFile entree(racine.filePath(fichier));
-        return entree.open(QIODevice::ReadOnly) ? entree.readAll() : QByteArray("absent");
-    }
+    QByteArray lit(const QString &fichier) const { return octetsDe(racine.filePath(fichier)); }
 
     void poseOriginaux(const QString &dossier) const
     {

@@ -1,6 +1,6 @@
-#include "commun/affiche.h"
-#include "commun/base_essai.h"
 #include "commun/contenu.h"
+#include "commun/fichiers_essai.h"
+#include "commun/partage_essai.h"
 #include "garde/niveau.h"
 #include "garde/reprise.h"
 #include "garde/sauvegarde.h"
@@ -13,27 +13,15 @@
 
 namespace {
 
-class Reprise : public testing::Test
+class Reprise : public testing::Test, protected PartageEssai
 {
 protected:
-    Reprise() { partage.BaseDonnees = base.ouvre(); }
-
     void ecrit(int concours)
     {
         partage.BaseDonnees.Execute(u"insert into scores (concours, tour) values (%1, 1)"_qs.arg(concours));
     }
     qint64 nombre(const QString &sql) { return partage.BaseDonnees.native().valeurUnique(sql).entierOu(-1); }
     QStringList fichiers() const { return QDir(base.dossier()).entryList(QDir::Files); }
-    static QByteArray contenu(const QString &fichier)
-    {
-        QFile lu(fichier);
-        return lu.open(QIODevice::ReadOnly) ? lu.readAll() : QByteArray();
-    }
-
-    BaseEssai base;
-    AleaFixe alea{1};
-    Horloge horloge;
-    Partage partage{base.dossier(), alea, horloge};
 };
 
 TEST_F(Reprise, ACopyTakesThePlaceOfWhatIsRefusedAndNothingGoes)
@@ -47,17 +35,16 @@ TEST_F(Reprise, ACopyTakesThePlaceOfWhatIsRefusedAndNothingGoes)
     partage.BaseDonnees.Close();
     for (const QString &abimee :
          {ListeCopies(base.dossier()).back().fichier, base.fichier(), base.fichier() + u"-wal"_qs}) {
-        QFile fichier(abimee);
-        ASSERT_TRUE(fichier.open(QIODevice::ReadWrite) && fichier.seek(3000) && fichier.write(QByteArray(400, 'x')));
+        abimeFichier(abimee, 3000);
     }
-    const QByteArray refusee = contenu(base.fichier());
-    const QByteArray journal = contenu(base.fichier() + u"-wal"_qs);
+    const QByteArray refusee = octetsDe(base.fichier());
+    const QByteArray journal = octetsDe(base.fichier() + u"-wal"_qs);
     const std::vector<CopieSaine> saines = CopiesSaines(base.dossier());
     ASSERT_EQ(saines.size(), 1U) << "a damaged copy is none";
     EXPECT_EQ(saines.front().copie.fichier, bonne);
     const QString ecartee = RemetCopie(partage, bonne);
-    EXPECT_EQ(contenu(base.dossier() + u'/' + ecartee), refusee);
-    EXPECT_EQ(contenu(base.dossier() + u'/' + ecartee + u"-wal"_qs), journal);
+    EXPECT_EQ(octetsDe(base.dossier() + u'/' + ecartee), refusee);
+    EXPECT_EQ(octetsDe(base.dossier() + u'/' + ecartee + u"-wal"_qs), journal);
     EXPECT_EQ(fichiers().size(), 3);
     EXPECT_NE(RemetCopie(partage, bonne), ecartee) << "in the same second";
     partage.BaseDonnees = base.ouvre();
@@ -72,13 +59,11 @@ TEST_F(Reprise, APurgeCutShortIsTakenUpOnlyWhenItsFileIsWhole)
     const QString temporaire = base.dossier() + u'/' + nomBaseTemporaire;
     store::DBEngine::CompactDatabase(base.fichier(), temporaire, connexionBase);
     EXPECT_FALSE(ReprendPurge(base.dossier())) << "the base stands";
-    const QByteArray entiere = contenu(temporaire);
+    const QByteArray entiere = octetsDe(temporaire);
     ASSERT_TRUE(QFile::remove(base.fichier()));
     ASSERT_TRUE(QFile::resize(temporaire, entiere.size() / 2));
     EXPECT_FALSE(ReprendPurge(base.dossier()));
-    QFile remise(temporaire);
-    ASSERT_TRUE(remise.open(QIODevice::WriteOnly) && remise.write(entiere) == entiere.size());
-    remise.close();
+    ecritFichier(temporaire, entiere);
     EXPECT_TRUE(ReprendPurge(base.dossier()));
     EXPECT_EQ(fichiers(), QStringList(nomBase));
     partage.BaseDonnees = base.ouvre();
@@ -105,7 +90,7 @@ TEST_F(Reprise, ABaseRisesStepByStepEachWholeOrNotAtAll)
     store::Recordset arbitres = partage.BaseDonnees.OpenRecordset(u"arbitres", store::dbOpenTable);
     arbitres.Index(u"nom");
     partage.BaseDonnees.Close();
-    const QByteArray avant = contenu(base.fichier());
+    const QByteArray avant = octetsDe(base.fichier());
     try {
         base.ouvre();
         ADD_FAILURE() << "the base of a later version has been opened";
@@ -113,13 +98,12 @@ TEST_F(Reprise, ABaseRisesStepByStepEachWholeOrNotAtAll)
         EXPECT_EQ(erreur.numero(), store::Erreur::VersionFuture);
         EXPECT_TRUE(erreur.phrase().contains(u"VarloBase.mdb vient d'une version plus récente"_qs));
     }
-    EXPECT_EQ(contenu(base.fichier()), avant);
+    EXPECT_EQ(octetsDe(base.fichier()), avant);
 }
 
 TEST_F(Reprise, ARiseWithoutACopyChangesNothing)
 {
-    QFile obstacle(base.dossier() + u"/sauvegardes"_qs);
-    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    ecritFichier(base.dossier() + u"/sauvegardes"_qs, {});
     EXPECT_THROW(MetANiveau(partage, {{2, u"create table arbitres (nom TEXT)"_qs}}), store::Erreur);
     EXPECT_EQ(nombre(u"pragma user_version"_qs), 1);
 }

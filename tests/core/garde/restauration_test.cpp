@@ -1,7 +1,7 @@
-#include "commun/affiche.h"
-#include "commun/base_essai.h"
 #include "commun/concours_en_base.h"
 #include "commun/contenu.h"
+#include "commun/fichiers_essai.h"
+#include "commun/partage_essai.h"
 #include "garde/inventaire.h"
 #include "garde/restauration.h"
 #include "garde/sauvegarde.h"
@@ -52,13 +52,11 @@ private:
     Etape m_etape;
 };
 
-class Restauration : public testing::Test
+class Restauration : public testing::Test, protected PartageEssai
 {
 protected:
     Restauration()
     {
-        partage.EspaceTravail = &partage.moteurBase.Workspaces(0);
-        partage.BaseDonnees = base.ouvre();
         partage.ConcoursCourant = ajoute();
         ancienne = contenu();
         copie = SauveBase(partage, RaisonCopie::Demande).fichier;
@@ -68,8 +66,7 @@ protected:
 
     qint32 ajoute()
     {
-        const qint32 numero =
-            poseConcours(partage.BaseDonnees, {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs}}});
+        const qint32 numero = poseConcours(partage.BaseDonnees, {.equipes = equipesDeClubs(3)});
         poseRencontres(partage.BaseDonnees, numero,
                        {{.tour = 1, .rencontre = 1, .equipe1 = 1, .equipe2 = 2, .score1 = 13, .score2 = 4},
                         {.tour = 1, .rencontre = 2, .equipe1 = 3, .equipe2 = 0, .score1 = 13, .score2 = 7},
@@ -79,10 +76,6 @@ protected:
     QStringList contenu() { return Contenu(partage.BaseDonnees.native()); }
     bool prepareSeul() const { return QFile::exists(base.fichier() + u".reprise"_qs); }
 
-    BaseEssai base;
-    AleaFixe alea{1};
-    Horloge horloge;
-    Partage partage{base.dossier(), alea, horloge};
     QStringList ancienne;
     QStringList nouvelle;
     QString copie;
@@ -149,9 +142,7 @@ TEST_F(Restauration, AnyStepThatFailsLeavesABaseThatIsOpenOrASentenceThatTellsWh
 
 TEST_F(Restauration, ACopyThatIsNotWholeIsRefusedBeforeAnythingChanges)
 {
-    QFile abimee(copie);
-    ASSERT_TRUE(abimee.open(QIODevice::ReadWrite) && abimee.seek(9000) && abimee.write(QByteArray(400, 'x')));
-    abimee.close();
+    abimeFichier(copie);
     EXPECT_THROW(PrepareRestauration(partage, copie), Erreur);
     EXPECT_THROW(PrepareRestauration(partage, base.dossier() + u"/absente.mdb"_qs), Erreur);
     EXPECT_FALSE(prepareSeul());

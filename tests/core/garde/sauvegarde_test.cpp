@@ -1,5 +1,5 @@
-#include "commun/affiche.h"
-#include "commun/base_essai.h"
+#include "commun/fichiers_essai.h"
+#include "commun/partage_essai.h"
 #include "garde/sauvegarde.h"
 #include "partage/base.h"
 #include "store/base_native.h"
@@ -11,20 +11,14 @@
 
 namespace {
 
-class HorlogeReglable : public Horloge
-{
-public:
-    QDate jour() const override { return date; }
-    QTime heure() const override { return moment; }
-
-    QDate date{2026, 6, 1};
-    QTime moment{8, 0};
-};
-
-class Sauvegardes : public testing::Test
+class Sauvegardes : public testing::Test, protected PartageEssai
 {
 protected:
-    Sauvegardes() { partage.BaseDonnees = base.ouvre(); }
+    Sauvegardes()
+    {
+        horloge.date = QDate(2026, 6, 1);
+        horloge.instant = QTime(8, 0);
+    }
 
     void ecrit(int concours)
     {
@@ -38,7 +32,7 @@ protected:
         partage.BaseDonnees.Close();
         action();
         partage.BaseDonnees = base.ouvre();
-        horloge.moment = horloge.moment.addSecs(1);
+        horloge.instant = horloge.instant.addSecs(1);
         EXPECT_FALSE(SauveBase(partage, RaisonCopie::Depart).echouee());
         return noms().size();
     }
@@ -46,26 +40,7 @@ protected:
     void sauve() { EXPECT_FALSE(SauveBase(partage, RaisonCopie::Demande).echouee()); }
     QDir copies() const { return QDir(base.dossier() + u"/sauvegardes"_qs); }
     QStringList noms() const { return copies().entryList(QDir::Files, QDir::Name); }
-
-    BaseEssai base;
-    AleaFixe alea{1};
-    HorlogeReglable horloge;
-    Partage partage{base.dossier(), alea, horloge};
 };
-
-void pose(const QString &fichier, const QByteArray &octets)
-{
-    QFile ecrit(fichier);
-    EXPECT_TRUE(ecrit.open(QIODevice::WriteOnly)) << fichier.toStdString();
-    ecrit.write(octets);
-}
-
-QByteArray octets(const QString &fichier)
-{
-    QFile lu(fichier);
-    EXPECT_TRUE(lu.open(QIODevice::ReadOnly)) << fichier.toStdString();
-    return lu.readAll();
-}
 
 void date(const QString &fichier, const QDateTime &moment)
 {
@@ -91,7 +66,7 @@ TEST_F(Sauvegardes, UneCopieEstLaBaseDuMoment)
     EXPECT_EQ(noms().size(), 2) << "a copy that has gone holds nothing";
     partage.BaseDonnees.Close();
 
-    EXPECT_FALSE(octets(fichier).startsWith("SQLite"));
+    EXPECT_FALSE(octetsDe(fichier).startsWith("SQLite"));
     store::BaseNative copie(fichier, motDePasseBase, store::BaseNative::Mode::LectureEcriture);
     EXPECT_EQ(copie.valeurUnique(u"select equipe_1 from scores where concours = 1"_qs).entier(), 7);
     EXPECT_EQ(copie.valeurUnique(u"pragma integrity_check"_qs).texte(), u"ok"_qs);
@@ -109,11 +84,11 @@ TEST_F(Sauvegardes, VingtRestentEtLaPremiereDuJour)
     horloge.date = QDate(2026, 6, 1);
     // What bears no name of the program is none of its copies, and stays.
     for (const QString &autre : {u"lisez-moi.txt"_qs, u"VarloBase-finale.mdb"_qs, u"VarloBase-20261399-080000.mdb"_qs})
-        pose(copies().filePath(autre), {});
+        ecritFichier(copies().filePath(autre), {});
     for (int i = 0; i < 30; ++i) {
         ecrit(i);
         sauve();
-        horloge.moment = horloge.moment.addSecs(i % 2 * 60);
+        horloge.instant = horloge.instant.addSecs(i % 2 * 60);
     }
     EXPECT_EQ(noms().size(), 23);
     EXPECT_EQ(noms().filter(u"-20260531-"_qs), QStringList());
@@ -128,7 +103,7 @@ TEST_F(Sauvegardes, UneHorlogeQuiSauteNeChassePasLesDernieres)
 {
     ASSERT_TRUE(QDir(base.dossier()).mkdir(u"sauvegardes"_qs));
     for (int i = 0; i < 20; ++i) // as older versions named them
-        pose(copies().filePath(u"VarloBase-20360101-0800%1.mdb"_qs.arg(i, 2, 10, QChar(u'0'))), {});
+        ecritFichier(copies().filePath(u"VarloBase-20360101-0800%1.mdb"_qs.arg(i, 2, 10, QChar(u'0'))), {});
     for (const int annee : {2036, 2026, 2020}) {
         horloge.date = QDate(annee, 6, 1);
         for (int i = 0; i < 12; ++i) {
@@ -148,7 +123,7 @@ TEST_F(Sauvegardes, LaListeDitLOrdreEtLaRaison)
     ASSERT_TRUE(QDir(base.dossier()).mkdir(u"sauvegardes"_qs));
     for (const QString &nom : {u"20260714-093000-02"_qs, u"20260714-093000"_qs, u"20200101-000000-000007-purge"_qs,
                                u"20360101-000000-000006-inconnue"_qs, u"20260714-093000-000005"_qs})
-        pose(copies().filePath(u"VarloBase-%1.mdb"_qs.arg(nom)), {});
+        ecritFichier(copies().filePath(u"VarloBase-%1.mdb"_qs.arg(nom)), {});
     const std::vector<Copie> liste = ListeCopies(base.dossier());
     ASSERT_EQ(liste.size(), 4U);
     EXPECT_EQ(liste[0].fichier, copies().filePath(u"VarloBase-20260714-093000.mdb"_qs));
@@ -196,20 +171,20 @@ TEST_F(Sauvegardes, SeulUnContenuProuveTientLieuDeCopie)
                       store::Database ouverte = autre.ouvre();
                       ouverte.Execute(u"insert into concours (lieu) values ('Sète')");
                   }
-                  pose(base.fichier(), octets(autre.fichier()));
+                  ecritFichier(base.fichier(), octetsDe(autre.fichier()));
                   date(base.fichier(), QDateTime::currentDateTime().addYears(-3));
               }),
               3);
     // An older copy of the same base, put in its place by a file manager that keeps dates.
     EXPECT_EQ(redemarre([&] {
-                  pose(base.fichier(), octets(premiere));
+                  ecritFichier(base.fichier(), octetsDe(premiere));
                   date(base.fichier(), QDateTime::currentDateTime().addYears(-3));
               }),
               4);
     // A copy that has been cut, or that another has been laid over, holds nothing any more.
     const QString derniere = copies().filePath(noms().back());
-    EXPECT_EQ(redemarre([&] { pose(derniere, octets(derniere).chopped(4096)); }), 5);
-    pose(copies().filePath(noms().back()), QByteArray(octets(derniere).size(), 'x'));
+    EXPECT_EQ(redemarre([&] { ecritFichier(derniere, octetsDe(derniere).chopped(4096)); }), 5);
+    ecritFichier(copies().filePath(noms().back()), QByteArray(octetsDe(derniere).size(), 'x'));
     sauve();
     EXPECT_EQ(noms().size(), 6);
 }
@@ -249,17 +224,15 @@ TEST_F(Sauvegardes, BaseEtCopiesSontASeulUtilisateur)
 
 TEST_F(Sauvegardes, UnEchecSeDit)
 {
-    QFile obstacle(base.dossier() + u"/sauvegardes"_qs);
-    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
-    obstacle.close();
+    ecritFichier(copies().path(), {});
     const BilanCopie bilan = SauveBase(partage, RaisonCopie::Purge);
     EXPECT_TRUE(bilan.echouee());
     EXPECT_EQ(bilan.cause, u"le dossier sauvegardes ne peut pas être créé."_qs);
     ecrit(1);
-    ASSERT_TRUE(obstacle.remove());
+    ASSERT_TRUE(QFile::remove(copies().path()));
     // What a cut copy left behind is no copy, and is taken away.
     ASSERT_TRUE(QDir(base.dossier()).mkdir(u"sauvegardes"_qs));
-    pose(copies().filePath(u"VarloBase-20260601-080000-000001-purge.mdb.encours"_qs), {});
+    ecritFichier(copies().filePath(u"VarloBase-20260601-080000-000001-purge.mdb.encours"_qs), {});
     sauve();
     EXPECT_EQ(noms(), QStringList(u"VarloBase-20260601-080000-000001-demande.mdb"_qs));
     partage.BaseDonnees.Close();

@@ -2,6 +2,7 @@
 
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
+#include "commun/contenu.h"
 #include "imports/texte_recu.h"
 
 #include <gtest/gtest.h>
@@ -26,21 +27,9 @@ protected:
         EXPECT_TRUE(fichier.open(QIODevice::ReadOnly));
         return importe(table, fichier.readAll());
     }
-    QStringList lignes(const QString &sql)
-    {
-        QStringList lues;
-        store::Instruction lecture(base.native(), sql);
-        while (lecture.avance()) {
-            QStringList champs;
-            for (int i = 0; i < lecture.colonnes(); ++i)
-                champs += lecture.estNulle(i) ? u"Null"_qs : lecture.valeur(i).texte();
-            lues += champs.join(u'/');
-        }
-        return lues;
-    }
     QStringList joueurs()
     {
-        return lignes(u"select licence, nom, prenom, societe, sexe, ne from joueurs order by rowid"_qs);
+        return Lignes(base.native(), u"select licence, nom, prenom, societe, sexe, ne from joueurs order by rowid"_qs);
     }
 
     BaseEssai essai;
@@ -53,14 +42,14 @@ TEST_F(ImportTable, TheExamplesFillEveryColumn)
 {
     EXPECT_EQ(importeExemple(TableJoueurs()), 4);
     EXPECT_EQ(joueurs(),
-              QStringList({u"08310001/FABRE/Rémi/Boule Ferrée Lorgues/M/1965-03-12"_qs,
-                           u"08310002/ROUX/Zoé/Boule Ferrée Lorgues/F/1988-11-05"_qs,
-                           u"08310011/MARTIN/Hélène/Les Platanes ; Carcès/F/1952-07-30"_qs,
-                           u"08310021/D'HONORAT/Joëlle/Club \"Carreau\" Fuveau/F/Null"_qs}));
+              QStringList({u"08310001|FABRE|Rémi|Boule Ferrée Lorgues|M|1965-03-12"_qs,
+                           u"08310002|ROUX|Zoé|Boule Ferrée Lorgues|F|1988-11-05"_qs,
+                           u"08310011|MARTIN|Hélène|Les Platanes ; Carcès|F|1952-07-30"_qs,
+                           u"08310021|D'HONORAT|Joëlle|Club \"Carreau\" Fuveau|F|Null"_qs}));
     EXPECT_EQ(importeExemple(TableClubs()), 3);
-    EXPECT_EQ(lignes(u"select codesoc, societe from clubs order by rowid"_qs),
-              QStringList({u"83001/Boule Ferrée Lorgues"_qs, u"83002/Les Platanes ; Carcès"_qs,
-                           u"83003/Club \"Carreau\" Fuveau"_qs}));
+    EXPECT_EQ(Lignes(base.native(), u"select codesoc, societe from clubs order by rowid"_qs),
+              QStringList({u"83001|Boule Ferrée Lorgues"_qs, u"83002|Les Platanes ; Carcès"_qs,
+                           u"83003|Club \"Carreau\" Fuveau"_qs}));
 }
 
 TEST_F(ImportTable, ColumnsAreKnownByManyNamesInAnyOrder)
@@ -71,9 +60,9 @@ TEST_F(ImportTable, ColumnsAreKnownByManyNamesInAnyOrder)
             "Nom du club\n"
             "83\t1965-03-12 00:00:00\tZo\xE9\tROUX\tMme\t0007\tD'Or\n"
             "83\t31/02/1960\tL\xE9o\tBLANC\tMonsieur\t\tD'Or\n");
-    EXPECT_EQ(joueurs(), QStringList({u"0007/ROUX/Zoé/D'Or/F/1965-03-12"_qs, u"Null/BLANC/Léo/D'Or/M/Null"_qs}));
+    EXPECT_EQ(joueurs(), QStringList({u"0007|ROUX|Zoé|D'Or|F|1965-03-12"_qs, u"Null|BLANC|Léo|D'Or|M|Null"_qs}));
     importe(TableClubs(), "Nom,Code\nLa Boule,C12\n");
-    EXPECT_EQ(lignes(u"select codesoc, societe from clubs"_qs), QStringList({u"C12/La Boule"_qs}));
+    EXPECT_EQ(Lignes(base.native(), u"select codesoc, societe from clubs"_qs), QStringList({u"C12|La Boule"_qs}));
 }
 
 TEST_F(ImportTable, AFileOfSomethingElseIsRefusedWhole)

@@ -1,10 +1,8 @@
-#include "commun/affiche.h"
-#include "commun/base_essai.h"
+#include "commun/fichiers_essai.h"
+#include "commun/partage_essai.h"
 #include "partage/concours_courant.h"
 #include "partage/langue.h"
 #include "partage/routines.h"
-
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -12,28 +10,16 @@
 
 namespace {
 
-class EtatPartage : public testing::Test
+class EtatPartage : public testing::Test, protected PartageEssai
 {
 protected:
-    EtatPartage() { partage.BaseDonnees = base.ouvre(); }
-
-    void execute(const QString &sql) { partage.BaseDonnees.native().executeScript(sql); }
+    void execute(const QString &sql) { native().executeScript(sql); }
     QString chemin(const QString &nom) const { return base.dossier() + u'/' + nom; }
-    void poseIcone(const QString &nom)
-    {
-        QFile icone(chemin(nom));
-        ASSERT_TRUE(icone.open(QIODevice::WriteOnly));
-    }
-
-    BaseEssai base;
-    AleaFixe alea{1};
-    Horloge horloge;
-    Partage partage{base.dossier(), alea, horloge};
 };
 
 TEST_F(EtatPartage, LangueActive)
 {
-    poseIcone(u"2.ico"_qs);
+    ecritFichier(chemin(u"2.ico"_qs), {});
     execute(u"insert into traduc (numero, traducteur, icone, actif) values (1, 'Anne', '1.ico', 0), "
             u"(2, 'Ben', '2.ico', -1); "
             u"insert into langues values (1, 0, 'fr'), (2, 180, 'last'), (2, 0, 'first'), (2, 5, '')"_qs);

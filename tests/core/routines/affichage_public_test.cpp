@@ -1,4 +1,4 @@
-#include "concours_joue.h"
+#include "bench/concours_joue.h"
 #include "salle.h"
 
 #include "engine/affichage_public.h"
@@ -99,7 +99,7 @@ TEST(AffichagePublic, TheStateFollowsTheRoundsAndChangesNothing)
 TEST(AffichagePublic, TheRankingIsThatOfTheProgram)
 {
     std::mt19937 sort(3);
-    essai::Concours concours(essai::inscrit(41, {}, sort), true, 3);
+    essai::Concours concours(equipesMelangees(41, {}, sort), true, 3);
     for (int tour = 0; tour < 4; ++tour)
         concours.joueTour({.pourcentMots = 10, .pourcentSansVainqueur = 10});
     Salle salle;

@@ -1,4 +1,3 @@
-#include "concours_joue.h"
 #include "modele_concours.h"
 #include "salle.h"
 
@@ -134,7 +133,7 @@ private:
     Salle m_salle;
     std::deque<modele::Concours> m_concours;
     modele::Concours *m_courant = nullptr;
-    essai::Melange m_melange;
+    Melange m_melange;
     bool m_sansVainqueur = false; ///< Matches without a 13 come in, as an old file may hold them.
     bool m_impatient = false; ///< Draws before all results are in, and beyond the last round.
     bool m_relance = false; ///< A cancelled draw shows the button, whatever else.
@@ -217,11 +216,11 @@ bool Saison::inscrit()
     m_sansVainqueur = chance(25);
     m_impatient = chance(10);
     const Discipline &discipline = disciplines[entre(0, 2)];
-    const auto equipes = essai::inscrit(nombre, m_melange, m_sort);
+    const auto equipes = equipesMelangees(nombre, m_melange, m_sort);
     m_courant = &m_concours.emplace_back();
     m_courant->joueurs = discipline.joueurs;
     m_courant->repeche = chance(50);
-    m_courant->numero = m_salle.inscrit({discipline.type, discipline.joueurs, m_courant->repeche, equipes});
+    m_courant->numero = m_salle.inscrit({.type = discipline.type, .repeche = m_courant->repeche, .equipes = equipes});
     for (const moteur::EquipeInscrite &equipe : equipes)
         m_courant->equipes[equipe.equipe] = {equipe.club, !chance(2)};
     for (const auto &[equipe, inscrite] : m_courant->equipes) {
@@ -336,7 +335,7 @@ donnees::Equipe Saison::fiche(int equipe, const QString &club) const
 
 QString Saison::club()
 {
-    return essai::inscrit(1, m_melange, m_sort).front().club;
+    return equipesMelangees(1, m_melange, m_sort).front().club;
 }
 
 int Saison::equipeAuHasard()

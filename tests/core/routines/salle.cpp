@@ -22,13 +22,6 @@ std::optional<int> optionnel(const Recordset &ligne, QStringView champ)
 
 } // namespace
 
-Salle::Salle(quint32 graine)
-    : alea(graine)
-    , partage(base.dossier(), alea, horloge)
-{
-    partage.BaseDonnees = base.ouvre();
-}
-
 qint32 Salle::inscrit(const ConcoursInscrit &concours)
 {
     const qint32 numero = poseConcours(partage.BaseDonnees, concours);

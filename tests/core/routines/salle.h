@@ -1,17 +1,15 @@
 #pragma once
 
-#include "commun/affiche.h"
-#include "commun/base_essai.h"
 #include "commun/concours_en_base.h"
+#include "commun/partage_essai.h"
 #include "engine/classement.h"
 #include "engine/routines_tirage.h"
-#include "partage/partage.h"
 
 /// A base and the shared state on it: all that the routines around the draws need.
-class Salle
+class Salle : public PartageEssai
 {
 public:
-    explicit Salle(quint32 graine = 1);
+    using PartageEssai::PartageEssai;
 
     /// Registers a competition and makes it the current one.
     qint32 inscrit(const ConcoursInscrit &concours);
@@ -33,10 +31,4 @@ public:
     /// EnregistreScore, in the current competition.
     bool saisit(int equipe1, int equipe2, const QString &score1, const QString &score2);
     qint64 nombre(const QString &sql) { return native().valeurUnique(sql).entier(); }
-    store::BaseNative &native() { return partage.BaseDonnees.native(); }
-
-    BaseEssai base;
-    AleaFixe alea;
-    Horloge horloge;
-    Partage partage;
 };

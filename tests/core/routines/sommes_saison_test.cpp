@@ -1,6 +1,6 @@
+#include "bench/concours_joue.h"
 #include "commun/base_essai.h"
 #include "commun/concours_en_base.h"
-#include "concours_joue.h"
 #include "engine/saison.h"
 
 #include <gtest/gtest.h>
@@ -119,16 +119,13 @@ TEST(SommesSaison, ClubsAndLicencesAddUpToWhatTheRowsOfAllCompetitionsTell)
     std::mt19937 sort(5);
     const char *const types[] = {"1 - Doublettes", "2 - Triplettes", "2 - Triples"};
     for (int i = 0; i < 7; ++i) {
-        essai::Concours joue(essai::inscrit(9 + 7 * i,
-                                            {.clubs = 6, .pourcentPanache = 20, .pourcentSans = 10, .casseMelee = true},
-                                            sort),
-                             i % 2 == 0, quint32(i));
+        essai::Concours
+            joue(equipesMelangees(9 + 7 * i,
+                                  {.clubs = 6, .pourcentPanache = 20, .pourcentSans = 10, .casseMelee = true}, sort),
+                 i % 2 == 0, quint32(i));
         for (int tour = 0; tour < i; ++tour)
             joue.joueTour({.pourcentMots = 10, .pourcentSansVainqueur = 10});
-        const qint32 numero = poseConcours(base,
-                                           {.type = QString::fromUtf8(types[i % 3]),
-                                            .joueurs = i % 3 == 0 ? 2 : 3,
-                                            .equipes = joue.equipes()});
+        const qint32 numero = poseConcours(base, {.type = QString::fromUtf8(types[i % 3]), .equipes = joue.equipes()});
         poseRencontres(base, numero, joue.rencontres());
         base.Execute(u"update concours set date = '2026-0%1-1%1' where concours = %2"_qs.arg(8 - i).arg(numero));
     }

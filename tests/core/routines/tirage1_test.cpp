@@ -1,4 +1,3 @@
-#include "concours_joue.h"
 #include "salle.h"
 
 #include "commun/contenu.h"
@@ -32,7 +31,7 @@ protected:
         concours = salle.inscrit({.equipes = equipes(7)});
     }
 
-    std::vector<moteur::EquipeInscrite> equipes(int nombre) { return essai::inscrit(nombre, {}, sort); }
+    std::vector<moteur::EquipeInscrite> equipes(int nombre) { return equipesMelangees(nombre, {}, sort); }
 
     qint64 lignes(const QString &table, qint32 numero)
     {
@@ -96,31 +95,6 @@ TEST_F(PremierTirage, DejaTireNeTouchePasAuxRencontres)
     EXPECT_EQ(salle.partage.TourCourant, 1);
     salle.choisit(autre);
     EXPECT_EQ(salle.tourpri(), 4);
-}
-
-TEST_F(PremierTirage, SansEquipesOuPresque)
-{
-    for (int nombre : {0, 1}) {
-        salle.inscrit({.equipes = equipes(nombre)});
-        salle.clique();
-        EXPECT_TRUE(salle.scores().empty());
-        EXPECT_EQ(salle.tourpri(), 1);
-        EXPECT_EQ(salle.partage.TourCourant, 1);
-    }
-}
-
-TEST_F(PremierTirage, SeulesLesEquipesDuTableauPrincipalJouent)
-{
-    salle.native().executeScript(
-        u"update evolution set principal = 0 where concours = %1 and equipe in (2, 5)"_qs.arg(concours));
-    salle.clique();
-    std::vector<int> jouent;
-    for (const Partie &ligne : salle.scores()) {
-        jouent.push_back(ligne.equipe1);
-        jouent.push_back(ligne.equipe2);
-    }
-    std::ranges::sort(jouent);
-    EXPECT_EQ(jouent, (std::vector{0, 1, 3, 4, 6, 7}));
 }
 
 /// A store that refuses any one of the rows of an act: the act has not been, and the next click carries it out.
@@ -194,7 +168,7 @@ TEST_F(EcritureCoupee, UnTourProposeEstCeluiQueLesReglesTirent)
 {
     for (const int equipes : {7, 16}) {
         for (const bool repeche : {false, true}) {
-            salle.inscrit({.repeche = repeche, .equipes = essai::inscrit(equipes, {.clubs = 3}, sort)});
+            salle.inscrit({.repeche = repeche, .equipes = equipesMelangees(equipes, {.clubs = 3}, sort)});
             for (int tour = 1; tour <= 3; ++tour) {
                 salle.clique();
                 EXPECT_TRUE(PeutRefaireTour(salle.partage));

@@ -1,4 +1,5 @@
 #include "commun/base_essai.h"
+#include "commun/fichiers_essai.h"
 #include "commun/panne_ecriture.h"
 
 #include <gtest/gtest.h>
@@ -14,20 +15,6 @@
 using namespace store;
 
 namespace {
-
-QByteArray contenu(const QString &fichier)
-{
-    QFile lu(fichier);
-    lu.open(QIODevice::ReadOnly);
-    return lu.readAll();
-}
-
-void remplace(const QString &fichier, const QByteArray &octets)
-{
-    QFile ecrit(fichier);
-    ecrit.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    ecrit.write(octets);
-}
 
 int numeroAOuverture(const QString &fichier, const QString &connexion)
 {
@@ -45,7 +32,7 @@ QMap<QString, QByteArray> fichiers(const QString &dossier)
 {
     QMap<QString, QByteArray> tous;
     for (const QString &nom : QDir(dossier).entryList(QDir::Files))
-        tous[nom] = contenu(QDir(dossier).filePath(nom));
+        tous[nom] = octetsDe(QDir(dossier).filePath(nom));
     return tous;
 }
 
@@ -59,7 +46,7 @@ void tueApresUneSaisie(const BaseEssai &essai, int equipe)
         image = fichiers(essai.dossier());
     }
     for (auto fichier = image.cbegin(); fichier != image.cend(); ++fichier)
-        remplace(essai.dossier() + u'/' + fichier.key(), fichier.value());
+        ecritFichier(essai.dossier() + u'/' + fichier.key(), fichier.value());
     ASSERT_GT(image[u"VarloBase.mdb-wal"_qs].size(), 0);
 }
 
@@ -68,7 +55,7 @@ void tueApresUneSaisie(const BaseEssai &essai, int equipe)
 TEST(Ouverture, TellsEachBadFileApartAndLeavesItUntouched)
 {
     BaseEssai essai;
-    const QByteArray bonne = contenu(essai.fichier());
+    const QByteArray bonne = octetsDe(essai.fichier());
     QByteArray abimee = bonne;
     for (qsizetype i = bonne.size() / 2; i < bonne.size() / 2 + 40; ++i)
         abimee[i] = char(abimee[i] ^ 0x5a);
@@ -91,12 +78,12 @@ TEST(Ouverture, TellsEachBadFileApartAndLeavesItUntouched)
         {QByteArray(), BaseEssai::connexion(), Erreur::FichierEtranger},
     };
     for (std::size_t i = 0; i < std::size(cas); ++i) {
-        remplace(essai.fichier(), cas[i].octets);
+        ecritFichier(essai.fichier(), cas[i].octets);
         EXPECT_EQ(numeroAOuverture(essai.fichier(), cas[i].connexion), cas[i].numero) << i;
-        EXPECT_EQ(contenu(essai.fichier()), cas[i].octets) << i;
+        EXPECT_EQ(octetsDe(essai.fichier()), cas[i].octets) << i;
         EXPECT_EQ(QDir(essai.dossier()).entryList(QDir::Files).size(), 1) << i;
     }
-    remplace(essai.fichier(), bonne);
+    ecritFichier(essai.fichier(), bonne);
     EXPECT_EQ(numeroAOuverture(essai.dossier() + u"/absente.mdb"_qs, BaseEssai::connexion()), Erreur::FichierAbsent);
     EXPECT_EQ(numeroAOuverture(essai.fichier(), u";pwd=qz7tkn42"_qs), 0);
 }
@@ -109,9 +96,9 @@ TEST(Ouverture, RefusesAnEncryptedFileOfOtherTables)
         BaseNative autre(fichier, u"qz7tkn42"_qs, BaseNative::Mode::Creation);
         autre.executeScript(u"create table recettes (nom text)"_qs);
     }
-    const QByteArray avant = contenu(fichier);
+    const QByteArray avant = octetsDe(fichier);
     EXPECT_EQ(numeroAOuverture(fichier, BaseEssai::connexion()), Erreur::FichierEtranger);
-    EXPECT_EQ(contenu(fichier), avant);
+    EXPECT_EQ(octetsDe(fichier), avant);
 }
 
 /// The journal of a killed program holds entries that were acknowledged: they outlive a refusal.
@@ -134,8 +121,8 @@ TEST(Ouverture, ARefusalLeavesBaseAndJournalsAsTheyAre)
         const BaseEssai essai;
         tueApresUneSaisie(essai, 7);
         if (journalVide)
-            remplace(essai.fichier() + u"-wal"_qs, {});
-        const QByteArray bonne = contenu(essai.fichier());
+            ecritFichier(essai.fichier() + u"-wal"_qs, {});
+        const QByteArray bonne = octetsDe(essai.fichier());
         struct Cas
         {
             QByteArray octets;
@@ -144,14 +131,14 @@ TEST(Ouverture, ARefusalLeavesBaseAndJournalsAsTheyAre)
         const Cas cas[] = {
             {QByteArray(bonne).replace(3000, 400, QByteArray(400, 'x')), Erreur::FichierEndommage},
             {bonne.left(bonne.size() / 2 + 100), Erreur::FichierEndommage},
-            {contenu(recettes), Erreur::FichierEtranger},
-            {contenu(copie), journalVide ? 0 : Erreur::JournalEtranger},
-            {contenu(autre.fichier()), journalVide ? 0 : Erreur::JournalEtranger},
+            {octetsDe(recettes), Erreur::FichierEtranger},
+            {octetsDe(copie), journalVide ? 0 : Erreur::JournalEtranger},
+            {octetsDe(autre.fichier()), journalVide ? 0 : Erreur::JournalEtranger},
             {bonne, 0},
         };
         for (std::size_t i = 0; i < std::size(cas); ++i) {
             SCOPED_TRACE(i);
-            remplace(essai.fichier(), cas[i].octets);
+            ecritFichier(essai.fichier(), cas[i].octets);
             const auto avant = fichiers(essai.dossier());
             EXPECT_EQ(numeroAOuverture(essai.fichier(), BaseEssai::connexion()), cas[i].numero);
             if (cas[i].numero != 0) {
@@ -173,7 +160,7 @@ TEST(Ouverture, AJournalIsNotTakenIntoACopyOfItsOwnBase)
         base.native().copieVers(essai.dossier() + u"/copie.mdb"_qs);
     }
     tueApresUneSaisie(essai, 7);
-    remplace(essai.fichier(), contenu(essai.dossier() + u"/copie.mdb"_qs));
+    ecritFichier(essai.fichier(), octetsDe(essai.dossier() + u"/copie.mdb"_qs));
     const auto avant = fichiers(essai.dossier());
     EXPECT_EQ(numeroAOuverture(essai.fichier(), BaseEssai::connexion()), Erreur::JournalEtranger);
     EXPECT_EQ(fichiers(essai.dossier()), avant);
@@ -182,7 +169,7 @@ TEST(Ouverture, AJournalIsNotTakenIntoACopyOfItsOwnBase)
 TEST(Ouverture, RefusesWhatMayNotBeWrittenOrReadAtAll)
 {
     BaseEssai essai;
-    const QByteArray avant = contenu(essai.fichier());
+    const QByteArray avant = octetsDe(essai.fichier());
     chmod(essai.dossier().toUtf8().constData(), 0555);
     for (const mode_t droits : {0444, 0}) {
         chmod(essai.fichier().toUtf8().constData(), droits);
@@ -199,7 +186,7 @@ TEST(Ouverture, RefusesWhatMayNotBeWrittenOrReadAtAll)
     }
     chmod(essai.dossier().toUtf8().constData(), 0755);
     chmod(essai.fichier().toUtf8().constData(), 0644);
-    EXPECT_EQ(contenu(essai.fichier()), avant);
+    EXPECT_EQ(octetsDe(essai.fichier()), avant);
 }
 
 TEST(Ouverture, KeepsWhatWasWrittenAndNeverInClear)
@@ -211,7 +198,7 @@ TEST(Ouverture, KeepsWhatWasWrittenAndNeverInClear)
         base.Close();
         EXPECT_THROW(base.Execute(u"delete * from societes"), Erreur);
     }
-    EXPECT_FALSE(contenu(essai.fichier()).contains("DORMEUSE"));
+    EXPECT_FALSE(octetsDe(essai.fichier()).contains("DORMEUSE"));
     EXPECT_EQ(QDir(essai.dossier()).entryList(QDir::Files), QStringList{u"VarloBase.mdb"_qs});
     Database base = essai.ouvre();
     EXPECT_EQ(base.OpenRecordset(u"select * from societes")[u"codesoc"].entier(), 3);
@@ -247,7 +234,7 @@ TEST(Ouverture, TheFileItselfFollowsWhatIsTyped)
     base.native().consolide();
     EXPECT_FALSE(base.native().journalEnAttente());
     const BaseEssai copie;
-    remplace(copie.fichier(), contenu(essai.fichier()));
+    ecritFichier(copie.fichier(), octetsDe(essai.fichier()));
     EXPECT_EQ(copie.ouvre().OpenRecordset(u"select count(*) from scores where score_1 = 13")[0].entier(), parties);
 }
 

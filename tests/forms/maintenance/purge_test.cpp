@@ -3,7 +3,6 @@
 #include "app/formes.h"
 #include "commun/affiche.h"
 #include "commun/base_essai.h"
-#include "commun/concours_en_base.h"
 #include "commun/contenu.h"
 #include "commun/panne_ecriture.h"
 #include "commun/programme_pilote.h"
@@ -79,7 +78,7 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(prog.demarre());
-        concours = poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}, {3, u"C"_qs}, {4, u"D"_qs}}});
+        concours = poseConcours(prog.base(), {.equipes = equipesDeClubs(4)});
         poseRencontres(prog.base(), concours,
                        {{.tour = 1, .rencontre = 1, .equipe1 = 1, .equipe2 = 2},
                         {.tour = 1, .rencontre = 2, .equipe1 = 3, .equipe2 = 4}});

@@ -1,5 +1,4 @@
 #include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +17,7 @@ protected:
     {
         prog.avecCopies();
         ASSERT_TRUE(prog.demarre()); // makes the first copy
-        poseConcours(prog.base(), {.equipes = {{1, u"A"_qs}, {2, u"B"_qs}}});
+        poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
         prog.ouvre(u"f_resultats"_qs);
         prog.touche(Qt::Key_F9);
     }

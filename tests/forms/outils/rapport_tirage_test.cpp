@@ -1,7 +1,7 @@
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
-#include "commun/papier_garde.h"
 #include "commun/programme_pilote.h"
+#include "forms/feuilles_essai.h"
 #include "noms/apres_tirage.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +25,6 @@ protected:
         ASSERT_TRUE(prog.demarre());
         concours = poseConcours(prog.base(),
                                 {.type = u"1 - Doublettes"_qs,
-                                 .joueurs = 2,
                                  .repeche = true,
                                  .equipes = {{1, u"A"_qs}, {2, u"A"_qs}, {3, u"B"_qs}, {4, u"C"_qs}}});
         poseRencontres(prog.base(), concours,

@@ -1,7 +1,5 @@
 #include "concours_joue.h"
 
-#include "engine/clubs.h"
-
 #include <algorithm>
 #include <tuple>
 
@@ -9,25 +7,6 @@ namespace essai {
 
 using moteur::LigneClassement;
 using moteur::Partie;
-
-std::vector<moteur::EquipeInscrite> inscrit(int nombre, const Melange &melange, std::mt19937 &sort)
-{
-    const auto chance = [&sort](int pourcent) { return int(sort() % 100) < pourcent; };
-    std::vector<moteur::EquipeInscrite> equipes;
-    for (int equipe = 1; equipe <= nombre; ++equipe) {
-        QString club = u"Pétanque de Sète"_qs;
-        if (!chance(melange.pourcentHote))
-            club = u"Boule %1"_qs.arg(sort() % quint32(melange.clubs));
-        if (melange.casseMelee && chance(40))
-            club = club.toUpper();
-        if (chance(melange.pourcentPanache))
-            club = chance(25) ? u"*PANACHÉE"_qs : moteur::clubPanache.toString();
-        if (chance(melange.pourcentSans))
-            club.clear();
-        equipes.push_back({equipe, club});
-    }
-    return equipes;
-}
 
 Concours::Concours(std::vector<moteur::EquipeInscrite> equipes, bool repeche, quint32 graine)
     : m_equipes(std::move(equipes))

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "inscription_essai.h"
 #include "papier/imprimante.h"
 
 #include <QRect>
 #include <QStringList>
 
-#include <gtest/gtest.h>
+constexpr int largeurPapier = 11906; ///< A4, in twips.
+constexpr int hauteurPapier = 16838;
 
 /// Pages of one printed document.
 using Pages = std::vector<PageDessinee>;
@@ -50,6 +52,23 @@ inline QString texteDe(const PageDessinee &page)
     return textes.join(u'|');
 }
 
+/// Texts of a page that start at one of the places \p gauches, those of one height joined by bars.
+inline QStringList rangeesA(const PageDessinee &page, const QList<int> &gauches)
+{
+    QStringList rangees;
+    int y = -1;
+    for (const Dessin &dessin : page.dessins) {
+        if (dessin.genre != Dessin::Texte || !gauches.contains(dessin.x1))
+            continue;
+        if (dessin.y1 == y)
+            rangees.back() += u'|' + dessin.texte;
+        else
+            rangees += dessin.texte;
+        y = dessin.y1;
+    }
+    return rangees;
+}
+
 /// No two texts of a page lie over each other, and none goes over the edge \p droite or into the footer, the line that
 /// starts at \p pied; twips.
 inline void VerifiePlaces(const PageDessinee &page, int droite, int pied)
@@ -70,3 +89,24 @@ inline void VerifiePlaces(const PageDessinee &page, int droite, int pied)
 /// The longest texts that the head of a sheet has to bear.
 inline const QString lieuLong = u"BOULODROME JEAN MOULIN ET ROBERT, SAINT-RAPHAËL 83"_qs;
 inline const QString categorieLongue = u"Grand Prix de la Ville"_qs;
+
+/// Sheets printed by the real forms: the printer keeps its documents.
+class FeuillesEssai : public Inscription
+{
+protected:
+    void SetUp() override
+    {
+        Inscription::SetUp();
+        boites.imprimante = [this] { return std::make_unique<DestinationGardee>(documents); };
+    }
+
+    /// Pages of the one document that \p acte prints; of none, when there is no single one.
+    Pages imprimes(const std::function<void()> &acte)
+    {
+        documents.clear();
+        acte();
+        return documents.size() == 1 ? documents.front() : Pages();
+    }
+
+    std::vector<Pages> documents;
+};

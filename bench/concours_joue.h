@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commun/concours_en_base.h"
 #include "engine/controle_tours.h"
-#include "engine/tirage_tour1.h"
 #include "partage/alea.h"
 
 #include <random>
@@ -9,24 +9,12 @@
 /// Competitions played to the end with invented teams and results, the same for the same seed.
 namespace essai {
 
-/// How the clubs of a field are mixed.
-struct Melange
-{
-    int clubs = 10;
-    int pourcentHote = 0; ///< Share of the club that receives.
-    int pourcentPanache = 0; ///< Share of mixed teams, at times spelt in capitals.
-    int pourcentSans = 0; ///< Share of teams without a club.
-    bool casseMelee = false; ///< Names of one club in different cases of letters.
-};
-
 /// How results come in.
 struct Saisie
 {
     int pourcentMots = 0; ///< Scores -1 to -3.
     int pourcentSansVainqueur = 0; ///< Matches without a 13.
 };
-
-std::vector<moteur::EquipeInscrite> inscrit(int nombre, const Melange &melange, std::mt19937 &sort);
 
 class Concours
 {
