@@ -1,12 +1,6 @@
 #include "commun/programme_essai.h"
 
-#include "fenetres/formulaires.h"
 #include "partage/routines.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QTest>
 
 namespace {
 

@@ -1,12 +1,6 @@
 #pragma once
 
-#include "commun/contenu.h"
 #include "commun/programme_pilote.h"
-
-#include <QComboBox>
-#include <QLineEdit>
-
-#include <gtest/gtest.h>
 
 /// A started program in each test of a fixture, whose boxes have all come when the test ends.
 class ProgrammeEssai : public testing::Test, protected ProgrammePilote

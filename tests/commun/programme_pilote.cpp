@@ -2,12 +2,8 @@
 
 #include "app/torvik.h"
 #include "aspect/apparence.h"
-#include "commun/contenu.h"
 #include "garde/sauvegarde.h"
 
-#include <gtest/gtest.h>
-
-#include <QFile>
 #include <QWindow>
 
 namespace {
@@ -51,6 +47,14 @@ void ProgrammePilote::termine()
 QWidget *ProgrammePilote::torvik() const
 {
     return m_programme->torvik();
+}
+
+QString ProgrammePilote::textes(const QString &forme, const QString &noms) const
+{
+    QStringList lus;
+    for (const QString &nom : noms.split(u' '))
+        lus += texte(forme, nom);
+    return lus.join(u'|');
 }
 
 /// The mouse goes through the window, as from the desktop: it meets whatever stands at that place by then. The program

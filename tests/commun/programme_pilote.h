@@ -1,13 +1,42 @@
 #pragma once
 
-#include "commun/boites_script.h"
+// What the tests of windows need, all of it: their own includes tell what each is about.
 #include "commun/concours_en_base.h"
+#include "commun/contenu.h"
+#include "commun/fichiers_essai.h"
 #include "commun/partage_essai.h"
+#include "fenetres/formulaires.h"
+#include "grille/flexgrid.h"
+#include "papier/imprimante.h"
+#include "pilote/boites_pilotees.h"
 #include "pilote/gestes.h"
 
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+
+/// Boxes that fail the test when one comes that was not awaited, or one that was has not come by its end.
+class BoitesEssai final : public pilote::BoitesPilotees
+{
+public:
+    BoitesEssai() = default;
+    ~BoitesEssai() override { verifie(); }
+    Q_DISABLE_COPY_MOVE(BoitesEssai)
+
+private:
+    void signale(const QString &phrase) override { ADD_FAILURE() << phrase.toStdString(); }
+};
 
 /// The whole program on a fresh base of its own, driven by keys and clicks as an operator drives it.
 class ProgrammePilote : public pilote::Gestes
@@ -33,6 +62,8 @@ public:
     /// First column of the first row of a statement.
     store::Valeur valeur(const QString &sql) { return base().native().valeurUnique(sql); }
 
+    /// Texts of the controls \p noms, which blanks part, joined by bars.
+    QString textes(const QString &forme, const QString &noms) const;
     void clique(const QString &forme, const QString &nom);
     /// Press, release, second press and release, as they come from a mouse.
     void doubleClique(const QString &forme, const QString &nom);
@@ -42,7 +73,7 @@ public:
     /// Opens a family of forms from the main window, by its button.
     void ouvre(const QString &bouton) { clique({}, bouton); }
 
-    BoitesScript boites;
+    BoitesEssai boites;
     AleaFixe alea;
     HorlogeArretee horloge;
 

@@ -2,13 +2,9 @@
 #include "fenetres/touches_alt.h"
 #include "formes_ouvertes.h"
 
-#include <QAbstractButton>
 #include <QAccessible>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
-#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTableView>
 

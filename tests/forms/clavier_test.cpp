@@ -1,18 +1,10 @@
 // A whole day without a mouse, and the keys that make it possible.
 #include "app/manuel.h"
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 #include "fenetres/touches_alt.h"
-#include "grille/flexgrid.h"
 #include "partage/langue.h"
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QDesktopServices>
-#include <QDir>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QTextBrowser>
 

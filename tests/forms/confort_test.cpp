@@ -1,12 +1,7 @@
 #include "formes_ouvertes.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTableView>
 

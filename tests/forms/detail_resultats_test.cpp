@@ -1,9 +1,6 @@
 #include "salle_resultats.h"
 
-#include "grille/flexgrid.h"
 #include "results/etat_resultats.h"
-
-#include <QPlainTextEdit>
 
 namespace {
 

@@ -1,8 +1,5 @@
-#include "commun/contenu.h"
 #include "commun/panne_ecriture.h"
 #include "commun/programme_essai.h"
-
-#include <QComboBox>
 
 namespace {
 

@@ -1,12 +1,6 @@
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 
 namespace {
 

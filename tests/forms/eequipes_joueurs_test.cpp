@@ -2,9 +2,6 @@
 
 #include "noms/passation.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-
 namespace {
 
 const QString panachee = u"*Panachée"_qs;
@@ -57,8 +54,7 @@ TEST_F(JoueursDEquipe, MixedTeamsAreAskedForOnceACompetition)
     ouvre();
     licence(0, u"0831"_qs);
     licence(1, u" 0832 "_qs); // of the same club, in other letters
-    EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"ROUX"_qs);
-    EXPECT_EQ(texte(E, u"Société"_qs), u"DUP"_qs);
+    EXPECT_EQ(textes(E, u"NomJ_1 Société"_qs), u"ROUX|DUP"_qs);
     boites.attend(questionPanachees, ReponseBoite::Non);
     licence(1, u"0840"_qs);
     EXPECT_EQ(boites.titre(), u"Enregistrement des équipes"_qs);
@@ -150,8 +146,7 @@ TEST_F(JoueursDEquipe, TheWalkEndsAtTheFirstEmptyLicence)
     ouvre(u"2 - Triplettes"_qs);
     remplit(E, u"Société"_qs, u"MAR"_qs);
     licence(2, u"0840"_qs);
-    EXPECT_EQ(texte(E, u"NomJ_2"_qs), QString());
-    EXPECT_EQ(texte(E, u"Société"_qs), QString());
+    EXPECT_EQ(textes(E, u"NomJ_2 Société"_qs), u"|"_qs);
     EXPECT_EQ(focus(), u"NomJ_2"_qs);
     entre();
     entre();

@@ -1,9 +1,6 @@
 #include "commun/panne_ecriture.h"
 #include "inscription_essai.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-
 namespace {
 
 class Enregistrement : public Inscription
@@ -22,9 +19,7 @@ TEST_F(Enregistrement, ATeamGoesInByKeyboardAloneAndSurvivesARestart)
     tape(u"0831"_qs);
     entre();
     EXPECT_EQ(focus(), u"NomJ_0"_qs);
-    EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"FABRE"_qs);
-    EXPECT_EQ(texte(E, u"PrénomJ_0"_qs), u"Rémi"_qs);
-    EXPECT_EQ(texte(E, u"Société"_qs), u"Boule d'Ampus"_qs);
+    EXPECT_EQ(textes(E, u"NomJ_0 PrénomJ_0 Société"_qs), u"FABRE|Rémi|Boule d'Ampus"_qs);
     entre();
     EXPECT_EQ(focus(), u"PrénomJ_0"_qs);
     entre();
@@ -63,8 +58,7 @@ TEST_F(Enregistrement, ProposalsHaveFiveDigitsOnlyBehindANewTeam)
 
     appelle(u"2"_qs);
     EXPECT_EQ(focus(), u"Société"_qs);
-    EXPECT_EQ(texte(E, u"Equipe"_qs), u"0002"_qs);
-    EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"B"_qs);
+    EXPECT_EQ(textes(E, u"Equipe NomJ_0"_qs), u"0002|B"_qs);
     EXPECT_TRUE(visible(E, u"SupprimerC"_qs));
     EXPECT_FALSE(visible(E, u"cImport"_qs));
     clic(E, u"Okc"_qs);
@@ -100,9 +94,7 @@ TEST_F(Enregistrement, GapsStayAndOnlyTheHighestNumberComesBack)
     EXPECT_EQ(numeros(concours), QStringList({u"1"_qs, u"3"_qs}));
     EXPECT_EQ(lignes(u"select equipe from evolution order by 1"_qs), QStringList({u"1"_qs, u"3"_qs}));
     EXPECT_EQ(nombre(u"select count(*) from scores"_qs), 1);
-    EXPECT_EQ(texte(E, u"Label7"_qs), u"2"_qs);
-    EXPECT_EQ(texte(E, u"Equipe"_qs), u"0004"_qs);
-    EXPECT_EQ(texte(E, u"NomJ_0"_qs), QString());
+    EXPECT_EQ(textes(E, u"Label7 Equipe NomJ_0"_qs), u"2|0004|"_qs);
     EXPECT_FALSE(visible(E, u"SupprimerC"_qs));
     for (int i = 0; i < liste(E, u"Equipe"_qs)->count(); ++i)
         EXPECT_NE(liste(E, u"Equipe"_qs)->itemText(i).toInt(), 2);
@@ -214,9 +206,7 @@ TEST_F(Enregistrement, AFailingStoreNeverLeavesATeamThatLooksRegistered)
     boites.attend(u"L'équipe 2 n'a pas pu être enregistrée"_qs);
     inscrit(u"B"_qs, u"DUP"_qs);
     EXPECT_EQ(numeros(concours), QStringList({u"1"_qs}));
-    EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"B"_qs);
-    EXPECT_EQ(texte(E, u"Equipe"_qs), u"00002"_qs);
-    EXPECT_EQ(texte(E, u"Label7"_qs), u"1"_qs);
+    EXPECT_EQ(textes(E, u"NomJ_0 Equipe Label7"_qs), u"B|00002|1"_qs);
 
     abime(u"drop trigger panne"_qs);
     clic(E, u"Okc"_qs);

@@ -1,10 +1,6 @@
 #include "inscription_essai.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QRadioButton>
-#include <QTest>
 
 namespace {
 
@@ -84,8 +80,7 @@ TEST_F(Joueurs, ACorrectionStoresTheTextsAsTypedAndProposesTheNumberOfTheTeams)
     ouvreJoueurs();
     EXPECT_EQ(numero(), u"0004"_qs);
     appelleJoueur(u"2"_qs);
-    EXPECT_EQ(texte(J, u"NomJ_0"_qs), u"DEUX"_qs);
-    EXPECT_EQ(texte(J, u"ne"_qs), u"31/01/1960"_qs);
+    EXPECT_EQ(textes(J, u"NomJ_0 ne"_qs), u"DEUX|31/01/1960"_qs);
     EXPECT_TRUE(coche(u"Feminin"_qs));
     EXPECT_TRUE(visible(J, u"SupprimerC"_qs));
     EXPECT_EQ(focus(), u"Société"_qs);

@@ -1,9 +1,5 @@
 #include "salle_resultats.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QTest>
-
 namespace {
 
 const QString vides = u"   "_qs; ///< Four empty fields.
@@ -234,23 +230,6 @@ TEST_F(SaisieResultats, ScoreSansRencontreRefuse)
     // Validated in between, the score field takes the focus without a word.
     prog.tape(u"\n"_qs);
     EXPECT_EQ(prog.focus(), u"Score1"_qs);
-}
-
-TEST_F(SaisieResultats, EchecDeLaBaseDitUneFois)
-{
-    execute(u"create temp trigger coupe before update on main.scores begin select raise(abort, 'disque'); end"_qs);
-    appelle(0);
-    prog.boites.attend(u"Erreur"_qs);
-    prog.tape(u"7\n"_qs);
-    prog.boites.verifie();
-    EXPECT_FALSE(matchs()[0].score1.has_value());
-    execute(u"drop trigger coupe"_qs);
-
-    controle(u"Equipe1"_qs)->setFocus();
-    qobject_cast<QLineEdit *>(controle(u"Equipe1"_qs))->clear();
-    appelle(0);
-    prog.tape(u"8\n"_qs);
-    attendEnregistre(0, 8, 13);
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "papier/destinations.h"
 #include "printing/imprime_detail.h"
 
-#include <QFile>
 #include <QPageSize>
 #include <QProcess>
 #include <QRegularExpression>

@@ -1,13 +1,10 @@
 #pragma once
 
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 #include "partage/langue.h"
 #include "printing/resusoc.h"
 #include "results/detail_resultats.h"
 #include "results/etat_resultats.h"
-
-#include <gtest/gtest.h>
 
 /// Every form of the program, open as its users open it, in any of its languages: for what all forms owe.
 class FormesOuvertes : public testing::Test

@@ -1,7 +1,5 @@
 #include "feuilles_essai.h"
 
-#include <QLineEdit>
-
 namespace {
 
 const QString D = u"I_tirage"_qs;

@@ -1,7 +1,4 @@
 #include "feuilles_essai.h"
-#include "grille/flexgrid.h"
-
-#include <QTest>
 
 namespace {
 

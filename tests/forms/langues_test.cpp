@@ -1,13 +1,7 @@
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractItemView>
-#include <QAction>
-#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QPushButton>
 
 namespace {
 

@@ -1,14 +1,7 @@
-#include "grille/flexgrid.h"
 #include "inscription_essai.h"
 #include "noms/passation.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QDir>
-#include <QFile>
 #include <QHeaderView>
-#include <QLineEdit>
-#include <QTest>
 
 namespace {
 

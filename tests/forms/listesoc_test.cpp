@@ -1,10 +1,7 @@
-#include "grille/flexgrid.h"
 #include "inscription_essai.h"
 #include "noms/passation.h"
 
 #include <QHeaderView>
-#include <QLineEdit>
-#include <QTest>
 
 namespace {
 

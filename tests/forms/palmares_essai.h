@@ -1,11 +1,6 @@
 #pragma once
 
-#include "fenetres/formulaires.h"
 #include "feuilles_essai.h"
-#include "grille/flexgrid.h"
-
-#include <QAbstractButton>
-#include <QTest>
 
 #include <optional>
 

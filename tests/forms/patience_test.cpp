@@ -1,10 +1,5 @@
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 #include "fenetres/patience.h"
-
-#include <gtest/gtest.h>
-
-#include <QPlainTextEdit>
 
 namespace {
 

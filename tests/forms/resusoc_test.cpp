@@ -1,12 +1,9 @@
-#include "fenetres/formulaires.h"
 #include "feuilles_essai.h"
-#include "grille/flexgrid.h"
 #include "partage/concours_courant.h"
 #include "printing/imprime_equipe.h"
 #include "printing/resusoc.h"
 
 #include <QRadioButton>
-#include <QTest>
 
 #include <algorithm>
 

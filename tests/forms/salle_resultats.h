@@ -1,9 +1,6 @@
 #pragma once
 
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
-
-#include <gtest/gtest.h>
 
 #include <optional>
 #include <vector>
@@ -40,6 +37,7 @@ protected:
 
     QWidget *controle(const QString &nom) { return prog.controle(u"EResultats"_qs, nom); }
     QString texte(const QString &nom) { return prog.texte(u"EResultats"_qs, nom); }
+    QString textes(const QString &noms) { return prog.textes(u"EResultats"_qs, noms); }
     bool visible(const QString &nom) { return controle(nom)->isVisible(); }
     /// Texts of the four fields of a match, joined by blanks.
     QString champs();

@@ -1,36 +1,16 @@
 #include "app/formes.h"
 #include "app/torvik.h"
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 #include "garde/sauvegarde.h"
 #include "partage/base.h"
 #include "store/base_native.h"
 #include "store/preuve.h"
 
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QDir>
-#include <QFile>
 #include <QMenu>
-#include <QPlainTextEdit>
 
 #include <map>
 
 namespace {
-
-QByteArray contenu(const QString &fichier)
-{
-    QFile lu(fichier);
-    return lu.open(QIODevice::ReadOnly) ? lu.readAll() : QByteArray();
-}
-
-void remplace(const QString &fichier, const QByteArray &octets)
-{
-    QFile ecrit(fichier);
-    ecrit.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    ecrit.write(octets);
-}
 
 bool visible(ProgrammePilote &prog, const QString &forme)
 {
@@ -181,18 +161,18 @@ TEST(FenetrePrincipale, BaseInutilisableFinitParUneBoite)
         if (cas == u"absente")
             QFile::remove(prog.fichier());
         else if (cas == u"étrangère")
-            remplace(prog.fichier(), enClair);
+            ecritFichier(prog.fichier(), enClair);
         else if (cas == u"vide")
-            remplace(prog.fichier(), {});
+            ecritFichier(prog.fichier(), {});
         else
-            remplace(prog.fichier(), contenu(prog.fichier()).replace(9000, 400, QByteArray(400, 'x')));
-        const QByteArray avant = contenu(prog.fichier());
+            abimeFichier(prog.fichier());
+        const QByteArray avant = octetsDe(prog.fichier());
         prog.boites.attend(u"VarloBase.mdb"_qs);
         EXPECT_FALSE(prog.demarre());
         prog.boites.verifie();
         EXPECT_EQ(prog.boites.drapeaux(), vbCritical);
         EXPECT_FALSE(visible(prog, u"Accueil"_qs));
-        EXPECT_EQ(contenu(prog.fichier()), avant);
+        EXPECT_EQ(octetsDe(prog.fichier()), avant);
         EXPECT_EQ(QFile::exists(prog.fichier()), cas != u"absente");
     }
 }
@@ -254,7 +234,7 @@ TEST(FenetrePrincipale, UneBaseDeChaqueVersionSOuvre)
     for (const QString &version : versions) {
         SCOPED_TRACE(version.toStdString());
         ProgrammePilote prog;
-        remplace(prog.fichier(), contenu(anciennes.filePath(version)));
+        ecritFichier(prog.fichier(), octetsDe(anciennes.filePath(version)));
         ASSERT_TRUE(prog.demarre());
         EXPECT_EQ(prog.valeur(u"pragma user_version"_qs).entier(), store::versionBase);
         EXPECT_EQ(prog.valeur(u"select count(*) from scores where score_1 is not null"_qs).entier(), 4);
@@ -274,15 +254,15 @@ TEST(FenetrePrincipale, UneBaseRefuseeCedeSaPlaceALaDerniereCopieOuReste)
         if (absente)
             QFile::remove(prog.fichier());
         else
-            remplace(prog.fichier(), contenu(prog.fichier()).replace(9000, 400, QByteArray(400, 'x')));
-        const QByteArray avant = contenu(prog.fichier());
+            abimeFichier(prog.fichier());
+        const QByteArray avant = octetsDe(prog.fichier());
         prog.boites.attendChoix(u"Voici les copies de sécurité complètes"_qs, {});
         EXPECT_FALSE(prog.demarre());
         prog.boites.verifie();
         ASSERT_EQ(prog.boites.lignes().size(), 1U);
         EXPECT_TRUE(prog.boites.textes().last().contains(absente ? u"VarloBase.mdb est introuvable"_qs
                                                                  : u"VarloBase.mdb est endommagé"_qs));
-        EXPECT_EQ(contenu(prog.fichier()), avant);
+        EXPECT_EQ(octetsDe(prog.fichier()), avant);
         prog.boites.attendChoix(u"laquelle remettre à la place ?"_qs, 0);
         prog.boites.attend(u"est en place"_qs);
         ASSERT_TRUE(prog.demarre());
@@ -290,7 +270,7 @@ TEST(FenetrePrincipale, UneBaseRefuseeCedeSaPlaceALaDerniereCopieOuReste)
         const QStringList gardees = QDir(prog.dossier()).entryList({u"VarloBase-refusee-*.mdb"_qs});
         ASSERT_EQ(gardees.size(), absente ? 0 : 1);
         if (!absente) {
-            EXPECT_EQ(contenu(prog.dossier() + u'/' + gardees.front()), avant);
+            EXPECT_EQ(octetsDe(prog.dossier() + u'/' + gardees.front()), avant);
         }
         prog.termine();
     }
@@ -299,21 +279,21 @@ TEST(FenetrePrincipale, UneBaseRefuseeCedeSaPlaceALaDerniereCopieOuReste)
 TEST(FenetrePrincipale, UnJournalResteACoteDUneAutreBaseEstGarde)
 {
     ProgrammePilote prog;
-    const QByteArray originale = contenu(prog.fichier());
+    const QByteArray originale = octetsDe(prog.fichier());
     ASSERT_TRUE(prog.demarre());
     for (const QString &club : {u"A"_qs, u"B"_qs, u"ECRITE"_qs}) {
         prog.base().native().consolide();
         prog.base().Execute(u"insert into societes (societe) values ('%1')"_qs.arg(club));
     }
-    const QByteArray journal = contenu(prog.fichier() + u"-wal"_qs);
+    const QByteArray journal = octetsDe(prog.fichier() + u"-wal"_qs);
     ASSERT_FALSE(journal.isEmpty());
     prog.termine();
-    remplace(prog.fichier(), originale);
-    remplace(prog.fichier() + u"-wal"_qs, journal);
+    ecritFichier(prog.fichier(), originale);
+    ecritFichier(prog.fichier() + u"-wal"_qs, journal);
     prog.boites.attend(
         u"Ce journal n'y est pas repris : il est gardé dans VarloBase-journal-20260714-093000.mdb-wal"_qs);
     ASSERT_TRUE(prog.demarre());
-    EXPECT_EQ(contenu(prog.dossier() + u"/VarloBase-journal-20260714-093000.mdb-wal"_qs), journal);
+    EXPECT_EQ(octetsDe(prog.dossier() + u"/VarloBase-journal-20260714-093000.mdb-wal"_qs), journal);
     EXPECT_EQ(prog.valeur(u"select count(*) from societes where societe = 'ECRITE'"_qs).entier(), 0);
 }
 
@@ -335,7 +315,7 @@ TEST(FenetrePrincipale, UneBaseQuiDisparaitPendantLeTravailSeDitEtSeCopie)
         {u"a été remplacé"_qs,
          [](const QString &base) {
              QFile::remove(base);
-             remplace(base, "autre");
+             ecritFichier(base, "autre");
          }},
         {u"a été réécrit ou coupé"_qs, [&](const QString &base) { reecrit(base, QFileInfo(base).size()); }},
         {u"a été réécrit ou coupé"_qs, [&](const QString &base) { reecrit(base, 0); }},
@@ -348,7 +328,7 @@ TEST(FenetrePrincipale, UneBaseQuiDisparaitPendantLeTravailSeDitEtSeCopie)
         poseConcours(prog.base(), {.equipes = equipesDeClubs(2)});
         prog.base().native().consolide();
         c.geste(prog.fichier());
-        const QByteArray apres = contenu(prog.fichier());
+        const QByteArray apres = octetsDe(prog.fichier());
         prog.boites.attend(c.dit);
         prog.ouvre(u"f_resultats"_qs);
         prog.boites.verifie();
@@ -357,7 +337,7 @@ TEST(FenetrePrincipale, UneBaseQuiDisparaitPendantLeTravailSeDitEtSeCopie)
         prog.ouvre(u"f_equipes"_qs); // told once
         prog.ouvre(u"f_accueil"_qs);
         prog.termine();
-        EXPECT_EQ(contenu(prog.fichier()), apres) << "the other file is somebody else's";
+        EXPECT_EQ(octetsDe(prog.fichier()), apres) << "the other file is somebody else's";
         store::BaseNative copie(ListeCopies(prog.dossier()).back().fichier, motDePasseBase,
                                 store::BaseNative::Mode::LectureSeule);
         EXPECT_EQ(copie.valeurUnique(u"select count(*) from equipes"_qs).entier(), 4);

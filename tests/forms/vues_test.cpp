@@ -1,11 +1,7 @@
 #include "salle_resultats.h"
 
-#include "fenetres/formulaires.h"
-#include "grille/flexgrid.h"
 #include "results/etat_resultats.h"
 
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QTabBar>
 

@@ -33,14 +33,4 @@ TEST(Apparence, EveryPictureDrawsAndTheSheetFindsItsOwn)
     }
 }
 
-TEST(Apparence, TextIsLarge)
-{
-    appliqueApparence(*qApp);
-    EXPECT_GE(QApplication::font().pointSizeF(), 11);
-    auto tailles = QRegularExpression(QStringLiteral("font-size: (\\d+)pt")).globalMatch(qApp->styleSheet());
-    ASSERT_TRUE(tailles.hasNext());
-    while (tailles.hasNext())
-        EXPECT_GE(tailles.next().captured(1).toInt(), 11);
-}
-
 } // namespace

@@ -1,4 +1,5 @@
 #include "aspect/apparence.h"
+#include "commun/contraste.h"
 #include "grille/flexgridmodele.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <map>
 
 // The ratios of the accessibility guidelines, level AA.
@@ -20,18 +20,6 @@ namespace {
 constexpr double deTexte = 4.5;
 constexpr double deForme = 3;
 const QColor blanc = Qt::white;
-
-double clarte(const QColor &couleur)
-{
-    const auto lineaire = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) + 0.0722 * lineaire(couleur.blueF());
-}
-
-double contraste(const QColor &a, const QColor &b)
-{
-    const auto [sombre, clair] = std::minmax({clarte(a), clarte(b)});
-    return (clair + 0.05) / (sombre + 0.05);
-}
 
 /// The style sheet as selectors and what stands behind them.
 class Feuille

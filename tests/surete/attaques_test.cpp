@@ -1,15 +1,6 @@
-#include "commun/affiche.h"
-#include "commun/contenu.h"
 #include "commun/programme_pilote.h"
-#include "grille/flexgrid.h"
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QAbstractSpinBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QSet>
 

@@ -1,7 +1,5 @@
 #include "commun/programme_pilote.h"
 
-#include <gtest/gtest.h>
-
 #include <QPixmapCache>
 
 #include <malloc.h>

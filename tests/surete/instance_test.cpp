@@ -1,4 +1,5 @@
 #include "app/programme.h"
+#include "commun/fichiers_essai.h"
 #include "journee.h"
 
 #include <gtest/gtest.h>
@@ -59,9 +60,7 @@ pid_t programmeEnAction(const QString &dossier)
 
 void ecritVerrou(const QString &dossier, const QByteArray &contenu)
 {
-    QFile verrou(QDir(dossier).filePath(u"VarloTour.verrou"_qs));
-    ASSERT_TRUE(verrou.open(QIODevice::WriteOnly));
-    verrou.write(contenu);
+    ecritFichier(QDir(dossier).filePath(u"VarloTour.verrou"_qs), contenu);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // What creebase refuses in the readable rows, and what it leaves behind when it does.
 
+#include "commun/fichiers_essai.h"
 #include "fabrique.h"
 #include "lecteur.h"
 
@@ -10,12 +11,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-QByteArray contenu(const QString &chemin)
-{
-    QFile fichier(chemin);
-    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
-}
 
 class Creebase : public testing::Test
 {
@@ -28,12 +23,7 @@ protected:
             ASSERT_TRUE(QFile::copy(source.filePath(nom), m_donnees.filePath(nom)));
     }
 
-    void ecrit(const QString &nom, const QByteArray &texte)
-    {
-        QFile fichier(m_donnees.filePath(nom));
-        ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(texte);
-    }
+    void ecrit(const QString &nom, const QByteArray &texte) { ecritFichier(m_donnees.filePath(nom), texte); }
 
     /// Sentence of the refusal, empty when the base was made.
     QString refus()
@@ -83,7 +73,7 @@ TEST_F(Creebase, MontreLaLigneFautive)
     for (const Cas &c : cas) {
         SCOPED_TRACE(c.texte);
         const QString nom = QString::fromUtf8(c.fichier);
-        const QByteArray avant = contenu(m_donnees.filePath(nom));
+        const QByteArray avant = octetsDe(m_donnees.filePath(nom));
         ecrit(nom, c.texte);
         const QString phrase = refus();
         EXPECT_TRUE(phrase.startsWith(QString::fromUtf8(c.debut))) << qPrintable(phrase);
@@ -113,7 +103,7 @@ TEST_F(Creebase, ToutesLesLanguesDisentLesMemesMessages)
         {"en_GB", "english", "le message 128 n'est pas une langue"},
     };
     const QString nom = u"messages.en.txt"_qs;
-    const QByteArray juste = contenu(m_donnees.filePath(nom));
+    const QByteArray juste = octetsDe(m_donnees.filePath(nom));
     for (const Cas &c : cas) {
         SCOPED_TRACE(c.constat);
         QByteArray faux = juste;
@@ -130,38 +120,32 @@ TEST_F(Creebase, UnRefusNeLaisseRienEtGardeLAncienneBase)
     EXPECT_FALSE(refus().isEmpty());
     EXPECT_EQ(QDir(m_racine.path()).entryList(QDir::Files), QStringList());
 
-    QFile ancienne(m_cible);
-    ASSERT_TRUE(ancienne.open(QIODevice::WriteOnly));
-    ancienne.write("ancienne");
-    ancienne.close();
+    ecritFichier(m_cible, "ancienne");
     EXPECT_FALSE(refus().isEmpty());
-    EXPECT_EQ(contenu(m_cible), "ancienne");
+    EXPECT_EQ(octetsDe(m_cible), "ancienne");
     EXPECT_EQ(QDir(m_racine.path()).entryList(QDir::Files), QStringList{u"VarloBase.mdb"_qs});
 
     ecrit(u"clubs.txt"_qs, "societe\tcodesoc\nA\t1\n");
     EXPECT_EQ(refus(), QString());
-    EXPECT_GT(contenu(m_cible).size(), 1000);
+    EXPECT_GT(octetsDe(m_cible).size(), 1000);
     EXPECT_EQ(QDir(m_racine.path()).entryList(QDir::Files), QStringList{u"VarloBase.mdb"_qs});
 }
 
 TEST_F(Creebase, UneBaseOuverteNEstPasRemplacee)
 {
     ASSERT_EQ(refus(), QString());
-    const QByteArray avant = contenu(m_cible);
-    QFile journal(m_cible + u"-wal"_qs);
-    ASSERT_TRUE(journal.open(QIODevice::WriteOnly));
+    const QByteArray avant = octetsDe(m_cible);
+    ecritFichier(m_cible + u"-wal"_qs, {});
     EXPECT_TRUE(refus().contains(u"ouverte"_qs));
-    EXPECT_EQ(contenu(m_cible), avant);
+    EXPECT_EQ(octetsDe(m_cible), avant);
 }
 
 TEST(Lecteur, GardeLesBlancsEntreGuillemetsEtPasseLesCommentaires)
 {
     const QTemporaryDir dossier;
     const QString chemin = dossier.filePath(u"x.txt"_qs);
-    QFile fichier(chemin);
-    ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
-    fichier.write("# tête\r\na\tb\tc\r\n  1 \t\" un \"\"mot\"\" \"\t\t# note\t\"\r\n\r\n\"# pas une note\"\t\t\"\"\n");
-    fichier.close();
+    ecritFichier(chemin,
+                 "# tête\r\na\tb\tc\r\n  1 \t\" un \"\"mot\"\" \"\t\t# note\t\"\r\n\r\n\"# pas une note\"\t\t\"\"\n");
     const FichierDonnees lu = litFichier(chemin);
     EXPECT_EQ(lu.colonnes, (QStringList{u"a"_qs, u"b"_qs, u"c"_qs}));
     ASSERT_EQ(lu.lignes.size(), 2);

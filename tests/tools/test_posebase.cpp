@@ -1,5 +1,7 @@
 // The build may bring a new base beside the program, but never at the cost of what an organiser has typed.
 
+#include "commun/fichiers_essai.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -11,22 +13,14 @@ namespace {
 class PoseBase : public testing::Test
 {
 protected:
-    static void ecrit(const QString &chemin, const QByteArray &texte)
-    {
-        QFile fichier(chemin);
-        ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(texte);
-    }
-
     /// What lies beside the program after a build whose base holds \p neuve.
     QByteArray pose(const QByteArray &neuve)
     {
-        ecrit(m_originale, neuve);
+        ecritFichier(m_originale, neuve);
         const QStringList arguments{u"-DORIGINALE="_qs + m_originale, u"-DPOSEE="_qs + m_posee, u"-P"_qs,
                                     QStringLiteral(DOSSIER_DONNEES "/PoseBase.cmake")};
         EXPECT_EQ(QProcess::execute(QStringLiteral(PROGRAMME_CMAKE), arguments), 0);
-        QFile fichier(m_posee);
-        return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+        return octetsDe(m_posee);
     }
 
     QTemporaryDir m_base, m_bin;
@@ -43,7 +37,7 @@ TEST_F(PoseBase, SuitLesDonneesTantQuePersonneNAEcrit)
     EXPECT_EQ(pose("deux"), "deux");
     EXPECT_EQ(pose("trois"), "trois");
     ASSERT_TRUE(QFile::remove(m_posee));
-    ecrit(m_posee + u"-wal"_qs, "reste d'une autre base");
+    ecritFichier(m_posee + u"-wal"_qs, "reste d'une autre base");
     EXPECT_EQ(pose("trois"), "trois");
     EXPECT_FALSE(QFile::exists(m_posee + u"-wal"_qs));
 }
@@ -51,7 +45,7 @@ TEST_F(PoseBase, SuitLesDonneesTantQuePersonneNAEcrit)
 TEST_F(PoseBase, GardeUneBaseQuiAServi)
 {
     pose("un");
-    ecrit(m_posee, "un concours");
+    ecritFichier(m_posee, "un concours");
     EXPECT_EQ(pose("un"), "un concours");
     EXPECT_EQ(pose("deux"), "un concours");
     EXPECT_EQ(pose("trois"), "un concours");
@@ -60,11 +54,11 @@ TEST_F(PoseBase, GardeUneBaseQuiAServi)
 TEST_F(PoseBase, GardeUneBaseOuverteEtCelleVenueDAilleurs)
 {
     pose("un");
-    ecrit(m_posee + u"-wal"_qs, "saisies");
+    ecritFichier(m_posee + u"-wal"_qs, "saisies");
     EXPECT_EQ(pose("deux"), "un");
     EXPECT_TRUE(QFile::exists(m_posee + u"-wal"_qs));
 
     ASSERT_TRUE(QFile::remove(m_originale + u".posee"_qs));
-    ecrit(m_posee, "apportée");
+    ecritFichier(m_posee, "apportée");
     EXPECT_EQ(pose("deux"), "apportée");
 }

@@ -102,17 +102,17 @@ void Cloture::ecritFichiers() const
 void Cloture::prevoitBoites()
 {
     const TableMessages &mes = m_programme.partage().mes;
-    m_boites.attend(Boite::Importation, mes(100), ReponseBoite::Oui, u"boite-importation");
-    m_boites.attend(Boite::EquipeImportee, mes(101), ReponseBoite::Oui, u"boite-equipe-importee");
-    m_boites.attend(Boite::Panachees, u"Les équipes panachées sont-elles autorisées"_qs, ReponseBoite::Oui,
-                    u"boite-panachees");
-    m_boites.attend(Boite::CopieFaite, u"Copie faite : VarloBase-"_qs, ReponseBoite::OK, u"boite-copie-securite");
-    m_boites.attend(Boite::CopieAilleurs, u"est écrite, relue et complète"_qs, ReponseBoite::OK,
-                    u"boite-copie-ailleurs");
-    m_boites.attend(Boite::Restauration, u"Restaurer la copie du"_qs, ReponseBoite::Oui, u"boite-restauration");
-    m_boites.attend(Boite::Restauree, u"est en place"_qs, ReponseBoite::OK, u"boite-restauree");
-    m_boites.attend(Boite::Purge, u"Attention cette opération est irréversible"_qs, ReponseBoite::Oui, u"boite-purge");
-    m_boites.attend(Boite::PurgeReussie, u"Opération réussie"_qs, ReponseBoite::OK, u"boite-purge-reussie");
+    m_boites.prevoit(Boite::Importation, mes(100), ReponseBoite::Oui, u"boite-importation");
+    m_boites.prevoit(Boite::EquipeImportee, mes(101), ReponseBoite::Oui, u"boite-equipe-importee");
+    m_boites.prevoit(Boite::Panachees, u"Les équipes panachées sont-elles autorisées"_qs, ReponseBoite::Oui,
+                     u"boite-panachees");
+    m_boites.prevoit(Boite::CopieFaite, u"Copie faite : VarloBase-"_qs, ReponseBoite::OK, u"boite-copie-securite");
+    m_boites.prevoit(Boite::CopieAilleurs, u"est écrite, relue et complète"_qs, ReponseBoite::OK,
+                     u"boite-copie-ailleurs");
+    m_boites.prevoit(Boite::Restauration, u"Restaurer la copie du"_qs, ReponseBoite::Oui, u"boite-restauration");
+    m_boites.prevoit(Boite::Restauree, u"est en place"_qs, ReponseBoite::OK, u"boite-restauree");
+    m_boites.prevoit(Boite::Purge, u"Attention cette opération est irréversible"_qs, ReponseBoite::Oui, u"boite-purge");
+    m_boites.prevoit(Boite::PurgeReussie, u"Opération réussie"_qs, ReponseBoite::OK, u"boite-purge-reussie");
 }
 
 /// The teams of the day come back for a competition of the same type.

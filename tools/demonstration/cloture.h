@@ -36,7 +36,7 @@ private:
     const Plateau &m_plateau;
     std::span<const EquipeDuJour> m_equipes; ///< Those that come by the file.
     Photographe m_photographe;
-    BoitesPilotees m_boites;
+    BoitesDuJour m_boites;
     AleaFixe m_alea;
     Horloge m_horloge;
     Programme m_programme;

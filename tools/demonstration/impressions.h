@@ -9,7 +9,7 @@ namespace demonstration {
 class Impressions
 {
 public:
-    Impressions(Operateur &main, BoitesPilotees &boites, Photographe &photographe, const QString &dossier)
+    Impressions(Operateur &main, BoitesDuJour &boites, Photographe &photographe, const QString &dossier)
         : m_main(main)
         , m_boites(boites)
         , m_photographe(photographe)
@@ -42,7 +42,7 @@ private:
     void imprimePalmares(const QString &fichier);
 
     Operateur &m_main;
-    BoitesPilotees &m_boites;
+    BoitesDuJour &m_boites;
     Photographe &m_photographe;
     QString m_dossier;
 };

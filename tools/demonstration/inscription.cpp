@@ -20,7 +20,7 @@ QString nomSaisi(const EquipeDuJour &equipe, int place)
 
 } // namespace
 
-Inscription::Inscription(Programme &programme, Operateur &operateur, BoitesPilotees &boites, Photographe &photographe)
+Inscription::Inscription(Programme &programme, Operateur &operateur, BoitesDuJour &boites, Photographe &photographe)
     : m_programme(programme)
     , m_main(operateur)
     , m_boites(boites)

@@ -10,7 +10,7 @@ namespace demonstration {
 class Inscription
 {
 public:
-    Inscription(Programme &programme, Operateur &operateur, BoitesPilotees &boites, Photographe &photographe);
+    Inscription(Programme &programme, Operateur &operateur, BoitesDuJour &boites, Photographe &photographe);
 
     /// Opens the form and takes \p equipe in, ready to store it.
     void ouvre();
@@ -29,7 +29,7 @@ private:
 
     Programme &m_programme;
     Operateur &m_main;
-    BoitesPilotees &m_boites;
+    BoitesDuJour &m_boites;
     Photographe &m_photographe;
 };
 

@@ -65,19 +65,19 @@ void Journee::demarre()
 void Journee::prevoitBoites()
 {
     const TableMessages &mes = m_programme.partage().mes;
-    m_boites.attend(Boite::NumeroConcours, mes(95), ReponseBoite::OK, u"boite-numero-concours");
-    m_boites.attend(Boite::ClubNouveau, mes(92), ReponseBoite::Oui, u"boite-club-nouveau");
-    m_boites.attend(Boite::Panachees, u"Les équipes panachées sont-elles autorisées"_qs, ReponseBoite::Oui,
-                    u"boite-panachees");
-    m_boites.attend(Boite::RencontreLancee, u"peut être lancée"_qs, ReponseBoite::OK, u"boite-rencontre-lancee");
-    m_boites.attend(Boite::Retardataire, mes(126), ReponseBoite::Oui, u"boite-retardataire");
-    m_boites.attend(Boite::MemeClub, u"deux équipes d'un même club"_qs, ReponseBoite::OK, u"boite-meme-club");
-    m_boites.attend(Boite::MeilleurTirage, u"Le mettre à la place ?"_qs, ReponseBoite::Oui, u"boite-meilleur-tirage");
-    m_boites.attend(Boite::ListeExportee, u"La liste est dans"_qs, ReponseBoite::OK, u"boite-exportee");
-    m_boites.attend(Boite::Copie, u"Concours dupliqué sous le numéro"_qs, ReponseBoite::OK, u"boite-copie");
-    m_boites.attend(Boite::Suppression, mes(96), ReponseBoite::Oui, u"boite-suppression");
-    m_boites.attend(Boite::DejaRencontrees, u"deux équipes se sont déjà rencontrées"_qs, ReponseBoite::OK,
-                    u"boite-deja-rencontrees");
+    m_boites.prevoit(Boite::NumeroConcours, mes(95), ReponseBoite::OK, u"boite-numero-concours");
+    m_boites.prevoit(Boite::ClubNouveau, mes(92), ReponseBoite::Oui, u"boite-club-nouveau");
+    m_boites.prevoit(Boite::Panachees, u"Les équipes panachées sont-elles autorisées"_qs, ReponseBoite::Oui,
+                     u"boite-panachees");
+    m_boites.prevoit(Boite::RencontreLancee, u"peut être lancée"_qs, ReponseBoite::OK, u"boite-rencontre-lancee");
+    m_boites.prevoit(Boite::Retardataire, mes(126), ReponseBoite::Oui, u"boite-retardataire");
+    m_boites.prevoit(Boite::MemeClub, u"deux équipes d'un même club"_qs, ReponseBoite::OK, u"boite-meme-club");
+    m_boites.prevoit(Boite::MeilleurTirage, u"Le mettre à la place ?"_qs, ReponseBoite::Oui, u"boite-meilleur-tirage");
+    m_boites.prevoit(Boite::ListeExportee, u"La liste est dans"_qs, ReponseBoite::OK, u"boite-exportee");
+    m_boites.prevoit(Boite::Copie, u"Concours dupliqué sous le numéro"_qs, ReponseBoite::OK, u"boite-copie");
+    m_boites.prevoit(Boite::Suppression, mes(96), ReponseBoite::Oui, u"boite-suppression");
+    m_boites.prevoit(Boite::DejaRencontrees, u"deux équipes se sont déjà rencontrées"_qs, ReponseBoite::OK,
+                     u"boite-deja-rencontrees");
 }
 
 void Journee::creeConcours()

@@ -2,7 +2,7 @@
 
 #include "affichage.h"
 #include "app/programme.h"
-#include "boites_pilotees.h"
+#include "boites_du_jour.h"
 #include "hasard.h"
 #include "horloge_du_jour.h"
 #include "impressions.h"
@@ -47,7 +47,7 @@ private:
     Options m_options;
     const Plateau &m_plateau;
     Photographe m_photographe;
-    BoitesPilotees m_boites;
+    BoitesDuJour m_boites;
     AleaFixe m_alea;
     HorlogeDuJour m_horloge;
     Programme m_programme;

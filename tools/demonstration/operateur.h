@@ -1,6 +1,6 @@
 #pragma once
 
-#include "boites_pilotees.h"
+#include "boites_du_jour.h"
 #include "incident.h"
 #include "pilote/gestes.h"
 
@@ -13,7 +13,7 @@ namespace demonstration {
 class Operateur final : public pilote::Gestes
 {
 public:
-    Operateur(Programme &programme, BoitesPilotees &boites)
+    Operateur(Programme &programme, BoitesDuJour &boites)
         : m_programme(programme)
         , m_boites(boites)
     {
@@ -52,7 +52,7 @@ private:
     void apres() const override;
 
     Programme &m_programme;
-    BoitesPilotees &m_boites;
+    BoitesDuJour &m_boites;
 };
 
 } // namespace demonstration

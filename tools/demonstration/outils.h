@@ -10,7 +10,7 @@ namespace demonstration {
 class Outils
 {
 public:
-    Outils(Operateur &main, BoitesPilotees &boites, Photographe &photographe, HorlogeDuJour &horloge)
+    Outils(Operateur &main, BoitesDuJour &boites, Photographe &photographe, HorlogeDuJour &horloge)
         : m_main(main)
         , m_boites(boites)
         , m_photographe(photographe)
@@ -27,7 +27,7 @@ private:
     void attendSonnerie();
 
     Operateur &m_main;
-    BoitesPilotees &m_boites;
+    BoitesDuJour &m_boites;
     Photographe &m_photographe;
     HorlogeDuJour &m_horloge;
 };

@@ -33,7 +33,7 @@ int ligneDe(const FlexGrid &grille, int colonne, const QString &texte)
 
 } // namespace
 
-Registre::Registre(Programme &programme, Operateur &main, BoitesPilotees &boites, Photographe &photographe,
+Registre::Registre(Programme &programme, Operateur &main, BoitesDuJour &boites, Photographe &photographe,
                    Impressions &impressions, const Plateau &plateau)
     : m_programme(programme)
     , m_main(main)

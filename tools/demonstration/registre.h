@@ -12,7 +12,7 @@ namespace demonstration {
 class Registre
 {
 public:
-    Registre(Programme &programme, Operateur &main, BoitesPilotees &boites, Photographe &photographe,
+    Registre(Programme &programme, Operateur &main, BoitesDuJour &boites, Photographe &photographe,
              Impressions &impressions, const Plateau &plateau);
 
     /// Types two players into the file of known players, calls one of them back from the list and prints the list.
@@ -36,7 +36,7 @@ private:
 
     Programme &m_programme;
     Operateur &m_main;
-    BoitesPilotees &m_boites;
+    BoitesDuJour &m_boites;
     Photographe &m_photographe;
     Impressions &m_impressions;
     std::vector<Joueur> m_joueurs;

@@ -1,6 +1,7 @@
 #include "commun/concours_en_base.h"
 #include "commun/contenu.h"
 #include "commun/fichiers_essai.h"
+#include "commun/panne_fichiers.h"
 #include "commun/partage_essai.h"
 #include "garde/inventaire.h"
 #include "garde/restauration.h"
@@ -14,43 +15,6 @@
 using store::Erreur;
 
 namespace {
-
-enum class Etape { Aucune, Journaux, Renomme, Ouvre };
-
-/// The real operations, of which one fails before it has done anything, once or for good.
-class Panne : public FichiersBase
-{
-public:
-    explicit Panne(Etape etape)
-        : m_etape(etape)
-    {
-    }
-
-    void supprimeJournaux(const QString &fichier) const override
-    {
-        echoue(Etape::Journaux);
-        FichiersBase::supprimeJournaux(fichier);
-    }
-    void renomme(const QString &ancien, const QString &nouveau) const override
-    {
-        echoue(Etape::Renomme);
-        FichiersBase::renomme(ancien, nouveau);
-    }
-    store::Database ouvre(const store::Workspace &espace, const QString &fichier) const override
-    {
-        echoue(Etape::Ouvre);
-        return FichiersBase::ouvre(espace, fichier);
-    }
-
-private:
-    void echoue(Etape etape) const
-    {
-        if (etape == m_etape)
-            throw Erreur(Erreur::DossierProtege, u"Panne."_qs);
-    }
-
-    Etape m_etape;
-};
 
 class Restauration : public testing::Test, protected PartageEssai
 {
@@ -122,15 +86,15 @@ TEST_F(Restauration, ACopyTakesThePlaceOfTheBaseAndTheOneMadeBeforeUndoesIt)
 
 TEST_F(Restauration, AnyStepThatFailsLeavesABaseThatIsOpenOrASentenceThatTellsWhich)
 {
-    for (const Etape etape : {Etape::Journaux, Etape::Renomme}) {
+    for (const auto etape : {PanneFichiers::Journaux, PanneFichiers::Renomme}) {
         PrepareRestauration(partage, copie);
-        EXPECT_THROW(Restaure(partage, Panne(etape)), Erreur);
+        EXPECT_THROW(Restaure(partage, PanneFichiers(etape)), Erreur);
         EXPECT_EQ(contenu(), nouvelle);
         EXPECT_FALSE(prepareSeul());
     }
     PrepareRestauration(partage, copie);
     try {
-        Restaure(partage, Panne(Etape::Ouvre));
+        Restaure(partage, PanneFichiers(PanneFichiers::Ouvre));
         ADD_FAILURE();
     } catch (const Erreur &erreur) {
         EXPECT_TRUE(erreur.phrase().contains(u"La copie est en place"_qs)) << erreur.phrase().toStdString();

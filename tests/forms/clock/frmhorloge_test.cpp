@@ -1,16 +1,10 @@
 #include "clock/frmhorloge.h"
 
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 #include "socle/twips.h"
 #include "son/son.h"
 
-#include <gtest/gtest.h>
-
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
 

@@ -2,11 +2,8 @@
 #include "clock/cadran.h"
 #include "clock/chronometre.h"
 #include "clock/loterie.h"
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 #include "son/son.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <set>

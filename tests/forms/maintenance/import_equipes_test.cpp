@@ -1,6 +1,5 @@
 #include "inscription_essai.h"
 
-#include <QFile>
 #include <QKeyEvent>
 #include <QMessageBox>
 
@@ -17,9 +16,7 @@ protected:
     QString ecrit(const QByteArray &octets)
     {
         const QString chemin = dossier() + u"/equipes.dat"_qs;
-        QFile fichier(chemin);
-        EXPECT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(octets);
+        ecritFichier(chemin, octets);
         return chemin;
     }
     /// The operator chooses the file and accepts the import; the boxes behind that are the test's.
@@ -96,8 +93,7 @@ TEST_F(ImportEquipes, RefusalsLeaveTheFieldsAndTheNextLineGoesOn)
     lance();
     EXPECT_EQ(equipe(concours, 1), QStringList({u"0|ROUX|C||Nouveau|A|1"_qs}));
     EXPECT_EQ(numeros(concours).size(), 1);
-    EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"NOIR"_qs);
-    EXPECT_EQ(texte(E, u"Société"_qs), QString());
+    EXPECT_EQ(textes(E, u"NomJ_0 Société"_qs), u"NOIR|"_qs);
 }
 
 TEST_F(ImportEquipes, AShortLineStopsTheImport)
@@ -111,8 +107,7 @@ TEST_F(ImportEquipes, AShortLineStopsTheImport)
     lance();
     EXPECT_EQ(texte(E, u"Avancement"_qs), u"Importation, ligne 2 (65 %) : 1 équipe enregistrée. Arrêtée."_qs);
     EXPECT_EQ(numeros(concours).size(), 1);
-    EXPECT_EQ(texte(E, u"NomJ_0"_qs), u"SEUL"_qs);
-    EXPECT_EQ(texte(E, u"NomJ_1"_qs), u"F"_qs);
+    EXPECT_EQ(textes(E, u"NomJ_0 NomJ_1"_qs), u"SEUL|F"_qs);
 
     const auto arretee = [&](const QByteArray &octets, const QString &phrase) {
         choisit(ecrit(octets));

@@ -1,10 +1,4 @@
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
-
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QFile>
 
 namespace {
 
@@ -17,12 +11,7 @@ protected:
         prog.base().Execute(u"insert into joueurs (nom) values ('AVANT')");
         prog.base().Execute(u"insert into clubs (societe) values ('Avant')");
     }
-    void ecrit(const QString &nom, const QByteArray &octets)
-    {
-        QFile fichier(prog.dossier() + u'/' + nom);
-        ASSERT_TRUE(fichier.open(QIODevice::WriteOnly));
-        fichier.write(octets);
-    }
+    void ecrit(const QString &nom, const QByteArray &octets) { ecritFichier(prog.dossier() + u'/' + nom, octets); }
     void choisit(const QString &entree) { prog.menu(entree)->trigger(); }
     qint64 nombre(const QString &table) { return prog.valeur(u"select count(*) from "_qs + table).entier(); }
 

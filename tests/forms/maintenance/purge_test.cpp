@@ -1,18 +1,12 @@
 #include "maintenance/purge.h"
 
 #include "app/formes.h"
-#include "commun/affiche.h"
 #include "commun/base_essai.h"
-#include "commun/contenu.h"
 #include "commun/panne_ecriture.h"
+#include "commun/panne_fichiers.h"
 #include "commun/programme_pilote.h"
 
-#include <gtest/gtest.h>
-
-#include <QAction>
 #include <QCloseEvent>
-#include <QFile>
-#include <QPlainTextEdit>
 #include <QtTest/qtestspontaneevent.h>
 
 #include <csignal>
@@ -25,52 +19,6 @@ namespace {
 const QString attention = u"Attention cette opération est irréversible\r\nAvez vous fait une sauvegarde?\r\n"
                           "Vous allez supprimer des informations"_qs;
 const QString continueAvec = u"le programme continue avec la base"_qs;
-
-enum class Etape { Aucune, Reste, Compacte, Supprime, Renomme, Ouvre };
-
-/// The real operations, of which one fails before it has done anything.
-class Panne : public FichiersBase
-{
-public:
-    explicit Panne(Etape etape)
-        : m_etape(etape)
-    {
-    }
-
-    void supprime(const QString &fichier) const override
-    {
-        echoue(fichier.contains(u"myTmp"_qs) ? Etape::Reste : Etape::Supprime);
-        FichiersBase::supprime(fichier);
-    }
-    void compacte(const QString &source, const QString &cible) const override
-    {
-        if (pendant)
-            pendant();
-        echoue(Etape::Compacte);
-        FichiersBase::compacte(source, cible);
-    }
-    void renomme(const QString &ancien, const QString &nouveau) const override
-    {
-        echoue(Etape::Renomme);
-        FichiersBase::renomme(ancien, nouveau);
-    }
-    store::Database ouvre(const store::Workspace &espace, const QString &fichier) const override
-    {
-        echoue(Etape::Ouvre);
-        return FichiersBase::ouvre(espace, fichier);
-    }
-
-    std::function<void()> pendant;
-
-private:
-    void echoue(Etape etape) const
-    {
-        if (etape == m_etape)
-            throw Erreur(Erreur::DossierProtege, u"Panne."_qs);
-    }
-
-    Etape m_etape;
-};
 
 class Purge : public testing::Test
 {
@@ -202,7 +150,7 @@ TEST_F(Purge, TheNoticeStandsPaintedAndNothingCanBeClosedMeanwhile)
         QStringList vues;
     } peintures;
     qApp->installEventFilter(&peintures);
-    Panne temoin(Etape::Aucune);
+    PanneFichiers temoin(PanneFichiers::Aucune);
     temoin.pendant = [&] {
         EXPECT_TRUE(prog.formulaires().estVisible(u"Alerte"_qs));
         EXPECT_EQ(prog.controle<QPlainTextEdit>(u"Alerte"_qs, u"Text1"_qs)->toPlainText(),
@@ -222,12 +170,12 @@ TEST_F(Purge, TheNoticeStandsPaintedAndNothingCanBeClosedMeanwhile)
 TEST_F(Purge, AFailedStepLeavesAWholeFileAndSaysWhatToDo)
 {
     QFile(temporaire()).open(QIODevice::WriteOnly);
-    for (const Etape etape : {Etape::Reste, Etape::Compacte, Etape::Supprime}) {
-        purge(Panne(etape), continueAvec);
+    for (const auto etape : {PanneFichiers::Reste, PanneFichiers::Compacte, PanneFichiers::Supprime}) {
+        purge(PanneFichiers(etape), continueAvec);
         EXPECT_TRUE(prog.boites.textes().last().contains(u"Panne."_qs));
         exigeBaseVivante();
     }
-    purge(Panne(Etape::Ouvre), u"fermez le programme et relancez-le"_qs);
+    purge(PanneFichiers(PanneFichiers::Ouvre), u"fermez le programme et relancez-le"_qs);
     store::Database relue =
         store::DBEngine().Workspaces(0).OpenDatabase(prog.fichier(), false, false, BaseEssai::connexion());
     EXPECT_EQ(compte(relue), purgee);
@@ -235,7 +183,7 @@ TEST_F(Purge, AFailedStepLeavesAWholeFileAndSaysWhatToDo)
 
 TEST_F(Purge, ARefusedRenameLeavesTheBaseUnderItsTemporaryName)
 {
-    purge(Panne(Etape::Renomme), u"relancez-le : il reprendra ce fichier"_qs);
+    purge(PanneFichiers(PanneFichiers::Renomme), u"relancez-le : il reprendra ce fichier"_qs);
     EXPECT_FALSE(QFile::exists(prog.fichier()));
     prog.boites.attend(u"La base est fermée."_qs); // nothing crashes until the program is closed
     prog.ouvre(u"f_concours"_qs);
@@ -259,7 +207,7 @@ TEST_F(Purge, AFullDiskKeepsTheOldFile)
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit avant{};
     getrlimit(RLIMIT_FSIZE, &avant);
-    Panne disque(Etape::Aucune);
+    PanneFichiers disque(PanneFichiers::Aucune);
     disque.pendant = [&] {
         const rlimit plein{48 * 1024, avant.rlim_max}; // enough to read the old file, not to write the new one
         setrlimit(RLIMIT_FSIZE, &plein);
@@ -273,7 +221,7 @@ TEST_F(Purge, AFullDiskKeepsTheOldFile)
 
 TEST_F(Purge, AFileThatHasGoneIsTold)
 {
-    Panne temoin(Etape::Aucune);
+    PanneFichiers temoin(PanneFichiers::Aucune);
     temoin.pendant = [&] { QFile::remove(prog.fichier()); };
     purge(temoin, u"remettez-y votre sauvegarde"_qs);
 }

@@ -1,32 +1,13 @@
-#include "commun/affiche.h"
-#include "commun/concours_en_base.h"
+#include "commun/contraste.h"
 #include "commun/programme_pilote.h"
-#include "fenetres/formulaires.h"
 #include "noms/mesures_horloge.h"
 #include "outils/projection.h"
 
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
-#include <QLabel>
 #include <QScreen>
 #include <QSpinBox>
 
-#include <cmath>
-
 namespace {
-
-double clarte(const QColor &couleur)
-{
-    const auto lineaire = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * lineaire(couleur.redF()) + 0.7152 * lineaire(couleur.greenF()) + 0.0722 * lineaire(couleur.blueF());
-}
-
-double contraste(const QColor &a, const QColor &b)
-{
-    const auto [sombre, clair] = std::minmax({clarte(a), clarte(b)});
-    return (clair + 0.05) / (sombre + 0.05);
-}
 
 std::vector<Feuillet> feuillets(std::initializer_list<std::pair<GenrePage, int>> pages)
 {

@@ -1,11 +1,5 @@
-#include "commun/affiche.h"
 #include "commun/programme_pilote.h"
 
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QDir>
-#include <QLabel>
 #include <QTableWidget>
 
 namespace {
@@ -104,9 +98,7 @@ TEST_F(Copies, ACopyIsMadeOnceAndElsewhereAndADamagedOneIsTold)
     clique(u"Copier_vers"_qs);
 
     const QDir copies(prog.dossier() + u"/sauvegardes"_qs);
-    QFile abimee(copies.filePath(copies.entryList(QDir::Files).constFirst()));
-    ASSERT_TRUE(abimee.open(QIODevice::ReadWrite) && abimee.seek(9000) && abimee.write(QByteArray(400, 'x')));
-    abimee.close();
+    abimeFichier(copies.filePath(copies.entryList(QDir::Files).constFirst()));
     prog.touche(Qt::Key_Escape);
     EXPECT_FALSE(prog.formulaires().estChargee(u"CopiesSecurite"_qs));
     prog.menu(u"mnu_CopiesSecurite"_qs)->trigger();

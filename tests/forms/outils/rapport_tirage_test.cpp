@@ -1,14 +1,9 @@
 #include "commun/affiche.h"
 #include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
-#include "forms/feuilles_essai.h"
+#include "feuilles_essai.h"
 #include "noms/apres_tirage.h"
 
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QDir>
-#include <QLabel>
 #include <QTableWidget>
 
 #include <set>

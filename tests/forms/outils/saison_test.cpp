@@ -1,14 +1,8 @@
-#include "commun/affiche.h"
-#include "commun/concours_en_base.h"
 #include "commun/programme_pilote.h"
-#include "fenetres/formulaires.h"
-#include "forms/feuilles_essai.h"
+#include "feuilles_essai.h"
 #include "outils/table_saison.h"
 
-#include <gtest/gtest.h>
-
 #include <QClipboard>
-#include <QComboBox>
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QTabBar>
@@ -91,7 +85,7 @@ TEST_F(VueSaisonEssai, ListsAreSortedFilteredAndNarrowed)
     type->setCurrentIndex(1);
     Q_EMIT type->activated(1);
     EXPECT_EQ(colonne(2), u"Lieu 5"_qs);
-    EXPECT_EQ(prog.texte(S, u"Resume"_qs), u"1 concours, 3 équipes, 1 partie, 2 clubs, 6 licences"_qs);
+    EXPECT_EQ(prog.texte(S, u"Resume"_qs), u"1 concours, 3 équipes, 1 partie, 2 clubs, 4 licences"_qs);
 
     // A day that has not been chosen follows the base.
     prog.base().Execute(u"update concours set date = '2026-12-24' where concours = 3");
