@@ -33,7 +33,7 @@ RencontresPubliques trieRencontres(std::vector<Rencontre> rencontres, qint32 con
         if (rencontre.tour == triees.tour)
             triees.tirage.push_back(std::move(rencontre));
     }
-    std::ranges::stable_partition(triees.tirage, [](const Rencontre &rencontre) { return !rencontre.exempt(); });
+    std::ranges::stable_sort(triees.tirage, {}, &Rencontre::exempt);
     std::ranges::stable_sort(triees.attendues, {}, [](const Rencontre &rencontre) {
         return std::tuple(!rencontre.lancee, rencontre.tour, rencontre.equipe1);
     });

@@ -321,6 +321,7 @@ TourPropose ProposeTour(Partage &partage, int tour)
         ++essais;
         classement = moteur::etablitClassement(avant, partage.alea);
         std::vector<QString> clubs;
+        clubs.reserve(classement.size());
         for (const LigneClassement &ligne : classement)
             clubs.push_back(clubsDesEquipes.value(ligne.equipe));
         table = moteur::tireTourSuivant({.classement = classement,

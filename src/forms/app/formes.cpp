@@ -83,6 +83,7 @@ std::vector<NomForme> FormesDechargees(Entree entree)
             parRang.emplace(rang, ligne.nom);
     }
     std::vector<NomForme> noms;
+    noms.reserve(parRang.size());
     for (const auto &[rang, nom] : parRang)
         noms.push_back(nom);
     return noms;

@@ -36,7 +36,7 @@ AffichagePublic::AffichagePublic(const Contexte &contexte, QWidget *parent)
     surClick(m_ui->Pause, [this] { m_projection.pause(m_ui->Pause->isChecked()); });
     surClick(m_ui->Suivante, [this] { m_projection.pageSuivante(); });
     surClick(m_ui->Fermer, [this] { close(); });
-    const auto relie = [this](QKeySequence touche, QAbstractButton *bouton) {
+    const auto relie = [this](const QKeySequence &touche, QAbstractButton *bouton) {
         connect(new QShortcut(touche, this), &QShortcut::activated, bouton, &QAbstractButton::click);
     };
     relie(Qt::Key_F11, m_ui->Plein_ecran);

@@ -78,7 +78,7 @@ QString ListesPubliques::dernierResultat(const Partage &partage, const EtatPubli
     const auto [premier, second] = scores(partage, dernier);
     const qint64 gagnante = dernier.premiereGagne() ? dernier.equipe1 : dernier.equipe2;
     const qint64 perdante = dernier.premiereGagne() ? dernier.equipe2 : dernier.equipe1;
-    const QString phrase = tr("Dernier résultat : %1 bat %2").arg(gagnante).arg(perdante);
+    QString phrase = tr("Dernier résultat : %1 bat %2").arg(gagnante).arg(perdante);
     if (premier.isEmpty())
         return phrase;
     return phrase + u", "_qs + (dernier.premiereGagne() ? premier + tiret + second : second + tiret + premier);

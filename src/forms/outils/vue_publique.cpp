@@ -296,7 +296,7 @@ void VuePublique::composeListe()
     const double bord = place.left() + (place.width() - largeur - pasColonne * (colonnes.colonnes - 1)) / 2;
     const int entete = mise.liste.entetes.empty() ? 0 : 1;
     for (int rang = 0; rang < colonnes.parPage(); ++rang) {
-        const std::size_t ligne = std::size_t(feuillet.numero * colonnes.parPage() + rang);
+        const std::size_t ligne = std::size_t(feuillet.numero) * std::size_t(colonnes.parPage()) + std::size_t(rang);
         if (ligne >= mise.liste.lignes.size())
             break;
         const int colonne = rang / colonnes.lignes;

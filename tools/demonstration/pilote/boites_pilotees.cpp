@@ -46,7 +46,7 @@ auto repond(const Montre &montre, const Main &main)
         main(*boite);
     });
     attente.start(0);
-    const auto reponse = montre();
+    auto reponse = montre();
     if (devant != nullptr)
         devant->activateWindow();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

@@ -5,6 +5,8 @@
 #include <deque>
 #include <functional>
 
+class QWidget;
+
 namespace pilote {
 
 /// The boxes of the desktop, answered by a click on the button that an operator would take. Some are awaited in their
