@@ -54,7 +54,8 @@ void CourbeEquipes::paintEvent(QPaintEvent *)
     const auto ecrit = [&](const QRectF &place, int cadrage, const QString &texte) {
         peintre.drawText(place, cadrage | Qt::TextSingleLine | Qt::TextDontClip, texte);
     };
-    ecrit({0, cadre.top() - mesure.height() / 2.0, double(gauche - bord), double(mesure.height())}, Qt::AlignRight, plus);
+    ecrit({0, cadre.top() - mesure.height() / 2.0, double(gauche - bord), double(mesure.height())}, Qt::AlignRight,
+          plus);
     ecrit({0, cadre.bottom() - mesure.height() / 2.0, double(gauche - bord), double(mesure.height())}, Qt::AlignRight,
           u"0"_qs);
     const QRectF dates(cadre.left(), cadre.bottom() + rayon, cadre.width(), mesure.height());

@@ -27,8 +27,9 @@ QVariant optionnelle(std::optional<int> nombre)
 /// The sums, in the order of their heads.
 void ajouteSommes(std::vector<QVariant> &cellules, const LigneSaison &ligne)
 {
-    cellules.insert(cellules.end(), {ligne.concours, ligne.parties, ligne.gagnees, ligne.pour, ligne.contre,
-                                     ligne.ecart(), optionnelle(ligne.meilleurePlace)});
+    cellules.insert(cellules.end(),
+                    {ligne.concours, ligne.parties, ligne.gagnees, ligne.pour, ligne.contre, ligne.ecart(),
+                     optionnelle(ligne.meilleurePlace)});
 }
 
 QString champCsv(QString texte)
@@ -67,16 +68,16 @@ void TableSaison::trie(int colonne, Qt::SortOrder ordre)
 TableSaison MotsSaison::table(const Saison &saison, VueSaison vue)
 {
     TableSaison table;
-    const QStringList sommes{tr("Concours"), tr("Parties"), tr("Gagnées"),       tr("Pour"),
+    const QStringList sommes{tr("Concours"), tr("Parties"), tr("Gagnées"), tr("Pour"),
                              tr("Contre"),   tr("Ecart"),   tr("Place")};
     if (vue == VueSaison::Concours) {
-        table.entetes = {tr("N°"), tr("Date"), tr("Lieu"), tr("Type"), tr("Catégorie"), tr("Equipes"),
-                         tr("Tours"),    tr("Parties")};
+        table.entetes = {tr("N°"),        tr("Date"),    tr("Lieu"),  tr("Type"),
+                         tr("Catégorie"), tr("Equipes"), tr("Tours"), tr("Parties")};
         for (const ConcoursJoue &joue : saison.concours) {
             const donnees::Concours &concours = joue.concours;
             const QVariant date = concours.date.estNull() ? QVariant() : QVariant(concours.date.date());
             table.lignes.push_back({NumeroConcours(concours.numero), date, concours.lieu, concours.type,
-                                    concours.categorie, joue.equipes, concours.tour, joue.parties});
+                                    concours.categorie, joue.equipes, joue.tours, joue.parties});
         }
         return table;
     }

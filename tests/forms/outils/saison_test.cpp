@@ -25,15 +25,20 @@ protected:
         ASSERT_TRUE(prog.demarre());
         const QString types[] = {u"1 - Doublettes"_qs, u"2 - Triplettes"_qs, u"1 - Doublettes"_qs};
         for (int i = 0; i < 3; ++i) {
-            const qint32 concours = poseConcours(
-                prog.base(),
-                {.type = types[i], .equipes = {{1, u"Éguilles"_qs}, {2, u"=Zénith; \"Sud\""_qs}, {3, u"Aups"_qs}}});
+            const qint32 concours =
+                poseConcours(prog.base(),
+                             {.type = types[i],
+                              .equipes = {{1, u"Éguilles"_qs}, {2, u"=Zénith; \"Sud\""_qs}, {3, u"Aups"_qs}}});
             poseRencontres(prog.base(), concours,
-                           {{.tour = 1, .rencontre = 1, .equipe1 = 1, .equipe2 = i == 2 ? 3 : 2, .score1 = i == 1 ? 9 : 13,
+                           {{.tour = 1,
+                             .rencontre = 1,
+                             .equipe1 = 1,
+                             .equipe2 = i == 2 ? 3 : 2,
+                             .score1 = i == 1 ? 9 : 13,
                              .score2 = i == 1 ? 13 : 5}});
-            prog.base().Execute(u"update concours set date = '2026-0%1-10', lieu = 'Lieu %1' where concours = %2"_qs
-                                    .arg(3 + i)
-                                    .arg(concours));
+            prog.base().Execute(
+                u"update concours set date = '2026-0%1-10', lieu = 'Lieu %1' where concours = %2"_qs.arg(3 + i).arg(
+                    concours));
         }
         prog.menu(u"mnu_Saison"_qs)->trigger();
         QApplication::processEvents();
@@ -99,8 +104,9 @@ TEST_F(VueSaisonEssai, TheListGoesToTheClipboardToPaperAndToASpreadsheet)
 {
     lignes()->selectRow(1);
     prog.clique(S, u"Copier"_qs);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(),
-              u"Club\tConcours\tParties\tGagnées\tPour\tContre\tEcart\tPlace\n=Zénith; \"Sud\"\t2\t2\t1\t18\t22\t-4\t1\n"_qs);
+    EXPECT_EQ(
+        QGuiApplication::clipboard()->text(),
+        u"Club\tConcours\tParties\tGagnées\tPour\tContre\tEcart\tPlace\n=Zénith; \"Sud\"\t2\t2\t1\t18\t22\t-4\t1\n"_qs);
 
     const QString chemin = prog.dossier() + u"/clubs.csv"_qs;
     prog.boites.attendFichier(u"Exporter la liste"_qs, chemin);
