@@ -4,6 +4,8 @@
 #include "partage/routines.h"
 #include "store/collation.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <numeric>
 
@@ -54,6 +56,11 @@ bool TableSaison::estNombre(int colonne) const
     });
 }
 
+Qt::SortOrder TableSaison::premierOrdre(int colonne) const
+{
+    return estNombre(colonne) && colonne != place ? Qt::DescendingOrder : Qt::AscendingOrder;
+}
+
 void TableSaison::trie(int colonne, Qt::SortOrder ordre)
 {
     std::ranges::stable_sort(lignes, [&](const std::vector<QVariant> &gauche, const std::vector<QVariant> &droite) {
@@ -90,6 +97,7 @@ TableSaison MotsSaison::table(const Saison &saison, VueSaison vue)
         ajouteSommes(cellules, ligne);
         table.lignes.push_back(std::move(cellules));
     }
+    table.place = table.colonnes() - 1;
     if (clubs) {
         table.parties = 2;
         table.gagnees = 3;
@@ -113,6 +121,19 @@ QString MotsSaison::resume(const Saison &saison)
 QString MotsSaison::texte(const Partage &partage, const QVariant &valeur)
 {
     return valeur.typeId() == QMetaType::QDate ? FormateDate(valeur.toDate(), partage.mes(117)) : valeur.toString();
+}
+
+QString TexteTabule(const QStringList &entetes, const std::vector<QStringList> &lignes)
+{
+    static const QRegularExpression separateurs(u"[\\t\\r\\n]+"_qs);
+    QString texte;
+    const auto ajoute = [&texte](QStringList cellules) {
+        texte += cellules.replaceInStrings(separateurs, u" "_qs).join(u'\t') + u'\n';
+    };
+    ajoute(entetes);
+    for (const QStringList &ligne : lignes)
+        ajoute(ligne);
+    return texte;
 }
 
 QByteArray FichierCsv(const QStringList &entetes, const std::vector<QStringList> &lignes)
