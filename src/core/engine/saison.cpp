@@ -63,7 +63,7 @@ struct BilanEquipe
     std::optional<int> place;
 };
 
-/// Sums under keys that are the same when they only differ in case or accents.
+/// Sums under keys that are the same when they only differ in case, as the store finds them.
 class Sommes
 {
 public:
@@ -72,20 +72,23 @@ public:
         auto connue = m_connues.constFind(cle);
         if (connue == m_connues.constEnd()) {
             const auto [place, nouvelle] = m_parOrdre.try_emplace(cle, m_lignes.size());
-            if (nouvelle)
+            if (nouvelle) {
                 m_lignes.push_back({.cle = cle});
+                m_dernieres.emplace_back();
+            }
             connue = m_connues.insert(cle, place->second);
         }
         return m_lignes[*connue];
     }
 
-    /// \p compte is set to the competition by the first team of the key that has played in it.
-    void ajoute(LigneSaison &ligne, qint32 concours, const BilanEquipe &bilan)
+    /// Teams come one after the other: a licence that stands twice in a team has played once.
+    void ajoute(LigneSaison &ligne, qint32 concours, int equipe, const BilanEquipe &bilan)
     {
-        qint32 &dernier = m_dernierConcours[std::size_t(&ligne - m_lignes.data())];
-        if (dernier != concours)
-            ++ligne.concours;
-        dernier = concours;
+        const auto derniere =
+            std::exchange(m_dernieres[std::size_t(&ligne - m_lignes.data())], std::pair(concours, equipe));
+        if (derniere == std::pair(concours, equipe))
+            return;
+        ligne.concours += derniere.first == concours ? 0 : 1;
         ligne.parties += bilan.parties;
         ligne.gagnees += bilan.ligne->gagnées;
         ligne.pour += bilan.ligne->pp.value_or(0);
@@ -96,7 +99,6 @@ public:
 
     std::vector<LigneSaison> triees() &&
     {
-        std::erase_if(m_lignes, [](const LigneSaison &ligne) { return ligne.concours == 0; });
         std::ranges::sort(m_lignes, [](const LigneSaison &a, const LigneSaison &b) {
             const auto merite = [](const LigneSaison &l) { return std::tuple(-l.gagnees, -l.ecart(), l.parties); };
             if (merite(a) != merite(b))
@@ -115,7 +117,7 @@ private:
     std::vector<LigneSaison> m_lignes;
     std::map<QString, std::size_t, Avant> m_parOrdre;
     QHash<QString, std::size_t> m_connues;
-    std::map<std::size_t, qint32> m_dernierConcours;
+    std::vector<std::pair<qint32, int>> m_dernieres; ///< Of each line, the competition and team counted last.
 };
 
 class Releve
@@ -134,12 +136,12 @@ public:
             if (equipe == equipes.end())
                 continue;
             if (premier && !m_club.isEmpty() && !donnees::EstPanache(m_club))
-                m_clubs.ajoute(m_clubs.ligne(m_club), concours, equipe->second);
+                m_clubs.ajoute(m_clubs.ligne(m_club), concours, membre.equipe, equipe->second);
             if (!membre.licence.isEmpty()) {
                 LigneSaison &ligne = m_licences.ligne(membre.licence);
                 ligne.nom = membre.nom;
                 ligne.club = m_club;
-                m_licences.ajoute(ligne, concours, equipe->second);
+                m_licences.ajoute(ligne, concours, membre.equipe, equipe->second);
             }
         }
     }
@@ -184,9 +186,15 @@ private:
     Sommes m_licences;
 };
 
+/// Invalid for a competition without a date.
+QDate jourDe(const donnees::Concours &concours)
+{
+    return concours.date.estNull() ? QDate() : concours.date.date();
+}
+
 bool retenu(const donnees::Concours &concours, const FiltreSaison &filtre)
 {
-    const QDate jour = concours.date.estNull() ? QDate() : concours.date.date();
+    const QDate jour = jourDe(concours);
     if (filtre.depuis.isValid() && !(jour >= filtre.depuis))
         return false;
     if (filtre.jusqua.isValid() && (!jour.isValid() || jour > filtre.jusqua))
@@ -201,7 +209,7 @@ QString CodeType(const QString &type)
     return type.section(u" - "_qs, 0, 0).trimmed();
 }
 
-Saison LitSaison(store::Database &base, const FiltreSaison &filtre)
+Saison LitSaison(store::Database &base, const FiltreSaison &filtre, const std::function<void(int)> &avance)
 {
     Saison saison;
     Releve releve;
@@ -232,14 +240,29 @@ Saison LitSaison(store::Database &base, const FiltreSaison &filtre)
                                .score2 = optionnel(ligne, 5),
                                .repechage = optionnel(ligne, 6)});
             const Partie &partie = parties.back();
-            joue.parties += partie.equipe2 == 0 || (partie.score1 && partie.score2) ? 1 : 0;
+            joue.tours = std::max(joue.tours, partie.tour);
+            joue.parties += partie.equipe2 > 0 && partie.score1 && partie.score2 ? 1 : 0;
         });
         releve.compte(joue, membres, parties);
         saison.concours.push_back(std::move(joue));
+        if (avance)
+            avance(int(saison.concours.size()));
     }
     std::move(releve).rend(saison);
-    std::ranges::stable_sort(saison.concours, {}, [](const ConcoursJoue &joue) {
-        return joue.concours.date.estNull() ? QDate() : joue.concours.date.date();
-    });
+    std::ranges::stable_sort(saison.concours, {}, [](const ConcoursJoue &joue) { return jourDe(joue.concours); });
     return saison;
+}
+
+std::vector<JourDeSaison> JoursDeSaison(const Saison &saison)
+{
+    std::vector<JourDeSaison> jours;
+    for (const ConcoursJoue &joue : saison.concours) {
+        const QDate jour = jourDe(joue.concours);
+        if (!jour.isValid())
+            continue;
+        if (jours.empty() || jours.back().jour != jour)
+            jours.push_back({.jour = jour});
+        jours.back().equipes += joue.equipes;
+    }
+    return jours;
 }

@@ -2,6 +2,7 @@
 
 #include "donnees/concours.h"
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -18,10 +19,21 @@ struct ConcoursJoue
 {
     donnees::Concours concours;
     int equipes = 0; ///< Registered.
-    int parties = 0; ///< With their results, byes among them.
+    int tours = 0; ///< Drawn.
+    int parties = 0; ///< Between two teams, with their results.
 };
 
-/// What a club or a licence has done over a season. A bye counts as in the ranking: a match won, 13 to 7.
+/// A day with competitions, and the teams registered in all of them.
+struct JourDeSaison
+{
+    QDate jour;
+    int equipes = 0;
+
+    bool operator==(const JourDeSaison &) const = default;
+};
+
+/// What a club or a licence has done over a season. All counts as in the ranking: a bye is a match won, 13 to 7, and a
+/// word in the place of a score its -1 to -3 points.
 struct LigneSaison
 {
     int ecart() const { return pour - contre; }
@@ -44,8 +56,12 @@ struct Saison
     std::vector<LigneSaison> licences = {}; ///< The same of the players; those without a licence are left out.
 };
 
-/// Reckons the season of \p base, in one pass over its teams and matches; changes nothing.
-Saison LitSaison(store::Database &base, const FiltreSaison &filtre = {});
+/// Reckons the season of \p base, in one pass over its teams and matches; changes nothing. \p avance hears how many
+/// competitions have been reckoned.
+Saison LitSaison(store::Database &base, const FiltreSaison &filtre = {}, const std::function<void(int)> &avance = {});
+
+/// The days of the competitions of \p saison, the first one first; those without a date are left out.
+std::vector<JourDeSaison> JoursDeSaison(const Saison &saison);
 
 /// Code of a type as a competition holds it.
 QString CodeType(const QString &type);

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "engine/saison.h"
+
 #include <QStringList>
 #include <QWidget>
 
-#include <vector>
-
-/// A line of the number of teams, competition after competition.
+/// A line of the number of teams, day after day. Its accessible name is its title.
 class CourbeEquipes : public QWidget
 {
     Q_OBJECT
@@ -13,16 +13,19 @@ class CourbeEquipes : public QWidget
 public:
     using QWidget::QWidget;
 
-    /// A point for each of \p equipes, not negative; \p debut and \p fin stand below the first and the last.
-    void montre(std::vector<int> equipes, const QString &debut, const QString &fin);
+    /// \p dates are the texts of the days of \p jours.
+    void montre(std::vector<JourDeSaison> jours, const QStringList &dates);
 
-    QSize sizeHint() const override { return {400, 120}; }
+    QSize sizeHint() const override { return {400, 140}; }
 
 protected:
+    bool event(QEvent *evenement) override;
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
-    std::vector<int> m_equipes;
-    QString m_debut;
-    QString m_fin;
+    QRectF cadre() const;
+    QString texte(std::size_t point) const;
+
+    std::vector<JourDeSaison> m_jours;
+    QStringList m_dates;
 };

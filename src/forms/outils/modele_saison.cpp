@@ -8,6 +8,9 @@ constexpr int largeurBarre = 160; // pixels
 constexpr int margeBarre = 8;
 const QColor jouees(0xB9, 0xCF, 0xE3);
 const QColor gagnees(0x1F, 0x58, 0x8A);
+/// On the ground of a row that is chosen.
+const QColor joueesChoisie(0x6F, 0x9B, 0xC2);
+const QColor gagneesChoisie(0xFF, 0xFF, 0xFF);
 
 } // namespace
 
@@ -57,8 +60,12 @@ int ModeleSaison::columnCount(const QModelIndex &parent) const
 
 QVariant ModeleSaison::data(const QModelIndex &place, int role) const
 {
-    if (!place.isValid() || place.column() >= m_table.colonnes())
+    if (!place.isValid())
         return {};
+    if (place.column() >= m_table.colonnes())
+        return role == Qt::AccessibleTextRole
+            ? texte(place.row(), m_table.gagnees) + u" / "_qs + texte(place.row(), m_table.parties)
+            : QVariant();
     if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
         return texte(place.row(), place.column());
     if (role == Qt::TextAlignmentRole)
@@ -68,6 +75,9 @@ QVariant ModeleSaison::data(const QModelIndex &place, int role) const
 
 QVariant ModeleSaison::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && section == m_table.place
+        && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
+        return tr("Meilleure place");
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     return section < m_table.colonnes() ? m_table.entetes[section] : QString();
@@ -81,8 +91,12 @@ void BarreSaison::paint(QPainter *peintre, const QStyleOptionViewItem &style, co
         return;
     const auto [part, gagnee] = modele->barre(place.row());
     const QRectF cadre = QRectF(style.rect).adjusted(margeBarre, margeBarre, -margeBarre, -margeBarre);
-    peintre->fillRect(QRectF(cadre.topLeft(), QSizeF(cadre.width() * part, cadre.height())), jouees);
-    peintre->fillRect(QRectF(cadre.topLeft(), QSizeF(cadre.width() * gagnee, cadre.height())), gagnees);
+    const bool choisie = style.state.testFlag(QStyle::State_Selected);
+    const auto peint = [&](double longueur, const QColor &couleur) {
+        peintre->fillRect(QRectF(cadre.topLeft(), QSizeF(cadre.width() * longueur, cadre.height())), couleur);
+    };
+    peint(part, choisie ? joueesChoisie : jouees);
+    peint(gagnee, choisie ? gagneesChoisie : gagnees);
 }
 
 QSize BarreSaison::sizeHint(const QStyleOptionViewItem &style, const QModelIndex &place) const

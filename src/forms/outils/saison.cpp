@@ -1,7 +1,7 @@
 #include "outils/saison.h"
 
 #include "fenetres/liste_a_choisir.h"
-#include "fenetres/sablier.h"
+#include "fenetres/patience.h"
 #include "outils/courbe_equipes.h"
 #include "outils/modele_saison.h"
 #include "partage/routines.h"
@@ -13,17 +13,13 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QSaveFile>
+#include <QSet>
 #include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
 
 constexpr int colonneSouple = 2; // club of a player, place of a competition
-
-QDate jourDe(const ConcoursJoue &joue)
-{
-    return joue.concours.date.estNull() ? QDate() : joue.concours.date.date();
-}
 
 /// Left ends of the columns on paper, in twips.
 std::vector<int> placesImprimees(VueSaison vue)
@@ -32,11 +28,11 @@ std::vector<int> placesImprimees(VueSaison vue)
     case VueSaison::Clubs:
         return {300, 3700, 4650, 5400, 6250, 7000, 7800, 8550};
     case VueSaison::Licences:
-        return {300, 1500, 4000, 6300, 7200, 7900, 8700, 9300, 10000, 10700};
+        return {300, 1500, 3900, 6100, 7030, 7790, 8620, 9200, 9900, 10560};
     case VueSaison::Concours:
         break;
     }
-    return {300, 1350, 2600, 5600, 7500, 8900, 9800, 10600};
+    return {300, 1350, 2600, 5600, 7400, 8700, 9600, 10300};
 }
 
 } // namespace
@@ -67,6 +63,7 @@ FormeSaison::FormeSaison(const Contexte &contexte, QWidget *parent)
             [this] { execute([this] { trie(m_ui->Lignes->currentIndex().column()); }); });
     connect(new QShortcut(QKeySequence::Copy, m_ui->Lignes, {}, {}, Qt::WidgetShortcut), &QShortcut::activated,
             m_ui->Copier, &QAbstractButton::click);
+    surClick(m_ui->Tout, [this] { Tout_Click(); });
     surClick(m_ui->Copier, [this] { Copier_Click(); });
     surClick(m_ui->Exporter, [this] { Exporter_Click(); });
     surClick(m_ui->Imprimer, [this] { Imprimer_Click(); });
@@ -103,7 +100,16 @@ void FormeSaison::Rafraichir()
     const Sablier sablier;
     proposeDates();
     proposeTypes();
-    m_saison = LitSaison(partage().BaseDonnees, m_filtre);
+    lit();
+}
+
+void FormeSaison::lit()
+{
+    {
+        PatienceTardive patience(contexte(), tr("Concours comptés"));
+        m_saison = LitSaison(partage().BaseDonnees, m_filtre, [&](int faits) { patience.avance(faits); });
+    }
+    m_jours = JoursDeSaison(m_saison);
     montre();
 }
 
@@ -137,8 +143,8 @@ void FormeSaison::proposeTypes()
     m_ui->Type->addItem(tr("tous"), QString());
     for (const QString &type : types)
         m_ui->Type->addItem(type, type);
-    const int choisi = m_ui->Type->findData(types.value(CodeType(m_filtre.type)));
-    m_ui->Type->setCurrentIndex(m_filtre.type.isEmpty() ? 0 : std::max(choisi, 0));
+    m_filtre.type = types.value(CodeType(m_filtre.type)); // none any more when its last competition has gone
+    m_ui->Type->setCurrentIndex(m_filtre.type.isEmpty() ? 0 : m_ui->Type->findData(m_filtre.type));
 }
 
 /// A date is a choice once it has been changed.
@@ -150,8 +156,15 @@ void FormeSaison::filtre()
         m_filtre.jusqua = m_ui->Jusqua->date();
     m_filtre.type = m_ui->Type->currentData().toString();
     const Sablier sablier;
-    m_saison = LitSaison(partage().BaseDonnees, m_filtre);
-    montre();
+    lit();
+}
+
+/// The whole base again, whatever it comes to hold.
+void FormeSaison::Tout_Click()
+{
+    m_filtre = {};
+    Rafraichir();
+    m_ui->Depuis->setFocus(); // the button is off now
 }
 
 VueSaison FormeSaison::vue() const
@@ -159,60 +172,96 @@ VueSaison FormeSaison::vue() const
     return VueSaison(m_ui->Vue->currentIndex());
 }
 
+/// First cell of a row, by which it is known in another reading.
+QString FormeSaison::cle(int ligne) const
+{
+    return ligne < 0 ? QString() : m_modele->texte(ligne, 0);
+}
+
 void FormeSaison::montre()
 {
+    remplit();
+    m_ui->Resume->setText(MotsSaison::resume(m_saison));
+    const bool vide = m_modele->rowCount() == 0;
+    for (QAbstractButton *bouton : {m_ui->Copier, m_ui->Exporter, m_ui->Imprimer})
+        bouton->setEnabled(!vide);
+    m_ui->Tout->setEnabled(m_filtre.depuis.isValid() || m_filtre.jusqua.isValid() || !m_filtre.type.isEmpty());
+    montreCourbe();
+}
+
+/// Rows are sorted as they were, and those that were chosen are so again.
+void FormeSaison::remplit()
+{
+    QItemSelectionModel &choix = *m_ui->Lignes->selectionModel();
+    const QString courante = cle(choix.currentIndex().row());
+    QSet<QString> choisies;
+    for (const QModelIndex &ligne : choix.selectedRows())
+        choisies += cle(ligne.row());
+
     m_modele->prend(MotsSaison::table(m_saison, vue()));
+    if (tri())
+        m_modele->trie(tri()->colonne, tri()->ordre);
+    montreTri();
     QHeaderView &tete = *m_ui->Lignes->horizontalHeader();
-    tete.setSortIndicatorShown(false);
-    m_tri.reset();
     tete.setSectionResizeMode(QHeaderView::ResizeToContents);
     const bool barres = m_modele->table().parties >= 0;
     tete.setStretchLastSection(barres);
     if (!barres)
         tete.setSectionResizeMode(colonneSouple, QHeaderView::Stretch);
+
+    int retrouvee = 0;
+    QItemSelection selection;
+    for (int ligne = 0; ligne < m_modele->rowCount(); ++ligne) {
+        if (cle(ligne) == courante)
+            retrouvee = ligne;
+        if (choisies.contains(cle(ligne)))
+            selection.select(m_modele->index(ligne, 0), m_modele->index(ligne, 0));
+    }
     if (m_modele->rowCount() > 0)
-        m_ui->Lignes->setCurrentIndex(m_modele->index(0, 0));
-    m_ui->Lignes->clearSelection();
-    m_ui->Resume->setText(MotsSaison::resume(m_saison));
-    const bool vide = m_modele->rowCount() == 0;
-    for (QAbstractButton *bouton : {m_ui->Copier, m_ui->Exporter, m_ui->Imprimer})
-        bouton->setEnabled(!vide);
-    montreCourbe();
+        m_ui->Lignes->setCurrentIndex(m_modele->index(retrouvee, 0));
+    choix.select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+QStringList FormeSaison::dates() const
+{
+    QStringList dates;
+    for (const JourDeSaison &jour : m_jours)
+        dates += FormateDate(jour.jour, mes(117));
+    return dates;
 }
 
 void FormeSaison::montreCourbe()
 {
-    std::vector<int> equipes;
-    for (const ConcoursJoue &joue : m_saison.concours)
-        equipes.push_back(joue.equipes);
-    const auto jour = [this](const ConcoursJoue &joue) { return FormateDate(jourDe(joue), mes(117)); };
-    const QString debut = equipes.empty() ? QString() : jour(m_saison.concours.front());
-    const QString fin = equipes.empty() ? QString() : jour(m_saison.concours.back());
-    QStringList nombres;
-    for (const int nombre : equipes)
-        nombres += QString::number(nombre);
-    m_ui->Courbe->setAccessibleDescription(debut + u" – "_qs + fin + u" : "_qs + nombres.join(u", "_qs));
-    m_ui->Courbe->montre(std::move(equipes), debut, fin);
+    m_ui->Courbe->montre(m_jours, dates());
 }
 
-/// Numbers begin with the greatest, texts and dates with the first; the same column again turns round.
+void FormeSaison::montreTri()
+{
+    QHeaderView &tete = *m_ui->Lignes->horizontalHeader();
+    tete.setSortIndicatorShown(tri().has_value());
+    if (tri())
+        tete.setSortIndicator(tri()->colonne, tri()->ordre);
+}
+
+/// The same column again turns round.
 void FormeSaison::trie(int colonne)
 {
-    if (colonne < 0 || colonne >= m_modele->table().colonnes())
-        return;
-    QHeaderView &tete = *m_ui->Lignes->horizontalHeader();
-    const bool croissant = m_tri && m_tri->colonne == colonne ? m_tri->ordre == Qt::DescendingOrder
-                                                              : !m_modele->table().estNombre(colonne);
-    m_tri = Tri{colonne, croissant ? Qt::AscendingOrder : Qt::DescendingOrder};
-    m_modele->trie(colonne, m_tri->ordre);
-    tete.setSortIndicator(colonne, m_tri->ordre);
-    tete.setSortIndicatorShown(true);
-    m_ui->Lignes->setCurrentIndex(m_modele->index(0, colonne));
-    m_ui->Lignes->clearSelection();
+    if (colonne >= 0 && colonne < m_modele->table().colonnes()) {
+        const bool encore = tri() && tri()->colonne == colonne;
+        const Qt::SortOrder inverse =
+            encore && tri()->ordre == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+        tri() = Tri{colonne, encore ? inverse : m_modele->table().premierOrdre(colonne)};
+        m_modele->trie(colonne, tri()->ordre);
+        m_ui->Lignes->setCurrentIndex(m_modele->index(0, colonne));
+        m_ui->Lignes->clearSelection();
+    }
+    montreTri();
 }
 
 QString FormeSaison::titre() const
 {
+    if (m_jours.empty())
+        return windowTitle();
     return tr("Saison du %1 au %2")
         .arg(FormateDate(m_ui->Depuis->date(), mes(117)), FormateDate(m_ui->Jusqua->date(), mes(117)));
 }
@@ -235,10 +284,7 @@ std::vector<QStringList> FormeSaison::textes(bool choisiesSeules) const
 
 void FormeSaison::Copier_Click()
 {
-    QString texte = m_modele->table().entetes.join(u'\t') + u'\n';
-    for (const QStringList &ligne : textes(true))
-        texte += ligne.join(u'\t') + u'\n';
-    QGuiApplication::clipboard()->setText(texte);
+    QGuiApplication::clipboard()->setText(TexteTabule(m_modele->table().entetes, textes(true)));
 }
 
 void FormeSaison::Exporter_Click()
@@ -259,14 +305,20 @@ void FormeSaison::Exporter_Click()
 
 void FormeSaison::Imprimer_Click()
 {
+    std::vector<bool> nombres;
+    for (int colonne = 0; colonne < m_modele->table().colonnes(); ++colonne)
+        nombres.push_back(m_modele->table().estNombre(colonne));
     ListeSaison liste{.titre = titre(),
+                      .type = m_filtre.type,
                       .resume = m_ui->Resume->text(),
                       .entetes = m_modele->table().entetes,
                       .places = placesImprimees(vue()),
-                      .lignes = textes(false)};
+                      .nombres = nombres,
+                      .lignes = textes(false),
+                      .titreCourbe = m_ui->Courbe->accessibleName(),
+                      .jours = m_jours,
+                      .dates = dates()};
     for (int ligne = 0; m_modele->table().parties >= 0 && ligne < m_modele->rowCount(); ++ligne)
         liste.barres.push_back(m_modele->barre(ligne));
-    for (const ConcoursJoue &joue : m_saison.concours)
-        liste.equipes.push_back(joue.equipes);
     ImprimeSaison(contexte(), liste);
 }

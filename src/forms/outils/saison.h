@@ -3,6 +3,7 @@
 #include "outils/forme_outil.h"
 #include "outils/table_saison.h"
 
+#include <array>
 #include <memory>
 
 namespace Ui {
@@ -35,13 +36,20 @@ private:
         Qt::SortOrder ordre;
     };
 
+    void lit();
     void filtre();
+    void Tout_Click();
     void proposeDates();
     void proposeTypes();
     void montre();
+    void remplit();
     void montreCourbe();
+    void montreTri();
     void trie(int colonne);
     VueSaison vue() const;
+    std::optional<Tri> &tri() { return m_tris[std::size_t(vue())]; }
+    QString cle(int ligne) const;
+    QStringList dates() const;
     QString titre() const;
     std::vector<QStringList> textes(bool choisiesSeules) const;
     void Copier_Click();
@@ -51,6 +59,7 @@ private:
     std::unique_ptr<Ui::Saison> m_ui;
     std::unique_ptr<ModeleSaison> m_modele;
     Saison m_saison;
-    std::optional<Tri> m_tri; ///< Nothing as long as the list stands in its own order.
+    std::vector<JourDeSaison> m_jours;
+    std::array<std::optional<Tri>, 3> m_tris; ///< Of each view; nothing as long as it stands in its own order.
     FiltreSaison m_filtre; ///< What the operator has chosen; without that a date follows the base.
 };

@@ -4,6 +4,8 @@
 #include "partage/routines.h"
 #include "store/collation.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <numeric>
 
@@ -54,6 +56,11 @@ bool TableSaison::estNombre(int colonne) const
     });
 }
 
+Qt::SortOrder TableSaison::premierOrdre(int colonne) const
+{
+    return estNombre(colonne) && colonne != place ? Qt::DescendingOrder : Qt::AscendingOrder;
+}
+
 void TableSaison::trie(int colonne, Qt::SortOrder ordre)
 {
     std::ranges::stable_sort(lignes, [&](const std::vector<QVariant> &gauche, const std::vector<QVariant> &droite) {
@@ -77,7 +84,7 @@ TableSaison MotsSaison::table(const Saison &saison, VueSaison vue)
             const donnees::Concours &concours = joue.concours;
             const QVariant date = concours.date.estNull() ? QVariant() : QVariant(concours.date.date());
             table.lignes.push_back({NumeroConcours(concours.numero), date, concours.lieu, concours.type,
-                                    concours.categorie, joue.equipes, concours.tour, joue.parties});
+                                    concours.categorie, joue.equipes, joue.tours, joue.parties});
         }
         return table;
     }
@@ -90,6 +97,7 @@ TableSaison MotsSaison::table(const Saison &saison, VueSaison vue)
         ajouteSommes(cellules, ligne);
         table.lignes.push_back(std::move(cellules));
     }
+    table.place = table.colonnes() - 1;
     if (clubs) {
         table.parties = 2;
         table.gagnees = 3;
@@ -113,6 +121,19 @@ QString MotsSaison::resume(const Saison &saison)
 QString MotsSaison::texte(const Partage &partage, const QVariant &valeur)
 {
     return valeur.typeId() == QMetaType::QDate ? FormateDate(valeur.toDate(), partage.mes(117)) : valeur.toString();
+}
+
+QString TexteTabule(const QStringList &entetes, const std::vector<QStringList> &lignes)
+{
+    static const QRegularExpression separateurs(u"[\\t\\r\\n]+"_qs);
+    QString texte;
+    const auto ajoute = [&texte](QStringList cellules) {
+        texte += cellules.replaceInStrings(separateurs, u" "_qs).join(u'\t') + u'\n';
+    };
+    ajoute(entetes);
+    for (const QStringList &ligne : lignes)
+        ajoute(ligne);
+    return texte;
 }
 
 QByteArray FichierCsv(const QStringList &entetes, const std::vector<QStringList> &lignes)

@@ -2,14 +2,18 @@
 
 #include <algorithm>
 
-std::vector<QPointF> PointsDeLaCourbe(const std::vector<int> &nombres, const QRectF &cadre)
+std::vector<QPointF> PointsDeLaCourbe(const std::vector<JourDeSaison> &jours, const QRectF &cadre)
 {
     std::vector<QPointF> points;
-    const int plus = nombres.empty() ? 0 : std::max(1, std::ranges::max(nombres));
-    for (std::size_t i = 0; i < nombres.size(); ++i) {
-        const double part = nombres.size() == 1 ? 0.5 : double(i) / double(nombres.size() - 1);
+    if (jours.empty())
+        return points;
+    const int plus = std::max(1, std::ranges::max(jours, {}, &JourDeSaison::equipes).equipes);
+    const QDate premier = jours.front().jour;
+    const double duree = double(premier.daysTo(jours.back().jour));
+    for (const JourDeSaison &jour : jours) {
+        const double part = duree > 0 ? double(premier.daysTo(jour.jour)) / duree : 0.5;
         points.emplace_back(cadre.left() + part * cadre.width(),
-                            cadre.bottom() - double(nombres[i]) / plus * cadre.height());
+                            cadre.bottom() - double(jour.equipes) / plus * cadre.height());
     }
     return points;
 }

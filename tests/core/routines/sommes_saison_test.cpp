@@ -66,9 +66,12 @@ std::map<QString, Somme> reckoned(store::Database &base, bool parLicence, const 
         const std::map<qint64, Bilan> equipes = bilans(base, concours, complet);
         store::Recordset membres =
             base.OpenRecordset(u"select * from equipes where concours = %1 order by equipe, doublon"_qs.arg(concours));
+        std::set<std::pair<qint64, QString>> comptees;
         for (; !membres.Eof(); membres.MoveNext()) {
             const auto equipe = equipes.find(membres[u"equipe"].entier());
             const QString cle = membres[parLicence ? u"licence" : u"societe"].texte();
+            if (!comptees.emplace(membres[u"equipe"].entier(), cle).second)
+                continue;
             const bool hors = !parLicence && (membres[u"doublon"].entier() != 0 || cle.toLower() == u"*panachée");
             if (equipe == equipes.end() || cle.isEmpty() || hors)
                 continue;
@@ -132,6 +135,8 @@ TEST(SommesSaison, ClubsAndLicencesAddUpToWhatTheRowsOfAllCompetitionsTell)
     base.native().executeScript(
         u"update equipes set licence = 'L' || (equipe % 23) || doublon, nom = 'Nom' || concours;"
         "update equipes set licence = '' where equipe % 5 = 0 and doublon = 1;"
+        "update equipes set licence = 'L' || equipe where equipe % 7 = 0;"
+        "update concours set tourpri = 4 where concours = 7;"
         "update scores set score_1 = null, score_2 = null where concours = 4 and tour = 3 and equipe_1 < 9;"
         "update concours set date = null where concours = 6;"_qs);
 
@@ -140,6 +145,8 @@ TEST(SommesSaison, ClubsAndLicencesAddUpToWhatTheRowsOfAllCompetitionsTell)
     EXPECT_EQ(saison.concours[0].concours.numero, 6) << "the one without a date";
     EXPECT_EQ(saison.concours[1].concours.numero, 7);
     EXPECT_EQ(saison.concours[1].equipes, 51);
+    EXPECT_EQ(saison.concours[1].tours, 6) << "as drawn; a round cancelled before leaves another number in the row";
+    EXPECT_EQ(saison.concours[1].parties, 6 * 25) << "a bye is no match of two teams";
     compare(saison.clubs, reckoned(base, false), false);
     compare(saison.licences, reckoned(base, true), true);
     EXPECT_EQ(saison.licences.front().nom.left(4), u"Nom7"_qs) << "as he was registered last";
@@ -149,4 +156,10 @@ TEST(SommesSaison, ClubsAndLicencesAddUpToWhatTheRowsOfAllCompetitionsTell)
     saison = LitSaison(base, {.type = u"2 - Tripletas"_qs});
     compare(saison.licences, reckoned(base, true, u"type like '2*'"_qs), true);
     EXPECT_EQ(saison.concours.size(), 4U) << "the code of a type counts, whatever its language";
+
+    base.Execute(u"update concours set date = '2026-04-14' where concours = 4"); // the day of another one
+    const std::vector<JourDeSaison> jours = JoursDeSaison(LitSaison(base));
+    ASSERT_EQ(jours.size(), 5U) << "without the one that has no date";
+    EXPECT_EQ(jours[0], (JourDeSaison{QDate(2026, 2, 12), 51}));
+    EXPECT_EQ(jours[1], (JourDeSaison{QDate(2026, 4, 14), 30 + 37}));
 }

@@ -1,6 +1,7 @@
 #include "commun/programme_pilote.h"
 #include "feuilles_essai.h"
 #include "outils/table_saison.h"
+#include "printing/courbe.h"
 
 #include <QClipboard>
 #include <QDateEdit>
@@ -87,11 +88,36 @@ TEST_F(VueSaisonEssai, ListsAreSortedFilteredAndNarrowed)
     EXPECT_EQ(colonne(2), u"Lieu 5"_qs);
     EXPECT_EQ(prog.texte(S, u"Resume"_qs), u"1 concours, 3 équipes, 1 partie, 2 clubs, 4 licences"_qs);
 
+    // A list keeps its order over readings and views; a type whose competitions have gone is chosen no more.
+    prog.controle<QTabBar>(S, u"Vue"_qs)->setCurrentIndex(0);
+    EXPECT_EQ(colonne(6), u"8|-8"_qs);
+    clique(7);
+    EXPECT_EQ(colonne(7), u"1|2"_qs) << "the best place first";
+    clique(7);
+    EXPECT_EQ(colonne(0), u"Aups|Éguilles"_qs);
+    clique(8);
+    EXPECT_EQ(lignes()->horizontalHeader()->sortIndicatorSection(), 7) << "bars are not sorted by";
+    EXPECT_EQ(colonne(0), u"Aups|Éguilles"_qs);
+    lignes()->selectAll();
+    prog.base().Execute(u"update concours set type = '2 - Triplettes'");
+    prog.formulaires().forme(S)->Rafraichir();
+    EXPECT_EQ(type->currentIndex(), 0);
+    EXPECT_EQ(colonne(0), u"Aups|=Zénith; \"Sud\"|Éguilles"_qs);
+    QStringList choisies;
+    for (const QModelIndex &ligne : lignes()->selectionModel()->selectedRows())
+        choisies += ligne.data().toString();
+    EXPECT_EQ(choisies.join(u'|'), u"Aups|Éguilles"_qs);
+    prog.clique(S, u"Tout"_qs);
+    EXPECT_EQ(prog.controle<QDateEdit>(S, u"Depuis"_qs)->date(), QDate(2026, 3, 10));
+    EXPECT_FALSE(prog.controle(S, u"Tout"_qs)->isEnabled());
+    prog.controle<QTabBar>(S, u"Vue"_qs)->setCurrentIndex(2);
+    EXPECT_EQ(colonne(2), u"Lieu 3|Lieu 4|Lieu 5"_qs);
+
     // A day that has not been chosen follows the base.
     prog.base().Execute(u"update concours set date = '2026-12-24' where concours = 3");
     prog.formulaires().forme(S)->Rafraichir();
     EXPECT_EQ(prog.controle<QDateEdit>(S, u"Jusqua"_qs)->date(), QDate(2026, 12, 24));
-    EXPECT_EQ(colonne(1), u"24/12/2026"_qs);
+    EXPECT_EQ(colonne(1), u"10/03/2026|10/04/2026|24/12/2026"_qs);
 }
 
 TEST_F(VueSaisonEssai, TheListGoesToTheClipboardToPaperAndToASpreadsheet)
@@ -101,6 +127,8 @@ TEST_F(VueSaisonEssai, TheListGoesToTheClipboardToPaperAndToASpreadsheet)
     EXPECT_EQ(
         QGuiApplication::clipboard()->text(),
         u"Club\tConcours\tParties\tGagnées\tPour\tContre\tEcart\tPlace\n=Zénith; \"Sud\"\t2\t2\t1\t18\t22\t-4\t1\n"_qs);
+    EXPECT_EQ(TexteTabule({u"Club"_qs, u"Parties"_qs}, {{u"Aups\tVar\r\n83"_qs, u"2"_qs}}),
+              u"Club\tParties\nAups Var 83\t2\n"_qs);
 
     const QString chemin = prog.dossier() + u"/clubs.csv"_qs;
     prog.boites.attendFichier(u"Exporter la liste"_qs, chemin);
@@ -138,4 +166,29 @@ TEST_F(VueSaisonEssai, TheListGoesToTheClipboardToPaperAndToASpreadsheet)
             delADerniere = std::max(delADerniere, trait.x2 - trait.x1);
     }
     EXPECT_NEAR(plusLongue, 3 * delADerniere, 6);
+
+    // The line has its days and its greatest number, and what was chosen stands below the title.
+    EXPECT_NE(trouve(page, u"10/03/2026"_qs), nullptr);
+    EXPECT_NE(trouve(page, u"10/05/2026"_qs), nullptr);
+    auto *type = prog.controle<QComboBox>(S, u"Type"_qs);
+    type->setCurrentIndex(1);
+    Q_EMIT type->activated(1);
+    prog.clique(S, u"Imprimer"_qs);
+    EXPECT_NE(trouve(documents[1][0], u"1 - Doublettes"_qs), nullptr);
+    prog.base().Execute(u"update concours set date = null");
+    prog.formulaires().forme(S)->Rafraichir();
+    prog.clique(S, u"Imprimer"_qs);
+    EXPECT_NE(trouve(documents[2][0], u"Saison"_qs), nullptr);
+    for (const Pages &document : documents)
+        VerifiePlaces(document[0], papierA4.width() - 480, papierA4.height() - 800);
+}
+
+TEST(CourbeSaison, PointsStandAsTimeGoesBy)
+{
+    const QRectF cadre(10, 20, 100, 40);
+    const QDate jour(2026, 3, 1);
+    EXPECT_TRUE(PointsDeLaCourbe({}, cadre).empty());
+    EXPECT_EQ(PointsDeLaCourbe({{jour, 0}}, cadre), std::vector<QPointF>({{60, 60}}));
+    EXPECT_EQ(PointsDeLaCourbe({{jour, 10}, {jour.addDays(1), 20}, {jour.addDays(10), 0}}, cadre),
+              std::vector<QPointF>({{10, 40}, {20, 20}, {110, 60}}));
 }

@@ -257,6 +257,10 @@
         <source>La liste n&apos;a pas pu être écrite : %1</source>
         <translation>Die Liste konnte nicht geschrieben werden: %1</translation>
     </message>
+    <message>
+        <source>Concours comptés</source>
+        <translation>Wettbewerbe gezählt</translation>
+    </message>
 </context>
 <context>
     <name>ListesPubliques</name>
@@ -356,6 +360,13 @@
     <message>
         <source>&amp;Saison</source>
         <translation>&amp;Saison</translation>
+    </message>
+</context>
+<context>
+    <name>ModeleSaison</name>
+    <message>
+        <source>Meilleure place</source>
+        <translation>Bester Platz</translation>
     </message>
 </context>
 <context>
@@ -797,10 +808,6 @@
         <translation>Art</translation>
     </message>
     <message>
-        <source>Nombre d&apos;équipes, concours après concours</source>
-        <translation>Zahl der Mannschaften, Wettbewerb für Wettbewerb</translation>
-    </message>
-    <message>
         <source>Liste montrée</source>
         <translation>Gezeigte Liste</translation>
     </message>
@@ -823,6 +830,14 @@
     <message>
         <source>Fermer</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Tout montrer</source>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, jour après jour</source>
+        <translation>Zahl der Mannschaften, Tag für Tag</translation>
     </message>
 </context>
 <context>

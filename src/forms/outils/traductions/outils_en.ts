@@ -257,6 +257,10 @@
         <source>La liste n&apos;a pas pu être écrite : %1</source>
         <translation>The list could not be written: %1</translation>
     </message>
+    <message>
+        <source>Concours comptés</source>
+        <translation>Competitions counted</translation>
+    </message>
 </context>
 <context>
     <name>ListesPubliques</name>
@@ -356,6 +360,13 @@
     <message>
         <source>&amp;Saison</source>
         <translation>&amp;Season</translation>
+    </message>
+</context>
+<context>
+    <name>ModeleSaison</name>
+    <message>
+        <source>Meilleure place</source>
+        <translation>Best place</translation>
     </message>
 </context>
 <context>
@@ -797,10 +808,6 @@
         <translation>Type</translation>
     </message>
     <message>
-        <source>Nombre d&apos;équipes, concours après concours</source>
-        <translation>Number of teams, competition by competition</translation>
-    </message>
-    <message>
         <source>Liste montrée</source>
         <translation>List shown</translation>
     </message>
@@ -823,6 +830,14 @@
     <message>
         <source>Fermer</source>
         <translation>Close</translation>
+    </message>
+    <message>
+        <source>Tout montrer</source>
+        <translation>Show all</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, jour après jour</source>
+        <translation>Number of teams, day after day</translation>
     </message>
 </context>
 <context>

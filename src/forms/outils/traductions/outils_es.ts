@@ -257,6 +257,10 @@
         <source>La liste n&apos;a pas pu être écrite : %1</source>
         <translation>No se pudo escribir la lista: %1</translation>
     </message>
+    <message>
+        <source>Concours comptés</source>
+        <translation>Concursos contados</translation>
+    </message>
 </context>
 <context>
     <name>ListesPubliques</name>
@@ -356,6 +360,13 @@
     <message>
         <source>&amp;Saison</source>
         <translation>&amp;Temporada</translation>
+    </message>
+</context>
+<context>
+    <name>ModeleSaison</name>
+    <message>
+        <source>Meilleure place</source>
+        <translation>Mejor puesto</translation>
     </message>
 </context>
 <context>
@@ -797,10 +808,6 @@
         <translation>Tipo</translation>
     </message>
     <message>
-        <source>Nombre d&apos;équipes, concours après concours</source>
-        <translation>Número de equipos, concurso por concurso</translation>
-    </message>
-    <message>
         <source>Liste montrée</source>
         <translation>Lista mostrada</translation>
     </message>
@@ -823,6 +830,14 @@
     <message>
         <source>Fermer</source>
         <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Tout montrer</source>
+        <translation>Mostrar todo</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, jour après jour</source>
+        <translation>Número de equipos, día a día</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>La liste n&apos;a pas pu être écrite : %1</source>
         <translation>Non è stato possibile scrivere l&apos;elenco: %1</translation>
     </message>
+    <message>
+        <source>Concours comptés</source>
+        <translation>Gare contate</translation>
+    </message>
 </context>
 <context>
     <name>ListesPubliques</name>
@@ -356,6 +360,13 @@
     <message>
         <source>&amp;Saison</source>
         <translation>S&amp;tagione</translation>
+    </message>
+</context>
+<context>
+    <name>ModeleSaison</name>
+    <message>
+        <source>Meilleure place</source>
+        <translation>Miglior posto</translation>
     </message>
 </context>
 <context>
@@ -797,10 +808,6 @@
         <translation>Tipo</translation>
     </message>
     <message>
-        <source>Nombre d&apos;équipes, concours après concours</source>
-        <translation>Numero di squadre, gara per gara</translation>
-    </message>
-    <message>
         <source>Liste montrée</source>
         <translation>Elenco mostrato</translation>
     </message>
@@ -823,6 +830,14 @@
     <message>
         <source>Fermer</source>
         <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Tout montrer</source>
+        <translation>Mostra tutto</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, jour après jour</source>
+        <translation>Numero di squadre, giorno per giorno</translation>
     </message>
 </context>
 <context>

@@ -257,6 +257,10 @@
         <source>La liste n&apos;a pas pu être écrite : %1</source>
         <translation>De lijst kon niet worden geschreven: %1</translation>
     </message>
+    <message>
+        <source>Concours comptés</source>
+        <translation>Wedstrijden geteld</translation>
+    </message>
 </context>
 <context>
     <name>ListesPubliques</name>
@@ -356,6 +360,13 @@
     <message>
         <source>&amp;Saison</source>
         <translation>&amp;Seizoen</translation>
+    </message>
+</context>
+<context>
+    <name>ModeleSaison</name>
+    <message>
+        <source>Meilleure place</source>
+        <translation>Beste plaats</translation>
     </message>
 </context>
 <context>
@@ -797,10 +808,6 @@
         <translation>Soort</translation>
     </message>
     <message>
-        <source>Nombre d&apos;équipes, concours après concours</source>
-        <translation>Aantal teams, wedstrijd na wedstrijd</translation>
-    </message>
-    <message>
         <source>Liste montrée</source>
         <translation>Getoonde lijst</translation>
     </message>
@@ -823,6 +830,14 @@
     <message>
         <source>Fermer</source>
         <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Tout montrer</source>
+        <translation>Alles tonen</translation>
+    </message>
+    <message>
+        <source>Nombre d&apos;équipes, jour après jour</source>
+        <translation>Aantal teams, dag na dag</translation>
     </message>
 </context>
 <context>
