@@ -68,7 +68,7 @@ void OuvreListeJoueurs(benchmark::State &etat)
         etat.PauseTiming();
         if (table.grille(u"listjo"_qs).Rows() != joueurs + 1)
             etat.SkipWithError("the list is not whole");
-        table.prog.formulaires().Decharge(NomForme(u"listjo"));
+        table.prog.decharge(NomForme(u"listjo"));
         etat.ResumeTiming();
     }
 }
@@ -84,7 +84,7 @@ void OuvreListeEquipes(benchmark::State &etat)
         etat.PauseTiming();
         if (table.grille(u"listeq"_qs).Rows() != 3 * etat.range(0) + 1)
             etat.SkipWithError("the list is not whole");
-        table.prog.formulaires().Decharge(NomForme(u"listeq"));
+        table.prog.decharge(NomForme(u"listeq"));
         etat.ResumeTiming();
     }
 }

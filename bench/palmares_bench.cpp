@@ -44,8 +44,7 @@ void Palmares(benchmark::State &etat)
         prog.formulaires().Montre(NomForme(u"palmares"));
         QApplication::processEvents();
         etat.PauseTiming();
-        prog.formulaires().Decharge(NomForme(u"palmares"));
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        prog.decharge(NomForme(u"palmares"));
         etat.ResumeTiming();
     }
 }

@@ -118,7 +118,7 @@ void SommesSaison(benchmark::State &etat)
         etat.PauseTiming();
         if (prog.controle<QTableView>(u"Saison"_qs, u"Lignes"_qs)->model()->rowCount() == 0)
             etat.SkipWithError("the list is empty");
-        prog.formulaires().Decharge(NomForme(u"Saison"));
+        prog.decharge(NomForme(u"Saison"));
         QApplication::processEvents();
         etat.ResumeTiming();
     }

@@ -44,6 +44,12 @@ void ProgrammePilote::termine()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+void ProgrammePilote::decharge(NomForme nom)
+{
+    formulaires().Decharge(nom);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 QWidget *ProgrammePilote::torvik() const
 {
     return m_programme->torvik();

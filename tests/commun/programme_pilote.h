@@ -70,6 +70,9 @@ public:
     /// Where no copy can be made, \p acte, behind its own \p question if it has one, asks whether to go on: No leaves
     /// the file as it was, Yes changes it.
     void verifieSansCopie(const std::function<void()> &acte, const QString &question = {});
+    /// Unloads a form and lets its window go with it. Unloaded outside every event loop, a window would last until the
+    /// next form runs one while it comes up, which then loses the window whose focus it takes.
+    void decharge(NomForme nom);
     /// Opens a family of forms from the main window, by its button.
     void ouvre(const QString &bouton) { clique({}, bouton); }
 

@@ -88,7 +88,7 @@ TEST_F(ChoixLangue, LaLangueActivePerdSaMarque)
     EXPECT_EQ(prog.partage().LangueCourante, 1);
     EXPECT_EQ(prog.partage().Traducteur, u""_qs);
     EXPECT_EQ(menuResultats(), u"Résultats"_qs);
-    prog.formulaires().Decharge(NomForme(u"langues"));
+    prog.decharge(NomForme(u"langues"));
     ouvre();
     EXPECT_EQ(combo->currentText(), QString()) << "without an active language the field is empty";
     EXPECT_EQ(combo->count(), 6);

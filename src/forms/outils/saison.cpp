@@ -80,7 +80,8 @@ void FormeSaison::Form_Load()
 
 void FormeSaison::Form_Activate()
 {
-    Rafraichir();
+    if (aRelire())
+        Rafraichir();
 }
 
 void FormeSaison::traduit()
@@ -103,8 +104,17 @@ void FormeSaison::Rafraichir()
     lit();
 }
 
+/// Coming back from another window reads nothing when nothing has been written: in a large base it is a while.
+bool FormeSaison::aRelire()
+{
+    store::Database &base = partage().BaseDonnees;
+    return m_base.lock() != base.temoin().lock() || m_changements != base.native().changements();
+}
+
 void FormeSaison::lit()
 {
+    m_base = partage().BaseDonnees.temoin();
+    m_changements = partage().BaseDonnees.native().changements();
     {
         PatienceTardive patience(contexte(), tr("Concours comptés"));
         m_saison = LitSaison(partage().BaseDonnees, m_filtre, [&](int faits) { patience.avance(faits); });

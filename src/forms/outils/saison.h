@@ -36,6 +36,7 @@ private:
         Qt::SortOrder ordre;
     };
 
+    bool aRelire();
     void lit();
     void filtre();
     void Tout_Click();
@@ -59,6 +60,8 @@ private:
     std::unique_ptr<Ui::Saison> m_ui;
     std::unique_ptr<ModeleSaison> m_modele;
     Saison m_saison;
+    std::weak_ptr<const void> m_base; ///< The opening of the file that was read.
+    int m_changements = -1; ///< Rows that its connection had changed then.
     std::vector<JourDeSaison> m_jours;
     std::array<std::optional<Tri>, 3> m_tris; ///< Of each view; nothing as long as it stands in its own order.
     FiltreSaison m_filtre; ///< What the operator has chosen; without that a date follows the base.

@@ -101,11 +101,11 @@ TEST_F(Rapport, ItOpensBehindADrawOnlyWhenAskedToAndWithSomethingToTell)
     apresTirage(prog.formulaires()).traite();
     EXPECT_TRUE(prog.formulaires().estVisible(R));
     EXPECT_TRUE(prog.controle<QAbstractButton>(R, u"Apres_tirage"_qs)->isChecked());
-    prog.formulaires().Decharge(NomForme(R));
+    prog.decharge(NomForme(R));
     prog.partage().TourCourant = 1;
     apresTirage(prog.formulaires()).traite();
     EXPECT_TRUE(prog.formulaires().estChargee(R)) << "round 1 has a pair of one club";
-    prog.formulaires().Decharge(NomForme(R));
+    prog.decharge(NomForme(R));
     prog.base().Execute(u"update equipes set societe = 'Z' where equipe = 1");
     apresTirage(prog.formulaires()).traite();
     EXPECT_FALSE(prog.formulaires().estChargee(R));
